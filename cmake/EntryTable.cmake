@@ -1,0 +1,56 @@
+# Writes the assembler file of exported stubs and their slots.
+#   cmake -DHEADERS="a.h;b.h" -DOUTPUT=entries.S -P EntryTable.cmake
+# The names are those of the prototypes marked TPX_API, in byte order. A stub is ten bytes: the address of
+# its slot is loaded into a scratch register, and control jumps through the slot with all arguments
+# untouched. The slots stand in writable data and are filled when the library is loaded.
+set(names)
+foreach(header IN LISTS HEADERS)
+    file(READ ${header} text)
+    string(REGEX MATCHALL "TPX_API [A-Za-z0-9_ *]*tpx[ir][A-Za-z0-9_]+\\(" prototypes "${text}")
+    foreach(prototype IN LISTS prototypes)
+        string(REGEX REPLACE ".*[ *](tpx[ir][A-Za-z0-9_]+)\\($" "\\1" name "${prototype}")
+        list(APPEND names ${name})
+    endforeach()
+endforeach()
+list(SORT names COMPARE STRING CASE SENSITIVE)
+set(unique ${names})
+list(REMOVE_DUPLICATES unique)
+if(NOT unique STREQUAL names)
+    message(FATAL_ERROR "a name is declared twice in the public headers")
+endif()
+
+set(stubs)
+set(slots)
+foreach(name IN LISTS names)
+    string(APPEND stubs "    STUB ${name}\n")
+    string(APPEND slots "    SLOT ${name}\n")
+endforeach()
+
+file(WRITE ${OUTPUT}.new
+"    .macro STUB name
+    .globl \\name
+    .type \\name, @function
+\\name:
+    leaq \\name\\()_arraddr(%rip), %r11
+    jmp *(%r11)
+    .size \\name, . - \\name
+    .endm
+
+    .macro SLOT name
+    .type \\name\\()_arraddr, @object
+\\name\\()_arraddr:
+    .hidden e9_\\name
+    .quad e9_\\name
+    .size \\name\\()_arraddr, 8
+    .endm
+
+    .text
+    .p2align 4
+${stubs}
+    .data
+    .p2align 6
+${slots}
+    .section .note.GNU-stack, \"\", @progbits
+")
+file(COPY_FILE ${OUTPUT}.new ${OUTPUT} ONLY_IF_DIFFERENT)
+file(TOUCH_NOCREATE ${OUTPUT})

@@ -1,0 +1,46 @@
+# libtpxie9: the sources of every room, and the entry table generated from the public headers.
+file(GLOB TPX_SOURCES CONFIGURE_DEPENDS
+     ${PROJECT_SOURCE_DIR}/frame/*.cpp
+     ${PROJECT_SOURCE_DIR}/arithmetic/*.cpp
+     ${PROJECT_SOURCE_DIR}/movement/*.cpp
+     ${PROJECT_SOURCE_DIR}/geometry/*.cpp)
+file(GLOB TPX_PUBLIC_HEADERS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/tpxi/*.h)
+
+set(TPX_ENTRY_TABLE ${PROJECT_BINARY_DIR}/generated/entries.S)
+add_custom_command(
+    OUTPUT ${TPX_ENTRY_TABLE}
+    COMMAND ${CMAKE_COMMAND} -DHEADERS="${TPX_PUBLIC_HEADERS}" -DOUTPUT=${TPX_ENTRY_TABLE}
+            -P ${PROJECT_SOURCE_DIR}/cmake/EntryTable.cmake
+    DEPENDS ${TPX_PUBLIC_HEADERS} ${PROJECT_SOURCE_DIR}/cmake/EntryTable.cmake
+    COMMENT "Generating the entry table"
+    VERBATIM)
+
+# Everything but the exported stubs. The tests link it again to reach the run routines, which are internal.
+add_library(tpxi_objects OBJECT ${TPX_SOURCES})
+target_include_directories(tpxi_objects PUBLIC ${PROJECT_SOURCE_DIR}/include PRIVATE ${PROJECT_SOURCE_DIR})
+target_link_libraries(tpxi_objects PRIVATE tpx_flags)
+set_target_properties(tpxi_objects PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden
+                                              VISIBILITY_INLINES_HIDDEN ON CXX_EXTENSIONS ON)
+# No contraction: a product and a sum are rounded one by one, on every target alike.
+target_compile_options(tpxi_objects PRIVATE -mavx -ffp-contract=off -fno-math-errno -fno-trapping-math
+                       -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-stack-protector
+                       -fno-asynchronous-unwind-tables)
+if(TPX_SANITIZE)
+    target_compile_definitions(tpxi_objects PRIVATE TPX_HOSTED)
+else()
+    # The memory functions that compilers call must not be compiled into calls of themselves.
+    set_source_files_properties(${PROJECT_SOURCE_DIR}/frame/builtins.cpp PROPERTIES COMPILE_OPTIONS
+                                "-fno-builtin;$<$<CXX_COMPILER_ID:GNU>:-fno-tree-loop-distribute-patterns>")
+endif()
+
+add_library(tpxie9 SHARED ${TPX_ENTRY_TABLE} $<TARGET_OBJECTS:tpxi_objects>)
+add_library(tpxi::tpxie9 ALIAS tpxie9)
+target_include_directories(tpxie9 INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+                                            $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+target_link_libraries(tpxie9 PRIVATE tpxcore $<$<BOOL:${TPX_SANITIZE}>:tpx_flags>)
+set_target_properties(tpxie9 PROPERTIES VERSION 2017.0.3 SOVERSION 2017.0.0 LINKER_LANGUAGE CXX)
+if(NOT TPX_SANITIZE)
+    # Freestanding: no start files, no standard libraries; only libtpxcore may be left undefined.
+    target_link_options(tpxie9 PRIVATE -nostdlib -nostartfiles -Wl,--no-undefined -Wl,--gc-sections)
+endif()
+target_link_options(tpxie9 PRIVATE -Wl,-z,noexecstack -Wl,--as-needed)
