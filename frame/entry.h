@@ -13,9 +13,9 @@ struct ReturnType<R(A...)> {
     using type = R;
 };
 
-}  // namespace tpx
+} // namespace tpx
 
 // TPX_ENTRY(tpxiName)(arguments) { ... }. A signature other than the prototype's does not compile.
-#define TPX_ENTRY(name)             \
+#define TPX_ENTRY(name)                  \
     extern "C" decltype(name) e9_##name; \
     tpx::ReturnType<decltype(name)>::type e9_##name

@@ -3,16 +3,10 @@
 
 namespace {
 
-constexpr TpxLibraryVersion kVersion = {2017,
-                                        0,
-                                        3,
-                                        55431,
-                                        {'e', '9', 0, 0},
-                                        "tpxIP AVX (e9)",
-                                        "2017.0.3 (r55431)",
-                                        "Apr 12 2017"};
+constexpr TpxLibraryVersion kVersion = {
+    2017, 0, 3, 55431, {'e', '9', 0, 0}, "tpxIP AVX (e9)", "2017.0.3 (r55431)", "Apr 12 2017"};
 
-}  // namespace
+} // namespace
 
 TPX_ENTRY(tpxiGetLibVersion)() { return &kVersion; }
 

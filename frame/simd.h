@@ -1,0 +1,278 @@
+// The SIMD vocabulary: registers of samples and the words that the language's operators lack.
+//
+// Vec<T> is a register of samples of type T. Operators, comparisons and ?: work on it lane by lane, so a rule
+// is written as it would be for one sample. Everything below is a word; it and a kernel that lives on one
+// particular shuffle are the only places that name an instruction. Nothing else states how wide a register is.
+#pragma once
+
+#include <immintrin.h>
+
+#include <type_traits>
+
+#include "tpxi/types.h"
+
+namespace tpx {
+
+// ---- Registers -----------------------------------------------------------------------------------------
+
+// AVX has 32-byte arithmetic for floating point alone; integers work in 16 bytes.
+template <class T>
+inline constexpr int kRegisterBytes = std::is_floating_point_v<T> ? 32 : 16;
+
+template <class T>
+struct VecOf {
+    typedef T type __attribute__((vector_size(kRegisterBytes<T>)));
+};
+template <class T>
+using Vec = typename VecOf<T>::type;
+
+template <class T>
+inline constexpr int kLanes = kRegisterBytes<T> / int(sizeof(T));
+
+using V8u = Vec<Tpx8u>;
+using V8s = Vec<Tpx8s>;
+using V16u = Vec<Tpx16u>;
+using V16s = Vec<Tpx16s>;
+using V32u = Vec<Tpx32u>;
+using V32s = Vec<Tpx32s>;
+using V64u = Vec<Tpx64u>;
+using V32f = Vec<Tpx32f>;
+using V64f = Vec<Tpx64f>;
+
+template <class V>
+using LaneOf = std::remove_cvref_t<decltype(V{}[0])>;
+
+// Two registers that together hold the lanes of one register of samples half their width.
+template <class V>
+struct Pair {
+    V low, high;
+};
+
+// The integer with the width of a floating-point sample, and its register (32 bytes, unlike Vec<Tpx32s>):
+// what a comparison of Vec<T> gives, and how the bits of a float are worked on.
+template <class T>
+using BitsOf = std::conditional_t<sizeof(T) == 8, Tpx64s, Tpx32s>;
+template <class T>
+struct VecBitsOf {
+    typedef BitsOf<T> type __attribute__((vector_size(kRegisterBytes<T>)));
+};
+template <class T>
+using VecBits = typename VecBitsOf<T>::type;
+using B32f = VecBits<Tpx32f>;
+using B64f = VecBits<Tpx64f>;
+
+// ---- Memory and constants: addresses need no alignment ----------------------------------------------------
+
+template <class T>
+inline Vec<T> load(const T* p) {
+    Vec<T> v;
+    __builtin_memcpy(&v, p, sizeof v);
+    return v;
+}
+
+template <class T>
+inline void store(T* p, Vec<T> v) {
+    __builtin_memcpy(p, &v, sizeof v);
+}
+
+// One value in every lane.
+template <class V>
+inline V splat(LaneOf<V> value) {
+    return value - V{};
+}
+template <>
+inline V32f splat<V32f>(float value) {
+    return _mm256_set1_ps(value);
+}
+template <>
+inline V64f splat<V64f>(double value) {
+    return _mm256_set1_pd(value);
+}
+
+// The same bits seen as other lanes.
+template <class To, class From>
+inline To bitsAs(From v) {
+    static_assert(sizeof(To) == sizeof(From));
+    To to;
+    __builtin_memcpy(&to, &v, sizeof to);
+    return to;
+}
+
+// All bits set in the lanes of alpha samples, for registers that begin at a pixel of four channels.
+template <class T>
+struct AlphaMask {
+    alignas(32) BitsOf<Tpx32f> words[8];
+    constexpr AlphaMask() : words{} {
+        for (int i = 0; i < 8; i++)
+            words[i] = sizeof(T) == 1   ? Tpx32s(0xFF000000)
+                       : sizeof(T) == 2 ? (i % 2 ? Tpx32s(0xFFFF0000) : 0)
+                                        : (i % 4 == 3 ? -1 : 0);
+    }
+};
+template <class T>
+inline constexpr AlphaMask<T> kAlphaMask;
+
+// ---- Choosing ------------------------------------------------------------------------------------------
+
+template <class V>
+inline V minOf(V a, V b) {
+    return a < b ? a : b;
+}
+template <class V>
+inline V maxOf(V a, V b) {
+    return a > b ? a : b;
+}
+
+// The lanes of `a` where the mask, a comparison's result kept in a variable, is set; of `b` elsewhere.
+template <class V, class M>
+inline V select(M mask, V a, V b) {
+    using Lane = LaneOf<V>;
+    if constexpr (std::is_same_v<Lane, float>)
+        return V(_mm256_blendv_ps(bitsAs<__m256>(b), bitsAs<__m256>(a), bitsAs<__m256>(mask)));
+    else if constexpr (std::is_same_v<Lane, double>)
+        return V(_mm256_blendv_pd(bitsAs<__m256d>(b), bitsAs<__m256d>(a), bitsAs<__m256d>(mask)));
+    else
+        return bitsAs<V>(_mm_blendv_epi8(bitsAs<__m128i>(b), bitsAs<__m128i>(a), bitsAs<__m128i>(mask)));
+}
+
+// The lanes of `a` where alpha lies, of `b` elsewhere.
+template <class T>
+inline Vec<T> keepAlpha(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) {
+        return _mm256_blend_ps(b, a, 0x88);
+    } else if constexpr (sizeof(T) == 2) {
+        return bitsAs<Vec<T>>(_mm_blend_epi16(bitsAs<__m128i>(b), bitsAs<__m128i>(a), 0x88));
+    } else if constexpr (sizeof(T) == 4) {
+        return bitsAs<Vec<T>>(_mm_blend_epi16(bitsAs<__m128i>(b), bitsAs<__m128i>(a), 0xC0));
+    } else {
+        static_assert(sizeof(T) == 1);
+        const __m128i mask = _mm_load_si128(reinterpret_cast<const __m128i*>(kAlphaMask<T>.words));
+        return bitsAs<Vec<T>>(_mm_blendv_epi8(bitsAs<__m128i>(b), bitsAs<__m128i>(a), mask));
+    }
+}
+
+// Whether any bit of a mask is set.
+template <class V>
+inline bool any(V mask) {
+    if constexpr (sizeof(V) == 32)
+        return !_mm256_testz_si256(bitsAs<__m256i>(mask), bitsAs<__m256i>(mask));
+    else
+        return !_mm_testz_si128(bitsAs<__m128i>(mask), bitsAs<__m128i>(mask));
+}
+
+// ---- Saturating and averaging integers -------------------------------------------------------------------
+
+inline V8u addSat(V8u a, V8u b) { return V8u(_mm_adds_epu8(__m128i(a), __m128i(b))); }
+inline V16u addSat(V16u a, V16u b) { return V16u(_mm_adds_epu16(__m128i(a), __m128i(b))); }
+inline V16s addSat(V16s a, V16s b) { return V16s(_mm_adds_epi16(__m128i(a), __m128i(b))); }
+inline V8u subSat(V8u a, V8u b) { return V8u(_mm_subs_epu8(__m128i(a), __m128i(b))); }
+inline V16u subSat(V16u a, V16u b) { return V16u(_mm_subs_epu16(__m128i(a), __m128i(b))); }
+inline V16s subSat(V16s a, V16s b) { return V16s(_mm_subs_epi16(__m128i(a), __m128i(b))); }
+
+// (a + b + 1) / 2 without overflow.
+inline V8u average(V8u a, V8u b) { return V8u(_mm_avg_epu8(__m128i(a), __m128i(b))); }
+inline V16u average(V16u a, V16u b) { return V16u(_mm_avg_epu16(__m128i(a), __m128i(b))); }
+
+// Shifts by a count that is the same in every lane; a count past the lane's width gives zero.
+inline V16u shiftLeft(V16u a, int n) { return V16u(_mm_sll_epi16(__m128i(a), _mm_cvtsi32_si128(n))); }
+inline V32u shiftLeft(V32u a, int n) { return V32u(_mm_sll_epi32(__m128i(a), _mm_cvtsi32_si128(n))); }
+inline V16u shiftRight(V16u a, int n) { return V16u(_mm_srl_epi16(__m128i(a), _mm_cvtsi32_si128(n))); }
+inline V32u shiftRight(V32u a, int n) { return V32u(_mm_srl_epi32(__m128i(a), _mm_cvtsi32_si128(n))); }
+
+// Sums of the products of neighbouring lanes: a0*b0 + a1*b1, a2*b2 + a3*b3, ...
+inline V32s multiplyAddPairs(V16s a, V16s b) { return V32s(_mm_madd_epi16(__m128i(a), __m128i(b))); }
+
+// The lanes of `a` and `b` in turn: a0 b0 a1 b1 ... from the lower half of both, or from the upper.
+inline V16s interleaveLow(V16s a, V16s b) { return V16s(_mm_unpacklo_epi16(__m128i(a), __m128i(b))); }
+inline V16s interleaveHigh(V16s a, V16s b) { return V16s(_mm_unpackhi_epi16(__m128i(a), __m128i(b))); }
+
+// ---- Absolute value: the type's smallest integer gives its largest
+// -------------------------------------------
+
+inline V16s absSat(V16s a) { return V16s(_mm_abs_epi16(__m128i(maxOf(a, splat<V16s>(-32767))))); }
+inline V32f absSat(V32f a) {
+    return V32f(_mm256_and_ps(a, _mm256_castsi256_ps(_mm256_set1_epi32(0x7FFFFFFF))));
+}
+
+// The magnitude as an unsigned integer.
+inline V8u magnitude(V8u a) { return a; }
+inline V16u magnitude(V16u a) { return a; }
+inline V16u magnitude(V16s a) { return V16u(_mm_abs_epi16(__m128i(a))); }
+
+// ---- Widening and narrowing -------------------------------------------------------------------------------
+
+inline Pair<V16u> widen(V8u a) {
+    return {V16u(_mm_cvtepu8_epi16(__m128i(a))), V16u(_mm_unpackhi_epi8(__m128i(a), __m128i{}))};
+}
+inline Pair<V32u> widen(V16u a) {
+    return {V32u(_mm_cvtepu16_epi32(__m128i(a))), V32u(_mm_unpackhi_epi16(__m128i(a), __m128i{}))};
+}
+inline Pair<V32s> widen(V16s a) {
+    return {V32s(_mm_cvtepi16_epi32(__m128i(a))),
+            V32s(_mm_srai_epi32(_mm_unpackhi_epi16(__m128i(a), __m128i(a)), 16))};
+}
+
+// Products of lanes in twice the width.
+inline Pair<V16u> multiplyWide(V8u a, V8u b) {
+    const Pair<V16u> wa = widen(a), wb = widen(b);
+    return {wa.low * wb.low, wa.high * wb.high};
+}
+inline Pair<V32u> multiplyWide(V16u a, V16u b) {
+    const __m128i low = _mm_mullo_epi16(__m128i(a), __m128i(b)), high = _mm_mulhi_epu16(__m128i(a), __m128i(b));
+    return {V32u(_mm_unpacklo_epi16(low, high)), V32u(_mm_unpackhi_epi16(low, high))};
+}
+
+// Saturating narrowing of signed lanes: narrow<Tpx8u>({V16s, V16s}), narrow<Tpx16s>({V32s, V32s}), ...
+template <class T>
+inline Vec<T> narrow(Pair<V16s> a) {
+    if constexpr (std::is_same_v<T, Tpx8u>)
+        return V8u(_mm_packus_epi16(__m128i(a.low), __m128i(a.high)));
+    else
+        return V8s(_mm_packs_epi16(__m128i(a.low), __m128i(a.high)));
+}
+template <class T>
+inline Vec<T> narrow(Pair<V32s> a) {
+    if constexpr (std::is_same_v<T, Tpx16u>) {
+        return V16u(_mm_packus_epi32(__m128i(a.low), __m128i(a.high)));
+    } else {
+        return V16s(_mm_packs_epi32(__m128i(a.low), __m128i(a.high)));
+    }
+}
+// Unsigned lanes below 2^(width - 1), which the signed forms take as they are.
+template <class T>
+inline Vec<T> narrow(Pair<V16u> a) {
+    return narrow<T>(Pair<V16s>{V16s(a.low), V16s(a.high)});
+}
+template <class T>
+inline Vec<T> narrow(Pair<V32u> a) {
+    return narrow<T>(Pair<V32s>{V32s(a.low), V32s(a.high)});
+}
+
+// ---- Floating point ---------------------------------------------------------------------------------------
+
+inline V32f squareRoot(V32f a) { return V32f(_mm256_sqrt_ps(a)); }
+inline V64f squareRoot(V64f a) { return V64f(_mm256_sqrt_pd(a)); }
+
+// Rounding to an integral value with the direction in the instruction, whatever the control register says.
+inline V32f roundNearest(V32f a) {
+    return V32f(_mm256_round_ps(a, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC));
+}
+inline V64f roundNearest(V64f a) {
+    return V64f(_mm256_round_pd(a, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC));
+}
+
+// A register of single precision from two registers of integers, and back. The way back rounds with the
+// thread's rounding mode; a value outside the integers gives the smallest one.
+inline V32f toFloat(Pair<V32s> a) {
+    return V32f(_mm256_cvtepi32_ps(
+        _mm256_insertf128_si256(_mm256_castsi128_si256(__m128i(a.low)), __m128i(a.high), 1)));
+}
+inline Pair<V32s> toInteger(V32f a) {
+    const __m256i i = _mm256_cvtps_epi32(a);
+    return {V32s(_mm256_castsi256_si128(i)), V32s(_mm256_extractf128_si256(i, 1))};
+}
+// A register of double precision from one of integers, and back.
+inline V64f toDouble(V32s a) { return V64f(_mm256_cvtepi32_pd(__m128i(a))); }
+inline V32s toInteger(V64f a) { return V32s(_mm256_cvtpd_epi32(a)); }
+
+} // namespace tpx
