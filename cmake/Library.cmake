@@ -4,6 +4,7 @@ file(GLOB TPX_SOURCES CONFIGURE_DEPENDS
      ${PROJECT_SOURCE_DIR}/arithmetic/*.cpp
      ${PROJECT_SOURCE_DIR}/movement/*.cpp
      ${PROJECT_SOURCE_DIR}/geometry/*.cpp)
+list(FILTER TPX_SOURCES EXCLUDE REGEX "frame/builtins\\.cpp$")
 file(GLOB TPX_PUBLIC_HEADERS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/tpxi/*.h)
 
 set(TPX_ENTRY_TABLE ${PROJECT_BINARY_DIR}/generated/entries.S)
@@ -22,18 +23,22 @@ target_link_libraries(tpxi_objects PRIVATE tpx_flags)
 set_target_properties(tpxi_objects PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden
                                               VISIBILITY_INLINES_HIDDEN ON CXX_EXTENSIONS ON)
 # No contraction: a product and a sum are rounded one by one, on every target alike.
-target_compile_options(tpxi_objects PRIVATE -mavx -ffp-contract=off -fno-math-errno -fno-trapping-math
-                       -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-stack-protector
-                       -fno-asynchronous-unwind-tables)
-if(TPX_SANITIZE)
-    target_compile_definitions(tpxi_objects PRIVATE TPX_HOSTED)
-else()
-    # The memory functions that compilers call must not be compiled into calls of themselves.
-    set_source_files_properties(${PROJECT_SOURCE_DIR}/frame/builtins.cpp PROPERTIES COMPILE_OPTIONS
-                                "-fno-builtin;$<$<CXX_COMPILER_ID:GNU>:-fno-tree-loop-distribute-patterns>")
-endif()
+set(TPX_CODE_OPTIONS -mavx -ffp-contract=off -fno-math-errno -fno-trapping-math -fno-exceptions -fno-rtti
+                     -fno-threadsafe-statics -fno-stack-protector -fno-asynchronous-unwind-tables)
+target_compile_options(tpxi_objects PRIVATE ${TPX_CODE_OPTIONS})
 
 add_library(tpxie9 SHARED ${TPX_ENTRY_TABLE} $<TARGET_OBJECTS:tpxi_objects>)
+if(NOT TPX_SANITIZE)
+    # The memory functions that compilers call are the library's own, and must not be compiled into calls of
+    # themselves. A sanitizer build is hosted and uses the platform's.
+    add_library(tpxi_builtins OBJECT ${PROJECT_SOURCE_DIR}/frame/builtins.cpp)
+    target_include_directories(tpxi_builtins PRIVATE ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR})
+    target_link_libraries(tpxi_builtins PRIVATE tpx_flags)
+    target_compile_options(tpxi_builtins PRIVATE ${TPX_CODE_OPTIONS} -fno-builtin
+                           $<$<CXX_COMPILER_ID:GNU>:-fno-tree-loop-distribute-patterns>)
+    set_target_properties(tpxi_builtins PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden)
+    target_sources(tpxie9 PRIVATE $<TARGET_OBJECTS:tpxi_builtins>)
+endif()
 add_library(tpxi::tpxie9 ALIAS tpxie9)
 target_include_directories(tpxie9 INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
                                             $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
