@@ -1,0 +1,42 @@
+// Non-temporal stores: when they pay, and the words for them. They pay where a result is larger than the
+// largest cache; one that fits would soon be wanted again. The decision is taken once a call.
+#pragma once
+
+#include "frame/simd.h"
+#include "tpxcore.h"
+
+namespace tpx {
+
+// Whether `bytes` go beyond the largest cache. Up to and including the floor the cache is not asked for, to
+// keep the query off the path of ordinary work; an unknown size keeps the result in the caches.
+inline bool exceedsCache(uint64_t bytes, uint64_t floor) {
+    int cache = 0;
+    return bytes > floor && tpxGetMaxCacheSizeB(&cache) == tpxOk && cache >= 1 &&
+           bytes > static_cast<uint64_t>(cache);
+}
+
+// The same for families that stream from exactly the cache's size on.
+inline bool fillsCache(uint64_t bytes, uint64_t floor) {
+    return bytes > floor && exceedsCache(bytes + 1, floor);
+}
+
+// Non-temporal lines are written whole, on their own boundaries: a half-written one costs a read of memory.
+inline constexpr ptrdiff_t kLineBytes = 64;
+
+inline ptrdiff_t bytesToLine(const void* p) {
+    return static_cast<ptrdiff_t>(-reinterpret_cast<uintptr_t>(p) & (kLineBytes - 1));
+}
+
+// The address lies on a register's boundary.
+template <class T>
+inline void streamStore(T* p, Vec<T> v) {
+    if constexpr (sizeof(v) == 32)
+        _mm256_stream_si256(reinterpret_cast<__m256i*>(p), bitsAs<__m256i>(v));
+    else
+        _mm_stream_si128(reinterpret_cast<__m128i*>(p), bitsAs<__m128i>(v));
+}
+
+// Ends a call that has streamed, so that the result is visible to whoever synchronises with the caller.
+inline void streamFence() { _mm_sfence(); }
+
+} // namespace tpx
