@@ -61,6 +61,10 @@ using VecBits = typename VecBitsOf<T>::type;
 using B32f = VecBits<Tpx32f>;
 using B64f = VecBits<Tpx64f>;
 
+// The unsigned integer with the width of a sample: where samples are only moved, types of one width share code.
+template <class T>
+using Unsigned = std::conditional_t<sizeof(T) == 1, Tpx8u, std::conditional_t<sizeof(T) == 2, Tpx16u, Tpx32u>>;
+
 // ---- Memory and constants: addresses need no alignment ----------------------------------------------------
 
 template <class T>
@@ -246,6 +250,41 @@ inline Vec<T> narrow(Pair<V16u> a) {
 template <class T>
 inline Vec<T> narrow(Pair<V32u> a) {
     return narrow<T>(Pair<V32s>{V32s(a.low), V32s(a.high)});
+}
+
+// ---- Tables of 16 entries, indexed by lanes from 0 to 15 ----------------------------------------------------
+
+template <class T>
+struct Table16;
+
+template <>
+struct Table16<Tpx8u> {
+    Table16() = default;
+    explicit Table16(const Tpx8u* entries) : bytes(load(entries)) {}
+    V8u bytes;
+};
+inline V8u lookup(const Table16<Tpx8u>& table, V8u index) {
+    return V8u(_mm_shuffle_epi8(__m128i(table.bytes), __m128i(index)));
+}
+
+// 16-bit entries lie in two byte tables; an index byte with its top bit set looks up 0.
+template <class T>
+requires(sizeof(T) == 2) struct Table16<T> {
+    Table16() = default;
+    explicit Table16(const T* entries) {
+        const V16u a = bitsAs<V16u>(load(entries)), b = bitsAs<V16u>(load(entries + 8));
+        const __m128i byte = _mm_set1_epi16(0xFF);
+        low = V8u(_mm_packus_epi16(_mm_and_si128(__m128i(a), byte), _mm_and_si128(__m128i(b), byte)));
+        high = V8u(_mm_packus_epi16(__m128i(a >> 8), __m128i(b >> 8)));
+    }
+    V8u low, high;
+};
+template <class T>
+inline Vec<T> lookup(const Table16<T>& table, Vec<T> index) {
+    const V16u i = bitsAs<V16u>(index);
+    const __m128i low = _mm_shuffle_epi8(__m128i(table.low), __m128i(i | splat<V16u>(0x8000)));
+    const __m128i high = _mm_shuffle_epi8(__m128i(table.high), __m128i((i << 8) | splat<V16u>(0x80)));
+    return bitsAs<Vec<T>>(_mm_or_si128(low, high));
 }
 
 // ---- Floating point ---------------------------------------------------------------------------------------

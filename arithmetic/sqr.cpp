@@ -1,0 +1,86 @@
+// tpxiSqr: square.
+#include "arithmetic/unary.h"
+#include "frame/real.h"
+
+namespace tpx {
+namespace {
+
+// 8-bit samples whose square fits 16, and so on: bits of the largest value.
+template <class T>
+constexpr int kValueBits = kBits<T> - std::is_signed_v<T>;
+
+// rule(|x| * |x|) in lanes of twice the width, saturated back to T.
+template <class T, class Rule>
+inline Vec<T> throughSquare(Vec<T> x, Tpx32u limit, Rule rule) {
+    auto m = magnitude(x);
+    m = minOf(m, splat<decltype(m)>(LaneOf<decltype(m)>(limit)));
+    const auto square = multiplyWide(m, m);
+    return narrow<T>(decltype(square){rule(square.low), rule(square.high)});
+}
+
+// n > 0: squares shifted right, ties to even. A square is a tie only for odd n (an odd square times a power of
+// four), and the even neighbour is then the lower one, since odd squares are 1 more than a multiple of 8. So
+// taking 1 off first and rounding halves up is exact, and for even n there is nothing to take off.
+template <class T>
+inline auto shrinkingRule(int n) {
+    return [n](Vec<T> x) {
+        return throughSquare<T>(x, 0xFFFF, [n](auto square) {
+            using W = decltype(square);
+            const W odd = splat<W>(LaneOf<W>(n & 1));
+            return (shiftRight(square - minOf(square, odd), n - 1) + splat<W>(1)) >> 1;
+        });
+    };
+}
+
+// k = -n >= 0: squares shifted left. The sample is limited to the first power of two whose result saturates,
+// so that nothing is shifted out.
+template <class T>
+inline auto growingRule(int k) {
+    const Tpx32u limit = 1u << ((kValueBits<T> - k + 1) / 2);
+    return [k, limit](Vec<T> x) {
+        return throughSquare<T>(x, limit, [k](auto square) { return shiftLeft(square, k); });
+    };
+}
+
+} // namespace
+
+struct Sqr {
+    static constexpr bool kWholeSteps = true;
+
+    template <class T, class Body>
+    static TpxStatus withRule(int n, Body body) {
+        if constexpr (std::is_same_v<T, float>) {
+            return body([](V32f x) { return x * x; });
+        } else {
+            // From 2 * bits + 1 on the largest square rounds to 0; from -bits down 1 saturates.
+            if (n > 0) return body(shrinkingRule<T>(clamp(n, 1, 2 * kBits<T> + 1)));
+            const auto growing = growingRule<T>(-clamp(n, -kValueBits<T>, 0));
+            if constexpr (std::is_same_v<T, Tpx8u>) {
+                // No sample above 15 stays below saturation: the 16 results that there are make a table.
+                Table16<Tpx8u> table;
+                table.bytes = growing(V8u{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15});
+                return body([table](V8u x) { return x > splat<V8u>(15) ? splat<V8u>(255) : lookup(table, x); });
+            } else {
+                constexpr Tpx16u root = std::is_signed_v<T> ? 181 : 255; // the last one that does not saturate
+                if (n == 0)
+                    return body([](Vec<T> x) {
+                        const V16u m = magnitude(x);
+                        return Vec<T>(m > splat<V16u>(root) ? splat<V16u>(kMax<T>) : m * m);
+                    });
+                return body(growing);
+            }
+        }
+    }
+};
+
+} // namespace tpx
+
+#define TPX_SQR(L)             \
+    TPX_UNARY_SFS(Sqr, 8u, L)  \
+    TPX_UNARY_SFS(Sqr, 16u, L) \
+    TPX_UNARY_SFS(Sqr, 16s, L) \
+    TPX_UNARY(Sqr, 32f, L)
+TPX_SQR(C1)
+TPX_SQR(C3)
+TPX_SQR(C4)
+TPX_SQR(AC4)

@@ -1,0 +1,67 @@
+// What the unary operations share: checks, the walk of rows, and the entries of an operation's layouts.
+//
+// An operation is a class with
+//   kWholeSteps                          whether steps are rounded down to whole samples
+//   withRule<T>(scaleFactor, body)       picks the rule of the call's regime and returns body(rule)
+// A rule maps a register of samples. It may also have
+//   inspect(row, len)                    called on each source row before it is mapped
+//   status()                             the call's warning, asked after the last row
+#pragma once
+
+#include "frame/entry.h"
+#include "frame/runs.h"
+
+namespace tpx {
+
+template <class Op, bool KeepAlpha, class T>
+TpxStatus unaryRows(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, TpxiSize roi, int channels,
+                    int scaleFactor) {
+    if (anyNull(src, dst)) return tpxErrNullPointer;
+    if (isEmpty(roi)) return tpxErrSize;
+    if (srcStep < 1 || dstStep < 1) return tpxErrStep;
+    if constexpr (Op::kWholeSteps) {
+        srcStep = wholeStep<T>(srcStep);
+        dstStep = wholeStep<T>(dstStep);
+    }
+    const ptrdiff_t len = ptrdiff_t(roi.width) * channels;
+    return Op::template withRule<T>(scaleFactor, [&](auto rule) -> TpxStatus {
+        walkRows(src, srcStep, dst, dstStep, roi.height, [&](const T* s, T* d) {
+            if constexpr (requires { rule.inspect(s, len); }) rule.inspect(s, len);
+            mapRun<KeepAlpha>(s, d, len, rule);
+        });
+        if constexpr (requires { rule.status(); })
+            return rule.status();
+        else
+            return tpxOk;
+    });
+}
+
+template <class Op, Layout L, class T>
+inline TpxStatus unary(const T* src, int srcStep, T* dst, int dstStep, TpxiSize roi, int scaleFactor = 0) {
+    return unaryRows<Op, L == Layout::AC4>(src, srcStep, dst, dstStep, roi, channelsOf(L), scaleFactor);
+}
+
+} // namespace tpx
+
+// The two entries of one layout: source to destination, and in place. T is the code of the sample type.
+#define TPX_UNARY(Op, T, L)                                                                \
+    TPX_ENTRY(tpxi##Op##_##T##_##L##R)                                                     \
+    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize) {       \
+        return tpx::unary<tpx::Op, tpx::Layout::L>(pSrc, srcStep, pDst, dstStep, roiSize); \
+    }                                                                                      \
+    TPX_UNARY_INPLACE(Op, T, L)
+#define TPX_UNARY_INPLACE(Op, T, L)                                                                    \
+    TPX_ENTRY(tpxi##Op##_##T##_##L##IR)(Tpx##T * pSrcDst, int srcDstStep, TpxiSize roiSize) {          \
+        return tpx::unary<tpx::Op, tpx::Layout::L>(pSrcDst, srcDstStep, pSrcDst, srcDstStep, roiSize); \
+    }
+
+#define TPX_UNARY_SFS(Op, T, L)                                                                         \
+    TPX_ENTRY(tpxi##Op##_##T##_##L##RSfs)                                                               \
+    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize, int scaleFactor) {   \
+        return tpx::unary<tpx::Op, tpx::Layout::L>(pSrc, srcStep, pDst, dstStep, roiSize, scaleFactor); \
+    }                                                                                                   \
+    TPX_ENTRY(tpxi##Op##_##T##_##L##IRSfs)                                                              \
+    (Tpx##T * pSrcDst, int srcDstStep, TpxiSize roiSize, int scaleFactor) {                             \
+        return tpx::unary<tpx::Op, tpx::Layout::L>(pSrcDst, srcDstStep, pSrcDst, srcDstStep, roiSize,   \
+                                                   scaleFactor);                                        \
+    }
