@@ -1,0 +1,78 @@
+#include "tiled_resize.h"
+
+#include <algorithm>
+#include <thread>
+
+TiledResize::TiledResize(ResizeKind kind, TpxiSize srcSize, TpxiSize dstSize, int threads)
+    : kind_(kind), srcSize_(srcSize), dstSize_(dstSize) {
+    const bool linear = kind == ResizeKind::linear;
+    int planBytes = 0;
+    int initBytes = 0; // only cubic and Lanczos plans need a buffer to be made
+    check(tpxiResizeGetSize_8u(srcSize, dstSize, linear ? tpxInterpolationLinear : tpxInterpolationNearest, 0,
+                               &planBytes, &initBytes),
+          "tpxiResizeGetSize_8u");
+    plan_.resize(planBytes);
+    auto* plan = reinterpret_cast<TpxiResizeSpec*>(plan_.data());
+    if (linear)
+        check(tpxiResizeLinearInit_8u(srcSize, dstSize, plan), "tpxiResizeLinearInit_8u");
+    else
+        check(tpxiResizeNearestInit_8u(srcSize, dstSize, plan), "tpxiResizeNearestInit_8u");
+    check(tpxiResizeGetBorderSize_8u(plan, &border_), "tpxiResizeGetBorderSize_8u");
+
+    // Bands of whole rows: neighbouring threads then share no cache line but at the seam.
+    const int bands = std::clamp(threads, 1, dstSize.height);
+    for (int i = 0; i < bands; ++i) {
+        const int top = static_cast<int>(static_cast<TpxSizeL>(dstSize.height) * i / bands);
+        const int bottom = static_cast<int>(static_cast<TpxSizeL>(dstSize.height) * (i + 1) / bands);
+        Tile tile{.dst = {0, top, dstSize.width, bottom - top}, .src = {}, .buffer = {}};
+        const TpxiSize size = {tile.dst.width, tile.dst.height};
+        TpxiPoint srcOffset;
+        TpxiSize srcRoi;
+        check(tpxiResizeGetSrcRoi_8u(plan, {0, top}, size, &srcOffset, &srcRoi), "tpxiResizeGetSrcRoi_8u");
+        tile.src = {srcOffset.x, srcOffset.y, srcRoi.width, srcRoi.height};
+        int bufferBytes = 0;
+        check(tpxiResizeGetBufferSize_8u(plan, size, kChannels, &bufferBytes), "tpxiResizeGetBufferSize_8u");
+        tile.buffer.resize(bufferBytes);
+        tiles_.push_back(std::move(tile));
+    }
+}
+
+const char* TiledResize::function(ResizeKind kind) {
+    return kind == ResizeKind::linear ? "tpxiResizeLinear_8u_C3R" : "tpxiResizeNearest_8u_C3R";
+}
+
+void TiledResize::run(ConstPixels src, Pixels dst) {
+    const auto same = [](TpxiSize a, TpxiSize b) { return a.width == b.width && a.height == b.height; };
+    if (!same(src.size, srcSize_) || !same(dst.size, dstSize_))
+        throw std::logic_error("an image is not of the size that the resize was planned for");
+    {
+        // The calling thread takes the first tile; leaving the block joins the others.
+        std::vector<std::jthread> others;
+        for (size_t i = 1; i < tiles_.size(); ++i)
+            others.emplace_back([this, i, src, dst] { runTile(tiles_[i], src, dst); });
+        runTile(tiles_[0], src, dst);
+    }
+    for (const Tile& tile : tiles_) check(tile.status, function(kind_));
+}
+
+void TiledResize::runTile(Tile& tile, ConstPixels src, Pixels dst) const {
+    const TpxiPoint offset = {tile.dst.x, tile.dst.y};
+    const TpxiSize size = {tile.dst.width, tile.dst.height};
+    const Tpx8u* from = src.at(tile.src.x, tile.src.y);
+    Tpx8u* to = dst.at(offset.x, offset.y);
+    if (kind_ == ResizeKind::nearest) {
+        tile.status =
+            tpxiResizeNearest_8u_C3R(from, src.step, to, dst.step, offset, size, spec(), tile.buffer.data());
+        return;
+    }
+    // A side is in memory when the image really goes on beyond the tile's source rectangle, as far as the
+    // plan reads: at a seam between tiles, and where the source is itself a region of a larger image.
+    const TpxiBorderSize margin = src.crop(tile.src).margin;
+    TpxBorderType border = tpxBorderReplicate;
+    if (margin.left >= border_.left) border |= tpxBorderInMemLeft;
+    if (margin.top >= border_.top) border |= tpxBorderInMemTop;
+    if (margin.right >= border_.right) border |= tpxBorderInMemRight;
+    if (margin.bottom >= border_.bottom) border |= tpxBorderInMemBottom;
+    tile.status = tpxiResizeLinear_8u_C3R(from, src.step, to, dst.step, offset, size, border, nullptr, spec(),
+                                          tile.buffer.data());
+}
