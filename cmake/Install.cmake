@@ -1,0 +1,29 @@
+# Libraries, headers, the CMake package and the pkg-config files. All paths written are relative to the files
+# that hold them, so an installed tree may be moved.
+include(CMakePackageConfigHelpers)
+
+set(TPX_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/tpxi)
+set(TPX_PKGCONFIG_DIR ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+# libtpxie9 finds its companion beside it, wherever the two are put.
+set_target_properties(tpxie9 PROPERTIES INSTALL_RPATH "$ORIGIN")
+
+install(TARGETS tpxie9 tpxcore EXPORT tpxiTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(FILES include/tpxi.h include/tpxcore.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY include/tpxi DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+
+install(EXPORT tpxiTargets NAMESPACE tpxi:: DESTINATION ${TPX_PACKAGE_DIR})
+configure_package_config_file(cmake/tpxiConfig.cmake.in ${PROJECT_BINARY_DIR}/generated/tpxiConfig.cmake
+                              INSTALL_DESTINATION ${TPX_PACKAGE_DIR} NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/generated/tpxiConfigVersion.cmake
+                                 COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/generated/tpxiConfig.cmake
+              ${PROJECT_BINARY_DIR}/generated/tpxiConfigVersion.cmake
+        DESTINATION ${TPX_PACKAGE_DIR})
+
+file(RELATIVE_PATH TPX_PKGCONFIG_TO_INCLUDE ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig
+     ${CMAKE_INSTALL_FULL_INCLUDEDIR})
+foreach(library IN ITEMS tpxie9 tpxcore)
+    configure_file(cmake/${library}.pc.in ${PROJECT_BINARY_DIR}/generated/${library}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/generated/${library}.pc DESTINATION ${TPX_PKGCONFIG_DIR})
+endforeach()

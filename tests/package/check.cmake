@@ -1,0 +1,37 @@
+# Installs the build, moves the installed tree, and builds and runs the consumer's programs against it: with
+# find_package, then with the compiler and pkg-config alone.
+file(REMOVE_RECURSE ${WORK_DIR})
+file(MAKE_DIRECTORY ${WORK_DIR})
+unset(ENV{LD_LIBRARY_PATH})
+unset(ENV{DESTDIR})
+
+function(run)
+    execute_process(COMMAND ${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        list(JOIN ARGV " " command)
+        message(FATAL_ERROR "${command}\nended with ${result}:\n${output}")
+    endif()
+endfunction()
+
+run(${CMAKE_COMMAND} --install ${BUILD_DIR} --config ${CONFIG} --prefix ${WORK_DIR}/installed)
+set(prefix ${WORK_DIR}/moved)
+file(RENAME ${WORK_DIR}/installed ${prefix})
+
+run(${CMAKE_COMMAND} -S ${CONSUMER_DIR} -B ${WORK_DIR}/build -G ${GENERATOR} -DCMAKE_C_COMPILER=${C_COMPILER}
+    -DCMAKE_BUILD_TYPE=${CONFIG} -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF)
+run(${CMAKE_COMMAND} --build ${WORK_DIR}/build --config ${CONFIG})
+run(${CMAKE_CTEST_COMMAND} --output-on-failure --test-dir ${WORK_DIR}/build -C ${CONFIG})
+
+find_program(PKG_CONFIG NAMES pkgconf pkg-config REQUIRED)
+set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
+foreach(pair IN ITEMS main/tpxie9 core/tpxcore)
+    get_filename_component(library ${pair} NAME)
+    get_filename_component(program ${pair} DIRECTORY)
+    run(${PKG_CONFIG} --exact-version=${VERSION} ${library})
+    execute_process(COMMAND ${PKG_CONFIG} --cflags --libs ${library} OUTPUT_VARIABLE flags
+                    OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    separate_arguments(flags UNIX_COMMAND "${flags}")
+    run(${C_COMPILER} -std=c99 -pedantic -Wall -Wextra -Werror ${CONSUMER_DIR}/${program}.c ${flags}
+        -Wl,-rpath,${prefix}/${LIBDIR} -o ${WORK_DIR}/${program})
+    run(${WORK_DIR}/${program})
+endforeach()
