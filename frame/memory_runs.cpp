@@ -38,6 +38,9 @@ struct Blocks {
     void storeTo(char* p) const {
         for (int i = 0; i < N; i++) storeBlock(p + i * kBlock, at[i]);
     }
+    void streamTo(char* p) const {
+        for (int i = 0; i < N; i++) streamStore(reinterpret_cast<float*>(p + i * kBlock), at[i]);
+    }
 };
 
 // The ends of the row, N blocks of either side, are held in registers while the middle is copied.
@@ -91,11 +94,18 @@ void copyRowStreaming(void* dst, const void* src, int64_t bytes) {
     copyEnds<1>(d, s, kLineBytes);
     int64_t i = bytesToLine(d);
     if (i == 0) i = kLineBytes;
-    for (; i + kLineBytes <= bytes; i += kLineBytes) {
-        const Blocks<2> line(s + i);
-        streamStore(reinterpret_cast<float*>(d + i), line.at[0]);
-        streamStore(reinterpret_cast<float*>(d + i + kBlock), line.at[1]);
-    }
+
+    // Four pages are copied side by side, since memory serves several streams faster than one.
+    constexpr int64_t kPage = 4096, kStreams = 4, kAhead = 512;
+    for (; i + kStreams * kPage <= bytes; i += kStreams * kPage)
+        for (int64_t j = i; j < i + kPage; j += kTurn) {
+            for (int64_t page = j; page < j + kStreams * kPage; page += kPage)
+                for (int64_t line = 0; line < kTurn; line += kLineBytes)
+                    _mm_prefetch(s + page + kAhead + line, _MM_HINT_T0);
+            for (int64_t page = j; page < j + kStreams * kPage; page += kPage)
+                Blocks<4>(s + page).streamTo(d + page);
+        }
+    for (; i + kLineBytes <= bytes; i += kLineBytes) Blocks<2>(s + i).streamTo(d + i);
     copyRow(d + i, s + i, bytes - i);
 }
 
@@ -122,11 +132,17 @@ void fillRow(void* dst, int64_t bytes, const Pattern& pattern) {
     storeBlock(d, p.at(0));
     if (bytes > 2 * kBlock) {
         const Block a = p.at(i), b = p.at(i + kBlock), c = p.at(i + 2 * kBlock);
-        for (; i + 3 * kBlock <= bytes; i += 3 * kBlock) {
+        const auto period = [&] {
             storeBlock(d + i, a);
             storeBlock(d + i + kBlock, b);
             storeBlock(d + i + 2 * kBlock, c);
+            i += 3 * kBlock;
+        };
+        while (i + 6 * kBlock <= bytes) {
+            period();
+            period();
         }
+        if (i + 3 * kBlock <= bytes) period();
         if (i + kBlock <= bytes) storeBlock(d + i, a);
         if (i + 2 * kBlock <= bytes) storeBlock(d + i + kBlock, b);
     }
