@@ -158,7 +158,7 @@ void resizes(Gallery& gallery, const Image8u& source) {
 
 // ---- Tone curves ----
 
-// dst = convert(src), sample by sample.
+// dst = rule(src), sample by sample.
 template <class From, class To, class Convert>
 void convert(View<const From> src, View<To> dst, Convert rule) {
     for (int y = 0; y < src.size.height; ++y)
