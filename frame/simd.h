@@ -118,13 +118,25 @@ inline constexpr AlphaMask<T> kAlphaMask;
 
 // ---- Choosing ------------------------------------------------------------------------------------------
 
+// a < b ? a : b, so `b` where one of them is NaN or both are zeros; the instructions for floats do just that, but
+// g++ does not find them. maxOf likewise.
 template <class V>
 inline V minOf(V a, V b) {
-    return a < b ? a : b;
+    if constexpr (std::is_same_v<V, V32f>)
+        return V(_mm256_min_ps(a, b));
+    else if constexpr (std::is_same_v<V, V64f>)
+        return V(_mm256_min_pd(a, b));
+    else
+        return a < b ? a : b;
 }
 template <class V>
 inline V maxOf(V a, V b) {
-    return a > b ? a : b;
+    if constexpr (std::is_same_v<V, V32f>)
+        return V(_mm256_max_ps(a, b));
+    else if constexpr (std::is_same_v<V, V64f>)
+        return V(_mm256_max_pd(a, b));
+    else
+        return a > b ? a : b;
 }
 
 // The lanes of `a` where the mask, a comparison's result kept in a variable, is set; of `b` elsewhere.
