@@ -1,0 +1,398 @@
+// tpxiAbs, tpxiSqr, tpxiSqrt, tpxiLn, tpxiExp through their exported names.
+#include <gtest/gtest.h>
+
+#include <cfloat>
+#include <climits>
+#include <cmath>
+#include <limits>
+#include <string>
+
+#include "tests/support/checks.h"
+#include "tests/support/guarded.h"
+
+namespace {
+
+using namespace tpx::test;
+
+// ---- The functions as data
+// -----------------------------------------------------------------------------------
+
+template <class T>
+struct Unary {
+    const char* name;
+    int channels;
+    bool keepsAlpha;
+    bool seesAlpha;
+    std::function<TpxStatus(const T*, int, T*, int, TpxiSize, int)> run;
+    std::function<TpxStatus(T*, int, TpxiSize, int)> runInPlace;
+};
+
+#define WITH_FACTOR(op, T, L, channels, alpha)                                                            \
+    Unary<Tpx##T> {                                                                                       \
+#op "_" #T "_" #L, channels, alpha, true, tpxi##op##_##T##_##L##RSfs, tpxi##op##_##T##_##L##IRSfs \
+    }
+#define WITHOUT_FACTOR(op, T, L, channels, alpha, sees)                                               \
+    Unary<Tpx##T> {                                                                                   \
+#op "_" #T "_" #L, channels, alpha, sees,                                                           \
+            [](const Tpx##T* s, int ss, Tpx##T* d, int ds, TpxiSize z, int) {                               \
+                return tpxi##op##_##T##_##L##R(s, ss, d, ds, z);                                            \
+            },                                                                                              \
+            [](Tpx##T* d, int ds, TpxiSize z, int) { return tpxi##op##_##T##_##L##IR(d, ds, z); } \
+    }
+#define INTEGER(op, T) WITH_FACTOR(op, T, C1, 1, false), WITH_FACTOR(op, T, C3, 3, false)
+#define FLOATING(op, T) WITHOUT_FACTOR(op, T, C1, 1, false, true), WITHOUT_FACTOR(op, T, C3, 3, false, true)
+
+template <class T>
+std::vector<Unary<T>> functions();
+
+template <>
+std::vector<Unary<Tpx8u>> functions() {
+    return {INTEGER(Sqr, 8u),  WITH_FACTOR(Sqr, 8u, C4, 4, false),  WITH_FACTOR(Sqr, 8u, AC4, 4, true),
+            INTEGER(Sqrt, 8u), WITH_FACTOR(Sqrt, 8u, AC4, 4, true), INTEGER(Ln, 8u),
+            INTEGER(Exp, 8u)};
+}
+template <>
+std::vector<Unary<Tpx16u>> functions() {
+    return {INTEGER(Sqr, 16u),  WITH_FACTOR(Sqr, 16u, C4, 4, false),  WITH_FACTOR(Sqr, 16u, AC4, 4, true),
+            INTEGER(Sqrt, 16u), WITH_FACTOR(Sqrt, 16u, AC4, 4, true), INTEGER(Ln, 16u),
+            INTEGER(Exp, 16u)};
+}
+template <>
+std::vector<Unary<Tpx16s>> functions() {
+    return {INTEGER(Sqr, 16s),
+            WITH_FACTOR(Sqr, 16s, C4, 4, false),
+            WITH_FACTOR(Sqr, 16s, AC4, 4, true),
+            INTEGER(Sqrt, 16s),
+            WITH_FACTOR(Sqrt, 16s, AC4, 4, true),
+            INTEGER(Ln, 16s),
+            INTEGER(Exp, 16s),
+            FLOATING(Abs, 16s),
+            WITHOUT_FACTOR(Abs, 16s, C4, 4, false, true),
+            WITHOUT_FACTOR(Abs, 16s, AC4, 4, true, true)};
+}
+template <>
+std::vector<Unary<Tpx32f>> functions() {
+    Unary<Tpx32f> rootC4{
+        "Sqrt_32f_C4", 4,       false,
+        true,          nullptr, [](Tpx32f* d, int ds, TpxiSize z, int) {
+                             return tpxiSqrt_32f_C4IR(d, ds, z); }};
+    return {FLOATING(Abs, 32f),
+            WITHOUT_FACTOR(Abs, 32f, C4, 4, false, true),
+            WITHOUT_FACTOR(Abs, 32f, AC4, 4, true, true),
+            FLOATING(Sqr, 32f),
+            WITHOUT_FACTOR(Sqr, 32f, C4, 4, false, true),
+            WITHOUT_FACTOR(Sqr, 32f, AC4, 4, true, true),
+            FLOATING(Sqrt, 32f),
+            WITHOUT_FACTOR(Sqrt, 32f, AC4, 4, true, false),
+            rootC4,
+            FLOATING(Ln, 32f),
+            FLOATING(Exp, 32f)};
+}
+
+std::string operationOf(const char* name) { return std::string(name).substr(0, std::string(name).find('_')); }
+
+// ---- The mathematical results
+// --------------------------------------------------------------------------------
+
+template <class T>
+T saturate(long double x) {
+    using L = std::numeric_limits<T>;
+    const long double r = nearbyintl(x);
+    return r <= (long double)L::min() ? L::min() : r >= (long double)L::max() ? L::max() : T(r);
+}
+
+template <class T>
+T model(const std::string& operation, T sample, int n) {
+    const long double a = sample;
+    if constexpr (std::is_same_v<T, float>) {
+        if (operation == "Abs") return std::fabs(sample);
+        if (operation == "Sqr") return sample * sample;
+        if (operation == "Sqrt") return std::sqrt(sample);
+        if (operation == "Ln") return float(logl(a));
+        return float(expl(a));
+    } else {
+        if (operation == "Abs") return saturate<T>(fabsl(a));
+        if (operation == "Sqr") return saturate<T>(ldexpl(a * a, -n));
+        if (operation == "Sqrt") return a <= 0 ? T(0) : saturate<T>(ldexpl(sqrtl(a), -n));
+        if (operation == "Ln")
+            return a > 0    ? saturate<T>(ldexpl(logl(a), -n))
+                   : a == 0 ? T(std::is_signed_v<T> ? -32768 : 0)
+                            : std::numeric_limits<T>::min();
+        // Beyond the exponents of long double the factor goes into the argument.
+        return saturate<T>(fabsl(a) < 11000 && n > -11000 ? ldexpl(expl(a), -n) : expl(a - n * logl(2)));
+    }
+}
+
+// Units in the last place between a result and the rounded exact value.
+double ulps(float got, float want) {
+    if (std::isnan(got) || std::isnan(want)) return std::isnan(got) && std::isnan(want) ? 0 : 1e9;
+    const auto order = [](float f) {
+        int32_t i;
+        std::memcpy(&i, &f, 4);
+        return double(i < 0 ? -int64_t(i & INT_MAX) : int64_t(i));
+    };
+    return std::fabs(order(got) - order(want));
+}
+
+// ---- Integers: every sample, every scale factor
+// ----------------------------------------------------------------
+
+template <class T>
+void everySampleAndFactor() {
+    using L = std::numeric_limits<T>;
+    const int count = int(L::max()) - int(L::min()) + 1;
+    std::vector<T> src(count), dst(count);
+    for (int i = 0; i < count; i++) src[i] = T(int(L::min()) + i);
+    for (const Unary<T>& f : functions<T>()) {
+        if (f.channels != 1) continue;
+        const std::string operation = operationOf(f.name);
+        std::vector<int> factors = {INT_MIN, INT_MIN + 1, -100000, -1000, 1000, 100000, INT_MAX};
+        for (int n = -40; n <= 45; n++) factors.push_back(n);
+        // The exponential of a large sample needs a large factor: the windows of some of them.
+        if (operation == "Exp")
+            for (int n = -47300; n <= 94600; n += 1237) factors.push_back(n);
+        for (int n : factors) {
+            f.run(src.data(), count * int(sizeof(T)), dst.data(), count * int(sizeof(T)), {count, 1}, n);
+            // 2^-n of the extreme factors is beyond long double too, and the results no longer change there.
+            const int modelled = std::max(-120000, std::min(120000, n));
+            for (int i = 0; i < count; i++) {
+                const T want = model(operation, src[i], modelled);
+                if (dst[i] != want) {
+                    ADD_FAILURE() << f.name << " of " << +src[i] << ", factor " << n << ": got " << +dst[i]
+                                  << ", expected " << +want;
+                    break;
+                }
+            }
+        }
+    }
+}
+TEST(UnaryIntegers, EverySampleAndFactor8u) { everySampleAndFactor<Tpx8u>(); }
+TEST(UnaryIntegers, EverySampleAndFactor16u) { everySampleAndFactor<Tpx16u>(); }
+TEST(UnaryIntegers, EverySampleAndFactor16s) { everySampleAndFactor<Tpx16s>(); }
+
+// ---- Floats -------------------------------------------------------------------------------------------------
+
+TEST(UnaryFloats, StrideOfAllBitPatterns) {
+    std::vector<float> src;
+    for (uint64_t bits = 0; bits < uint64_t(1) << 32; bits += 9973) {
+        const uint32_t b = uint32_t(bits);
+        float x;
+        std::memcpy(&x, &b, 4);
+        src.push_back(x);
+    }
+    const float edges[] = {0.0f,          -0.0f,       INFINITY,    -INFINITY,   NAN,
+                           -NAN,          1.0f,        -1.0f,       FLT_MIN,     FLT_TRUE_MIN,
+                           -FLT_TRUE_MIN, FLT_MAX,     -FLT_MAX,    88.72283f,   88.72284f,
+                           -87.33654f,    -103.97208f, -103.97209f, 0.99999994f, 1.0000001f};
+    src.insert(src.end(), std::begin(edges), std::end(edges));
+    std::vector<float> dst(src.size());
+    const TpxiSize size = {int(src.size()), 1};
+    const int step = int(src.size() * 4);
+    for (const auto& f : functions<Tpx32f>()) {
+        if (f.channels != 1) continue;
+        f.run(src.data(), step, dst.data(), step, size, 0);
+        const std::string operation = operationOf(f.name);
+        const double bound = operation == "Ln" || operation == "Exp" ? 2 : 0;
+        double worst = 0;
+        for (size_t i = 0; i < src.size(); i++) {
+            const double error = ulps(dst[i], model(operation, src[i], 0));
+            if (error > worst) {
+                worst = error;
+                EXPECT_LE(worst, bound) << f.name << " of " << src[i] << ": " << dst[i];
+            }
+        }
+    }
+    // Bits, where a value does not tell them.
+    float x = -0.0f, y;
+    tpxiSqrt_32f_C1R(&x, 4, &y, 4, {1, 1});
+    EXPECT_TRUE(sameBits(y, -0.0f));
+    x = -NAN;
+    tpxiAbs_32f_C1R(&x, 4, &y, 4, {1, 1});
+    EXPECT_FALSE(std::signbit(y));
+}
+
+// ---- Shapes, alignments, layouts, in place
+// ---------------------------------------------------------------------
+
+template <class T>
+void everyShape() {
+    constexpr int n = std::is_same_v<T, Tpx8u> ? 3 : 4;
+    for (const Unary<T>& f : functions<T>()) {
+        SCOPED_TRACE(f.name);
+        // One sample alone tells what every position of a run must give.
+        const auto alone = [&](T x) {
+            T pixel[4] = {x, x, x, x};
+            const int step = int(sizeof(T)) * f.channels;
+            f.runInPlace(pixel, step, {1, 1}, n);
+            return pixel[0];
+        };
+        sweepShapes([&](int width, Lie srcLie, Lie dstLie) {
+            if (width > 70 && f.channels > 1) return;
+            constexpr int height = 3;
+            GuardedImage<T> src(width, height, f.channels, srcLie), dst(width, height, f.channels, dstLie);
+            src.randomise(unsigned(width));
+            dst.randomise(unsigned(width) + 1);
+            GuardedImage<T> old(width, height, f.channels);
+            old.copySamplesFrom(dst);
+            const auto want = [&](const GuardedImage<T>& kept) {
+                return [&](int x, int y, int c) {
+                    return f.keepsAlpha && c == 3 ? kept.at(x, y, c) : alone(src.at(x, y, c));
+                };
+            };
+            if (f.run) {
+                f.run(src.data(), src.step(), dst.data(), dst.step(), dst.size(), n);
+                EXPECT_TRUE(matches(dst, want(old)));
+            }
+            dst.copySamplesFrom(src);
+            f.runInPlace(dst.data(), dst.step(), dst.size(), n);
+            EXPECT_TRUE(matches(dst, want(src)));
+            ASSERT_FALSE(testing::Test::HasFailure()) << "width " << width;
+        });
+    }
+}
+TEST(UnaryShapes, EveryShape8u) { everyShape<Tpx8u>(); }
+TEST(UnaryShapes, EveryShape16u) { everyShape<Tpx16u>(); }
+TEST(UnaryShapes, EveryShape16s) { everyShape<Tpx16s>(); }
+TEST(UnaryShapes, EveryShape32f) { everyShape<Tpx32f>(); }
+
+// ---- Steps
+// ----------------------------------------------------------------------------------------------------
+
+TEST(UnarySteps, OddStepIsRoundedDownInAbsSqrSqrtAndUsedAsItIsInLnExp) {
+    const Tpx16s src[] = {-5, -6, -7, -8};
+    Tpx16s dst[4] = {};
+    EXPECT_EQ(tpxiAbs_16s_C1R(src, 5, dst, 5, {1, 2}), tpxOk);
+    EXPECT_EQ(dst[0], 5);
+    EXPECT_EQ(dst[1], 0);
+    EXPECT_EQ(dst[2], 7);
+
+    uint8_t bytes[16] = {}, out[16] = {};
+    const Tpx16s one = 1, two = 2;
+    std::memcpy(bytes, &one, 2);
+    std::memcpy(bytes + 3, &two, 2);
+    EXPECT_EQ(
+        tpxiExp_16s_C1RSfs(reinterpret_cast<Tpx16s*>(bytes), 3, reinterpret_cast<Tpx16s*>(out), 5, {1, 2}, 0),
+        tpxOk);
+    Tpx16s first, second;
+    std::memcpy(&first, out, 2);
+    std::memcpy(&second, out + 5, 2);
+    EXPECT_EQ(first, 3);
+    EXPECT_EQ(second, 7);
+}
+
+// ---- Statuses
+// --------------------------------------------------------------------------------------------------
+
+template <class T>
+void checkOrder() {
+    struct Args {
+        T buffer[8] = {1, 1, 1, 1, 1, 1, 1, 1};
+        bool nullSrc = false, nullDst = false;
+        TpxiSize size = {1, 1};
+        int srcStep = 16, dstStep = 16;
+    };
+    using F = Fault<Args>;
+    for (const Unary<T>& f : functions<T>()) {
+        SCOPED_TRACE(f.name);
+        const std::vector<F> faults = {
+            {"source", [](Args& a) { a.nullSrc = true; }, tpxErrNullPointer},
+            {"destination", [](Args& a) { a.nullDst = true; }, tpxErrNullPointer},
+            {"size", [](Args& a) { a.size.width = 0; }, tpxErrSize},
+            {"size", [](Args& a) { a.size.height = -1; }, tpxErrSize},
+            {"source step", [](Args& a) { a.srcStep = 0; }, tpxErrStep},
+            {"destination step", [](Args& a) { a.dstStep = -16; }, tpxErrStep},
+        };
+        if (f.run)
+            expectCheckOrder(Args{}, faults, [&](Args a) {
+                T out[8] = {7, 7, 7, 7, 7, 7, 7, 7};
+                const TpxStatus status = f.run(a.nullSrc ? nullptr : a.buffer, a.srcStep,
+                                               a.nullDst ? nullptr : out, a.dstStep, a.size, 0);
+                for (T x : out) EXPECT_EQ(x, T(7)) << "written in spite of status " << status;
+                return status;
+            });
+        const std::vector<F> inPlace = {faults[1], faults[2], faults[3], faults[5]};
+        expectCheckOrder(Args{}, inPlace, [&](Args a) {
+            return f.runInPlace(a.nullDst ? nullptr : a.buffer, a.dstStep, a.size, 0);
+        });
+    }
+}
+TEST(UnaryStatus, OrderOfChecks) {
+    checkOrder<Tpx8u>();
+    checkOrder<Tpx16u>();
+    checkOrder<Tpx16s>();
+    checkOrder<Tpx32f>();
+}
+
+// Where in an image of 3 rows the samples that warn stand, and what the call then returns.
+template <class T>
+TpxStatus statusOf(const Unary<T>& f, std::initializer_list<std::pair<int, T>> samples) {
+    constexpr int width = 40;
+    GuardedImage<T> image(width, 3, f.channels);
+    image.fill([](int, int, int) { return 1; });
+    for (auto [at, value] : samples)
+        image.set(at % (width * f.channels) / f.channels, at / (width * f.channels), at % f.channels, value);
+    if (f.run) {
+        GuardedImage<T> dst(width, 3, f.channels);
+        const TpxStatus status = f.run(image.data(), image.step(), dst.data(), dst.step(), dst.size(), 0);
+        const TpxStatus inPlace = f.runInPlace(image.data(), image.step(), image.size(), 0);
+        if (f.seesAlpha) EXPECT_EQ(status, inPlace) << f.name;
+        return status;
+    }
+    return f.runInPlace(image.data(), image.step(), image.size(), 0);
+}
+
+template <class T>
+void warnings() {
+    for (const Unary<T>& f : functions<T>()) {
+        SCOPED_TRACE(f.name);
+        const std::string operation = operationOf(f.name);
+        const int row = 40 * f.channels;
+        const bool isSigned = std::is_signed_v<T>, root = operation == "Sqrt", ln = operation == "Ln";
+        const T zero = T(0), negative = T(-3);
+        for (int at : {0, 5, row - 1, row, 2 * row + 33, 3 * row - 1}) {
+            if (f.keepsAlpha && at % 4 == 3) continue;
+            EXPECT_EQ(statusOf<T>(f, {{at, zero}}), ln ? tpxWarnLnZeroArg : tpxOk) << at;
+            if (isSigned)
+                EXPECT_EQ(statusOf<T>(f, {{at, negative}}), ln     ? tpxWarnLnNegArg
+                                                            : root ? tpxWarnSqrtNegArg
+                                                                   : tpxOk)
+                    << at;
+        }
+        if (ln && isSigned) {
+            // The first in row-major order decides.
+            EXPECT_EQ(statusOf<T>(f, {{3, zero}, {30, negative}}), tpxWarnLnZeroArg);
+            EXPECT_EQ(statusOf<T>(f, {{3, negative}, {30, zero}}), tpxWarnLnNegArg);
+            EXPECT_EQ(statusOf<T>(f, {{row + 1, negative}, {2 * row, zero}}), tpxWarnLnNegArg);
+            EXPECT_EQ(statusOf<T>(f, {{row - 1, zero}, {row, negative}}), tpxWarnLnZeroArg);
+        }
+        if (root && isSigned && f.keepsAlpha)
+            EXPECT_EQ(statusOf<T>(f, {{7, negative}}), f.seesAlpha ? tpxWarnSqrtNegArg : tpxOk);
+    }
+}
+TEST(UnaryStatus, Warnings) {
+    warnings<Tpx8u>();
+    warnings<Tpx16u>();
+    warnings<Tpx16s>();
+    warnings<Tpx32f>();
+}
+
+TEST(UnaryStatus, FloatWarningsDoNotCountNanNorNegativeZeroInARoot) {
+    const auto all = functions<Tpx32f>();
+    for (const auto& f : all) {
+        const std::string operation = operationOf(f.name);
+        if (operation == "Sqrt") {
+            EXPECT_EQ(statusOf<Tpx32f>(f, {{3 - f.channels % 2, NAN}}), tpxOk);
+            EXPECT_EQ(statusOf<Tpx32f>(f, {{0, -0.0f}}), tpxOk);
+        }
+        if (operation == "Ln") {
+            EXPECT_EQ(statusOf<Tpx32f>(f, {{3, NAN}}), tpxOk);
+            EXPECT_EQ(statusOf<Tpx32f>(f, {{3, -0.0f}}), tpxWarnLnZeroArg);
+        }
+    }
+    // In place the root of a four-channel image without its own alpha does see alpha.
+    Tpx32f pixel[4] = {1, 1, 1, -1};
+    EXPECT_EQ(tpxiSqrt_32f_AC4IR(pixel, 16, {1, 1}), tpxWarnSqrtNegArg);
+    EXPECT_EQ(pixel[3], -1.0f);
+}
+
+} // namespace
