@@ -1,0 +1,53 @@
+// What the initialisers write into a plan's tables: positions, fractions, and the kernels' weights.
+//
+// Positions are the plain double expressions below. They must not be rewritten in exact integers: callers rely
+// on the same positions for the same sizes, rounding included.
+#pragma once
+
+#include "geometry/resize_plan.h"
+
+namespace tpx {
+
+// Sets results to be flushed to zero with underflow masked, until it goes out of scope.
+class FlushToZero {
+    static constexpr unsigned kFlush = 0x8000, kMaskUnderflow = 0x0800, kUnderflowSeen = 0x0010;
+    static constexpr unsigned kTouched = kFlush | kMaskUnderflow | kUnderflowSeen;
+    unsigned before = _mm_getcsr();
+
+ public:
+    FlushToZero() { _mm_setcsr(before | kFlush | kMaskUnderflow); }
+    ~FlushToZero() { _mm_setcsr((_mm_getcsr() & ~kTouched) | (before & kTouched)); }
+    FlushToZero(const FlushToZero&) = delete;
+    FlushToZero& operator=(const FlushToZero&) = delete;
+};
+
+// Fills the index table of an interpolating axis, counts the positions at either end whose taps reach outside
+// (`reach` source positions on each side), and gives store(i, fraction) the distance from the index.
+template <class Store>
+inline void buildPositions(TpxiResizeAxis& axis, int reach, Store store) {
+    const double scale = scaleOf(axis), first = reach - 1, last = double(axis.srcLen) - reach;
+    axis.leadCount = axis.trailCount = 0;
+    for (int64_t i = 0; i < axis.dstLen; i++) {
+        const double c = (double(i) + 0.5) * scale - 0.5, whole = floorOf(c);
+        axis.pIndex[i] = Tpx32s(whole);
+        axis.leadCount += c < first;
+        axis.trailCount += c >= last;
+        store(i, c - whole);
+    }
+}
+
+void buildNearest(TpxiResizeAxis& axis);
+
+void buildLinearQ14(TpxiResizeAxis& axis, bool inPairs);
+void buildFractions(TpxiResizeAxis& axis, int reach, Tpx32f* fractions);
+void buildFractions(TpxiResizeAxis& axis, int reach, Tpx64f* fractions);
+
+// Four weights for each fraction, from the left or the top.
+void buildCubic(const Tpx32f* fractions, int64_t count, Tpx32f valueB, Tpx32f valueC, Tpx32f* weights);
+// Twice `lobes` weights for each fraction. `lobes` is 2 or 3.
+void buildLanczos(const Tpx32f* fractions, int64_t count, int lobes, Tpx32f* weights);
+
+// Indices and weights of one period of super-sampling.
+void buildSuper(TpxiResizeAxis& axis);
+
+} // namespace tpx
