@@ -52,6 +52,24 @@ inline ptrdiff_t samplesToBoundary(const T* p) {
     return ptrdiff_t((-reinterpret_cast<uintptr_t>(p) & (sizeof(Vec<T>) - 1)) / sizeof(T));
 }
 
+// dst[i ...] = at(i), a register of what belongs there; from the second register on they start at `boundary`.
+template <class T, class At>
+inline void writeRun(T* dst, ptrdiff_t len, ptrdiff_t boundary, At&& at) {
+    constexpr ptrdiff_t L = kLanes<T>;
+    const Vec<T> head = at(0), tail = at(len - L);
+    ptrdiff_t i = boundary;
+    for (; i + 4 * L <= len; i += 4 * L) {
+        const Vec<T> a = at(i), b = at(i + L), c = at(i + 2 * L), d = at(i + 3 * L);
+        store(dst + i, a);
+        store(dst + i + L, b);
+        store(dst + i + 2 * L, c);
+        store(dst + i + 3 * L, d);
+    }
+    for (; i + L <= len; i += L) store(dst + i, at(i));
+    store(dst + len - L, tail);
+    store(dst, head);
+}
+
 // dst[i] = rule(src[i]). With KeepAlpha the run is one of four-channel pixels whose fourth is left as it was.
 template <bool KeepAlpha = false, class T, class Rule>
 inline void mapRun(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
@@ -67,42 +85,49 @@ inline void mapRun(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
         copyShort(dst, &v, len * ptrdiff_t(sizeof(T)));
         return;
     }
-    const Vec<T> head = at(0), tail = at(len - L);
-    ptrdiff_t i = KeepAlpha ? L : samplesToBoundary(dst);
-    for (; i + 4 * L <= len; i += 4 * L) {
-        const Vec<T> a = at(i), b = at(i + L), c = at(i + 2 * L), d = at(i + 3 * L);
-        store(dst + i, a);
-        store(dst + i + L, b);
-        store(dst + i + 2 * L, c);
-        store(dst + i + 3 * L, d);
-    }
-    for (; i + L <= len; i += L) store(dst + i, at(i));
-    store(dst + len - L, tail);
-    store(dst, head);
+    writeRun(dst, len, KeepAlpha ? L : samplesToBoundary(dst), at);
 }
 
 // srcDst[i] = rule(src[i], srcDst[i]).
 template <class T, class Rule>
 inline void mapRun2(const T* src, T* srcDst, ptrdiff_t len, Rule&& rule) {
-    constexpr ptrdiff_t L = kLanes<T>;
-    const auto at = [&](ptrdiff_t i) { return rule(load(src + i), load(srcDst + i)); };
-    if (len < L) {
+    if (len < kLanes<T>) {
         const Vec<T> v = rule(loadShort(src, len), loadShort(srcDst, len));
         copyShort(srcDst, &v, len * ptrdiff_t(sizeof(T)));
         return;
     }
-    const Vec<T> head = at(0), tail = at(len - L);
-    ptrdiff_t i = samplesToBoundary(srcDst);
-    for (; i + 4 * L <= len; i += 4 * L) {
-        const Vec<T> a = at(i), b = at(i + L), c = at(i + 2 * L), d = at(i + 3 * L);
-        store(srcDst + i, a);
-        store(srcDst + i + L, b);
-        store(srcDst + i + 2 * L, c);
-        store(srcDst + i + 3 * L, d);
+    writeRun(srcDst, len, samplesToBoundary(srcDst),
+             [&](ptrdiff_t i) { return rule(load(src + i), load(srcDst + i)); });
+}
+
+// A run shorter than a register, reversed. All is read before anything is written.
+template <class T>
+inline void reverseShort(const T* src, T* dst, ptrdiff_t len) {
+    const Vec<T> v = reverseLanes(loadShort(src, len));
+    copyShort(dst, reinterpret_cast<const T*>(&v) + kLanes<T> - len, len * ptrdiff_t(sizeof(T)));
+}
+
+// dst[i] = src[len - 1 - i]. The runs do not overlap.
+template <class T>
+inline void reverseRun(const T* src, T* dst, ptrdiff_t len) {
+    constexpr ptrdiff_t L = kLanes<T>;
+    if (len < L) return reverseShort(src, dst, len);
+    writeRun(dst, len, samplesToBoundary(dst),
+             [&](ptrdiff_t i) { return reverseLanes(load(src + len - L - i)); });
+}
+
+// The same in place: registers change places from both ends inwards. The last pair may overlap.
+template <class T>
+inline void reverseRun(T* srcDst, ptrdiff_t len) {
+    constexpr ptrdiff_t L = kLanes<T>;
+    T *low = srcDst, *high = srcDst + len;
+    for (; high - low >= L; low += L, high -= L) {
+        const Vec<T> a = load(low), b = load(high - L);
+        store(low, reverseLanes(b));
+        store(high - L, reverseLanes(a));
+        if (high - low < 2 * L) return;
     }
-    for (; i + L <= len; i += L) store(srcDst + i, at(i));
-    store(srcDst + len - L, tail);
-    store(srcDst, head);
+    if (low < high) reverseShort(low, low, high - low);
 }
 
 // The index of the first sample whose lane of test(x) is set, or -1.

@@ -118,8 +118,8 @@ inline constexpr AlphaMask<T> kAlphaMask;
 
 // ---- Choosing ------------------------------------------------------------------------------------------
 
-// a < b ? a : b, so `b` where one of them is NaN or both are zeros; the instructions for floats do just that, but
-// g++ does not find them. maxOf likewise.
+// a < b ? a : b, so `b` where one of them is NaN or both are zeros; the instructions for floats do just that,
+// but g++ does not find them. maxOf likewise.
 template <class V>
 inline V minOf(V a, V b) {
     if constexpr (std::is_same_v<V, V32f>)
@@ -201,6 +201,20 @@ inline V32s multiplyAddPairs(V16s a, V16s b) { return V32s(_mm_madd_epi16(__m128
 // The lanes of `a` and `b` in turn: a0 b0 a1 b1 ... from the lower half of both, or from the upper.
 inline V16s interleaveLow(V16s a, V16s b) { return V16s(_mm_unpacklo_epi16(__m128i(a), __m128i(b))); }
 inline V16s interleaveHigh(V16s a, V16s b) { return V16s(_mm_unpackhi_epi16(__m128i(a), __m128i(b))); }
+
+// The lanes in the opposite order.
+inline V8u reverseLanes(V8u a) {
+    return V8u(
+        _mm_shuffle_epi8(__m128i(a), _mm_set_epi8(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15)));
+}
+inline V16u reverseLanes(V16u a) {
+    return V16u(
+        _mm_shuffle_epi8(__m128i(a), _mm_set_epi8(1, 0, 3, 2, 5, 4, 7, 6, 9, 8, 11, 10, 13, 12, 15, 14)));
+}
+inline V32f reverseLanes(V32f a) {
+    const __m256 halves = _mm256_permute2f128_ps(a, a, 1);
+    return V32f(_mm256_shuffle_ps(halves, halves, _MM_SHUFFLE(0, 1, 2, 3)));
+}
 
 // ---- Absolute value: the type's smallest integer gives its largest
 // -------------------------------------------
