@@ -52,11 +52,10 @@ struct Ln {
             return body(FloatLogarithm{});
         } else {
             n = clamp(n, -20, 20); // past these every logarithm but 0 saturates, or rounds to 0
-            // Single precision decides the rounding of all logarithms of 8 bits (tested one by one).
-            if constexpr (sizeof(T) == 1)
-                return body(IntegerLogarithm<float, T>(n));
-            else
-                return body(IntegerLogarithm<double, T>(n));
+            // Single precision decides the rounding of every logarithm of 8 bits, and of 16 bits while results
+            // stay small (tested sample by sample).
+            if (sizeof(T) == 1 || n >= -1) return body(IntegerLogarithm<float, T>(n));
+            return body(IntegerLogarithm<double, T>(n));
         }
     }
 };

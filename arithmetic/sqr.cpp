@@ -9,11 +9,9 @@ namespace {
 template <class T>
 constexpr int kValueBits = kBits<T> - std::is_signed_v<T>;
 
-// rule(|x| * |x|) in lanes of twice the width, saturated back to T.
-template <class T, class Rule>
-inline Vec<T> throughSquare(Vec<T> x, Tpx32u limit, Rule rule) {
-    auto m = magnitude(x);
-    m = minOf(m, splat<decltype(m)>(LaneOf<decltype(m)>(limit)));
+// rule(m * m) in lanes of twice the width, saturated back to T.
+template <class T, class M, class Rule>
+inline Vec<T> throughSquare(M m, Rule rule) {
     const auto square = multiplyWide(m, m);
     return narrow<T>(decltype(square){rule(square.low), rule(square.high)});
 }
@@ -24,10 +22,10 @@ inline Vec<T> throughSquare(Vec<T> x, Tpx32u limit, Rule rule) {
 template <class T>
 inline auto shrinkingRule(int n) {
     return [n](Vec<T> x) {
-        return throughSquare<T>(x, 0xFFFF, [n](auto square) {
+        return throughSquare<T>(magnitude(x), [n](auto square) {
             using W = decltype(square);
             const W odd = splat<W>(LaneOf<W>(n & 1));
-            return (shiftRight(square - minOf(square, odd), n - 1) + splat<W>(1)) >> 1;
+            return average(shiftRight(subSat(square, odd), n - 1), W{});
         });
     };
 }
@@ -38,8 +36,20 @@ template <class T>
 inline auto growingRule(int k) {
     const Tpx32u limit = 1u << ((kValueBits<T> - k + 1) / 2);
     return [k, limit](Vec<T> x) {
-        return throughSquare<T>(x, limit, [k](auto square) { return shiftLeft(square, k); });
+        const auto m = magnitude(x);
+        const auto limited = minOf(m, splat<decltype(m)>(LaneOf<decltype(m)>(limit)));
+        return throughSquare<T>(limited, [k](auto square) { return shiftLeft(square, k); });
     };
+}
+
+// Factor 0 in 16 bits, without leaving them.
+inline V16s squareSaturated(V16s x) {
+    const V16u m = minOf(magnitude(x), splat<V16u>(182)); // the first that saturates
+    return V16s(minOf(m * m, splat<V16u>(32767)));
+}
+inline V16u squareSaturated(V16u x) {
+    const V16u m = minOf(x, splat<V16u>(256)); // the first that saturates; its square is 0 in 16 bits
+    return m * m | V16u(x >= splat<V16u>(256));
 }
 
 } // namespace
@@ -59,14 +69,9 @@ struct Sqr {
                 // No sample above 15 stays below saturation: the 16 results that there are make a table.
                 Table16<Tpx8u> table;
                 table.bytes = growing(V8u{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15});
-                return body([table](V8u x) { return x > splat<V8u>(15) ? splat<V8u>(255) : lookup(table, x); });
+                return body([table](V8u x) { return lookupOrMax(table, x); });
             } else {
-                constexpr Tpx16u root = std::is_signed_v<T> ? 181 : 255; // the last one that does not saturate
-                if (n == 0)
-                    return body([](Vec<T> x) {
-                        const V16u m = magnitude(x);
-                        return Vec<T>(m > splat<V16u>(root) ? splat<V16u>(kMax<T>) : m * m);
-                    });
+                if (n == 0) return body([](Vec<T> x) { return squareSaturated(x); });
                 return body(growing);
             }
         }

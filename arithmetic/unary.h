@@ -13,6 +13,9 @@
 
 namespace tpx {
 
+// Above this traffic in bytes (reads and writes) the cache's size is asked for.
+inline constexpr uint64_t kUnaryFloor = 4194304;
+
 template <class Op, bool KeepAlpha, class T>
 TpxStatus unaryRows(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, TpxiSize roi, int channels,
                     int scaleFactor) {
@@ -23,12 +26,29 @@ TpxStatus unaryRows(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, 
         srcStep = wholeStep<T>(srcStep);
         dstStep = wholeStep<T>(dstStep);
     }
-    const ptrdiff_t len = ptrdiff_t(roi.width) * channels;
     return Op::template withRule<T>(scaleFactor, [&](auto rule) -> TpxStatus {
-        walkRows(src, srcStep, dst, dstStep, roi.height, [&](const T* s, T* d) {
-            if constexpr (requires { rule.inspect(s, len); }) rule.inspect(s, len);
-            mapRun<KeepAlpha>(s, d, len, rule);
-        });
+        ptrdiff_t len = ptrdiff_t(roi.width) * channels, height = roi.height;
+        constexpr bool inspects = requires { rule.inspect(src, len); };
+        // A row that is looked at first is still in the nearest cache when it is mapped; one long run is not.
+        if (!inspects) joinRows(len, height, sizeof(T), srcStep, dstStep);
+        const auto walk = [&]<Write W>(std::integral_constant<Write, W>) {
+            walkRows(src, srcStep, dst, dstStep, height, [&](const T* s, T* d) {
+                if constexpr (inspects) rule.inspect(s, len);
+                mapRun<W>(s, d, len, rule);
+            });
+        };
+        if constexpr (KeepAlpha) {
+            walk(std::integral_constant<Write, Write::KeepAlpha>{});
+        } else {
+            // In place the line is in the cache already.
+            const uint64_t traffic = 2 * uint64_t(len) * uint64_t(height) * sizeof(T);
+            if (src != dst && exceedsCache(traffic, kUnaryFloor)) {
+                walk(std::integral_constant<Write, Write::Streaming>{});
+                streamFence();
+            } else {
+                walk(std::integral_constant<Write, Write::Cached>{});
+            }
+        }
         if constexpr (requires { rule.status(); })
             return rule.status();
         else

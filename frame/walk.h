@@ -40,6 +40,15 @@ constexpr ptrdiff_t wholeStep(ptrdiff_t step) {
     return step & -ptrdiff_t(sizeof(T));
 }
 
+// Rows that follow each other without a gap in every image become one: all steps are the row's length in bytes.
+template <class... Steps>
+inline void joinRows(ptrdiff_t& len, ptrdiff_t& height, ptrdiff_t sampleBytes, Steps... steps) {
+    if ((... && (steps == len * sampleBytes))) {
+        len *= height;
+        height = 1;
+    }
+}
+
 // Calls row(src, dst) for each of `height` pairs of rows.
 template <class S, class D, class Row>
 inline void walkRows(const S* src, ptrdiff_t srcStep, D* dst, ptrdiff_t dstStep, ptrdiff_t height, Row row) {

@@ -19,10 +19,7 @@ TpxStatus copyBytes(const void* pSrc, ptrdiff_t srcStep, void* pDst, ptrdiff_t d
     if (anyNull(pSrc, pDst)) return tpxErrNullPointer;
     if (isEmpty(roi)) return tpxErrSize;
     ptrdiff_t row = ptrdiff_t(roi.width) * pixelBytes, height = roi.height;
-    if (srcStep == row && dstStep == row) {
-        row *= height;
-        height = 1;
-    }
+    joinRows(row, height, 1, srcStep, dstStep);
     const uint64_t traffic = 2 * uint64_t(row) * uint64_t(height);
     const bool stream = row >= streaming.minRow && exceedsCache(traffic, streaming.floor);
     walkRows(static_cast<const Tpx8u*>(pSrc), srcStep, static_cast<Tpx8u*>(pDst), dstStep, height,
@@ -39,7 +36,7 @@ TpxStatus copy(const T* pSrc, int srcStep, T* pDst, int dstStep, TpxiSize roi) {
         if (isEmpty(roi)) return tpxErrSize;
         walkRows(reinterpret_cast<const B*>(pSrc), srcStep, reinterpret_cast<B*>(pDst), dstStep, roi.height,
                  [len = ptrdiff_t(roi.width) * 4](const B* s, B* d) {
-                     mapRun<true>(s, d, len, [](auto x) { return x; });
+                     mapRun<Write::KeepAlpha>(s, d, len, [](auto x) { return x; });
                  });
         return tpxOk;
     } else {

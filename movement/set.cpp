@@ -21,7 +21,7 @@ TpxStatus set(const T* value, T* pDst, ptrdiff_t dstStep, TpxiSize roi) {
         const Pattern pattern = makePattern(pixel, sizeof pixel);
         const Vec<B> fill = bitsAs<Vec<B>>(load(pattern.bytes));
         walkRows(reinterpret_cast<B*>(pDst), dstStep, roi.height, [=, len = ptrdiff_t(roi.width) * 4](B* d) {
-            mapRun<true>(d, d, len, [=](auto) { return fill; });
+            mapRun<Write::KeepAlpha>(d, d, len, [=](auto) { return fill; });
         });
     } else {
         constexpr int pixelBytes = channelsOf(L) * int(sizeof(T));
@@ -29,10 +29,7 @@ TpxStatus set(const T* value, T* pDst, ptrdiff_t dstStep, TpxiSize roi) {
         constexpr bool mayStream = !(L == Layout::C1 && sizeof(T) == 2);
         const Pattern pattern = makePattern(value, pixelBytes);
         ptrdiff_t row = ptrdiff_t(roi.width) * pixelBytes, height = roi.height;
-        if (dstStep == row) {
-            row *= height;
-            height = 1;
-        }
+        joinRows(row, height, 1, dstStep);
         const bool stream = mayStream && fillsCache(uint64_t(row) * uint64_t(height), kFillFloor);
         walkRows(reinterpret_cast<Tpx8u*>(pDst), dstStep, height,
                  [&](Tpx8u* d) { stream ? fillRowStreaming(d, row, pattern) : fillRow(d, row, pattern); });
