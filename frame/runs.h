@@ -1,13 +1,14 @@
 // Loops over one run of contiguous samples: the bulk, its ends, and runs shorter than a register.
 //
 // A rule sees nothing but whole registers, at every length. The first and the last register of a run may
-// overlap the bulk: both are computed before the bulk is stored and stored after it, so a sample that is
+// overlap the bulk: both are computed before the bulk is stored and are stored after it, so a sample that is
 // covered twice gets the same value twice, in place too. A run shorter than a register is padded with copies
 // of its first sample. So there is no scalar form of a rule that could disagree with the vector form, and a
 // rule may gather flags ("a negative sample was seen"), which a repeated sample does not change.
 #pragma once
 
 #include "frame/simd.h"
+#include "frame/streaming.h"
 #include "frame/walk.h"
 
 namespace tpx {
@@ -46,88 +47,71 @@ inline Vec<T> loadShort(const T* src, ptrdiff_t len) {
     return v;
 }
 
-// How many samples of a register stored at `p` come before the next boundary of a register's size.
+// What lies between `p` and the next boundary of a register's size: in bytes, and in whole samples.
+template <class T>
+inline size_t bytesToBoundary(const T* p) {
+    return -reinterpret_cast<uintptr_t>(p) & (sizeof(Vec<T>) - 1);
+}
 template <class T>
 inline ptrdiff_t samplesToBoundary(const T* p) {
-    return ptrdiff_t((-reinterpret_cast<uintptr_t>(p) & (sizeof(Vec<T>) - 1)) / sizeof(T));
+    return ptrdiff_t(bytesToBoundary(p) / sizeof(T));
 }
 
-// dst[i ...] = at(i), a register of what belongs there; from the second register on they start at `boundary`.
-template <class T, class At>
-inline void writeRun(T* dst, ptrdiff_t len, ptrdiff_t boundary, At&& at) {
-    constexpr ptrdiff_t L = kLanes<T>;
-    const Vec<T> head = at(0), tail = at(len - L);
-    ptrdiff_t i = boundary;
-    for (; i + 4 * L <= len; i += 4 * L) {
-        const Vec<T> a = at(i), b = at(i + L), c = at(i + 2 * L), d = at(i + 3 * L);
-        store(dst + i, a);
-        store(dst + i + L, b);
-        store(dst + i + 2 * L, c);
-        store(dst + i + 3 * L, d);
-    }
-    for (; i + L <= len; i += L) store(dst + i, at(i));
-    store(dst + len - L, tail);
-    store(dst, head);
-}
+// How the results of a run are written: all lanes into the caches, all but the alphas of four-channel pixels,
+// or all lanes past the caches (the caller decides once a call, and fences after its last row).
+enum class Write { Cached, KeepAlpha, Streaming };
 
-// dst[i] = rule(src[i]). With KeepAlpha the run is one of four-channel pixels whose fourth is left as it was.
-template <bool KeepAlpha = false, class T, class Rule>
-inline void mapRun(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
+// dst[i...] = at(i), a register from sample i on; whole() makes the register of a run that does not fill one.
+template <Write W, class T, class At, class Whole>
+inline void writeRun(T* dst, ptrdiff_t len, At at, Whole whole) {
     constexpr ptrdiff_t L = kLanes<T>;
-    const auto at = [&](ptrdiff_t i) {
-        Vec<T> v = rule(load(src + i));
-        if constexpr (KeepAlpha) v = keepAlpha<T>(load(dst + i), v);
-        return v;
-    };
     if (len < L) {
-        Vec<T> v = rule(loadShort(src, len));
-        if constexpr (KeepAlpha) v = keepAlpha<T>(loadShort(dst, len), v);
+        const Vec<T> v = whole();
         copyShort(dst, &v, len * ptrdiff_t(sizeof(T)));
         return;
     }
-    writeRun(dst, len, KeepAlpha ? L : samplesToBoundary(dst), at);
+    const auto put = [dst](ptrdiff_t i, Vec<T> v) {
+        if constexpr (W == Write::Streaming)
+            streamStore(dst + i, v);
+        else
+            store(dst + i, v);
+    };
+    // Registers of pixels stay on whole pixels, so they begin where the run does.
+    const ptrdiff_t begin = W == Write::KeepAlpha ? 0 : samplesToBoundary(dst);
+    const bool cutTail = (len - begin) % L != 0;
+    Vec<T> head, tail;
+    if (begin) head = at(0);
+    if (cutTail) tail = at(len - L);
+    ptrdiff_t i = begin;
+    for (; i + 4 * L <= len; i += 4 * L) {
+        const Vec<T> a = at(i), b = at(i + L), c = at(i + 2 * L), d = at(i + 3 * L);
+        put(i, a);
+        put(i + L, b);
+        put(i + 2 * L, c);
+        put(i + 3 * L, d);
+    }
+    for (; i + L <= len; i += L) put(i, at(i));
+    if (cutTail) store(dst + len - L, tail);
+    if (begin) store(dst, head);
+}
+
+// dst[i] = rule(src[i]).
+template <Write W = Write::Cached, class T, class Rule>
+inline void mapRun(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
+    if constexpr (W == Write::Streaming)
+        if (samplesToBoundary(dst) * sizeof(T) != bytesToBoundary(dst)) return mapRun(src, dst, len, rule);
+    const auto keep = [](Vec<T> old, Vec<T> v) { return W == Write::KeepAlpha ? keepAlpha<T>(old, v) : v; };
+    writeRun<W>(
+        dst, len, [&](ptrdiff_t i) { return keep(load(dst + i), rule(load(src + i))); },
+        [&] { return keep(loadShort(dst, len), rule(loadShort(src, len))); });
 }
 
 // srcDst[i] = rule(src[i], srcDst[i]).
 template <class T, class Rule>
 inline void mapRun2(const T* src, T* srcDst, ptrdiff_t len, Rule&& rule) {
-    if (len < kLanes<T>) {
-        const Vec<T> v = rule(loadShort(src, len), loadShort(srcDst, len));
-        copyShort(srcDst, &v, len * ptrdiff_t(sizeof(T)));
-        return;
-    }
-    writeRun(srcDst, len, samplesToBoundary(srcDst),
-             [&](ptrdiff_t i) { return rule(load(src + i), load(srcDst + i)); });
-}
-
-// A run shorter than a register, reversed. All is read before anything is written.
-template <class T>
-inline void reverseShort(const T* src, T* dst, ptrdiff_t len) {
-    const Vec<T> v = reverseLanes(loadShort(src, len));
-    copyShort(dst, reinterpret_cast<const T*>(&v) + kLanes<T> - len, len * ptrdiff_t(sizeof(T)));
-}
-
-// dst[i] = src[len - 1 - i]. The runs do not overlap.
-template <class T>
-inline void reverseRun(const T* src, T* dst, ptrdiff_t len) {
-    constexpr ptrdiff_t L = kLanes<T>;
-    if (len < L) return reverseShort(src, dst, len);
-    writeRun(dst, len, samplesToBoundary(dst),
-             [&](ptrdiff_t i) { return reverseLanes(load(src + len - L - i)); });
-}
-
-// The same in place: registers change places from both ends inwards. The last pair may overlap.
-template <class T>
-inline void reverseRun(T* srcDst, ptrdiff_t len) {
-    constexpr ptrdiff_t L = kLanes<T>;
-    T *low = srcDst, *high = srcDst + len;
-    for (; high - low >= L; low += L, high -= L) {
-        const Vec<T> a = load(low), b = load(high - L);
-        store(low, reverseLanes(b));
-        store(high - L, reverseLanes(a));
-        if (high - low < 2 * L) return;
-    }
-    if (low < high) reverseShort(low, low, high - low);
+    writeRun<Write::Cached>(
+        srcDst, len, [&](ptrdiff_t i) { return rule(load(src + i), load(srcDst + i)); },
+        [&] { return rule(loadShort(src, len), loadShort(srcDst, len)); });
 }
 
 // The index of the first sample whose lane of test(x) is set, or -1.

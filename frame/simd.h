@@ -185,9 +185,12 @@ inline V8u subSat(V8u a, V8u b) { return V8u(_mm_subs_epu8(__m128i(a), __m128i(b
 inline V16u subSat(V16u a, V16u b) { return V16u(_mm_subs_epu16(__m128i(a), __m128i(b))); }
 inline V16s subSat(V16s a, V16s b) { return V16s(_mm_subs_epi16(__m128i(a), __m128i(b))); }
 
+inline V32u subSat(V32u a, V32u b) { return a - minOf(a, b); }
+
 // (a + b + 1) / 2 without overflow.
 inline V8u average(V8u a, V8u b) { return V8u(_mm_avg_epu8(__m128i(a), __m128i(b))); }
 inline V16u average(V16u a, V16u b) { return V16u(_mm_avg_epu16(__m128i(a), __m128i(b))); }
+inline V32u average(V32u a, V32u b) { return (a | b) - ((a ^ b) >> 1); }
 
 // Shifts by a count that is the same in every lane; a count past the lane's width gives zero.
 inline V16u shiftLeft(V16u a, int n) { return V16u(_mm_sll_epi16(__m128i(a), _mm_cvtsi32_si128(n))); }
@@ -291,6 +294,13 @@ struct Table16<Tpx8u> {
 };
 inline V8u lookup(const Table16<Tpx8u>& table, V8u index) {
     return V8u(_mm_shuffle_epi8(__m128i(table.bytes), __m128i(index)));
+}
+
+// An index above 15 gives 255: its top bit is set by the sum, so that it looks up 0 in the table's complement.
+inline V8u lookupOrMax(const Table16<Tpx8u>& table, V8u index) {
+    const V8u complement =
+        V8u(_mm_shuffle_epi8(__m128i(~table.bytes), __m128i(addSat(index, splat<V8u>(112)))));
+    return ~complement;
 }
 
 // 16-bit entries lie in two byte tables; an index byte with its top bit set looks up 0.
