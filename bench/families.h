@@ -1,0 +1,10 @@
+// Registers the jobs of each family of functions.
+#pragma once
+
+namespace bench {
+
+void addCopies();
+void addUnary();
+void addResizes();
+
+} // namespace bench

@@ -1,0 +1,99 @@
+// An image for a race: allocated by the library, filled before anybody is timed.
+#pragma once
+
+#include <tpxi.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <new>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+namespace bench {
+
+inline std::string text(TpxiSize size) {
+    return std::to_string(size.width) + "x" + std::to_string(size.height);
+}
+
+template <typename T>
+class Image {
+ public:
+    Image(TpxiSize size, int channels) : size_(size), channels_(channels) {
+        data_ = tpxiMalloc_8u_C1(size.width * channels * static_cast<int>(sizeof(T)), size.height, &step_);
+        if (!data_) throw std::bad_alloc();
+        std::memset(data_, 0, static_cast<size_t>(step_) * size.height); // maps every page
+    }
+    Image(TpxiSize size, int channels, double low, double high) : Image(size, channels) { fill(low, high); }
+    Image(const Image&) = delete;
+    Image& operator=(const Image&) = delete;
+    ~Image() { tpxiFree(data_); }
+
+    T* row(int y) const { return reinterpret_cast<T*>(data_ + static_cast<ptrdiff_t>(step_) * y); }
+    T* data() const { return row(0); }
+    int step() const { return step_; }
+    TpxiSize size() const { return size_; }
+    int channels() const { return channels_; }
+    size_t rowSamples() const { return static_cast<size_t>(size_.width) * channels_; }
+    size_t rowBytes() const { return rowSamples() * sizeof(T); }
+    double samples() const { return static_cast<double>(rowSamples()) * size_.height; }
+    double bytes() const { return samples() * sizeof(T); }
+
+    // Noise in low..high. Its period has no common factor with a row, so that rows differ.
+    void fill(double low, double high) const {
+        constexpr size_t kPeriod = 65521;
+        std::vector<T> noise(kPeriod);
+        uint64_t state = 0x9E3779B97F4A7C15u;
+        for (T& sample : noise) {
+            state = state * 6364136223846793005u + 1442695040888963407u;
+            const double unit = static_cast<double>(state >> 11) * 0x1p-53;
+            // Integers: high is reached as often as any other value.
+            sample = static_cast<T>(low + unit * (high - low + std::is_integral_v<T>));
+        }
+        size_t at = 0;
+        for (int y = 0; y < size_.height; ++y)
+            for (size_t x = 0; x < rowSamples();) {
+                const size_t run = std::min(kPeriod - at, rowSamples() - x);
+                std::memcpy(row(y) + x, noise.data() + at, run * sizeof(T));
+                x += run;
+                at = (at + run) % kPeriod;
+            }
+    }
+
+ private:
+    TpxiSize size_;
+    int channels_;
+    int step_ = 0;
+    Tpx8u* data_ = nullptr;
+};
+
+// The copy that everything is held against: the same bytes with the same steps, in one piece where rows are.
+template <typename T>
+void copyImage(const Image<T>& src, const Image<T>& dst) {
+    const size_t length = src.rowBytes();
+    if (length == static_cast<size_t>(src.step()) && src.step() == dst.step()) {
+        std::memcpy(dst.data(), src.data(), length * src.size().height);
+        return;
+    }
+    for (int y = 0; y < src.size().height; ++y) std::memcpy(dst.row(y), src.row(y), length);
+}
+
+// The farthest two samples of equal place are apart; relative to the expected one where that is above 1 in
+// floating point.
+template <typename T>
+double distance(const Image<T>& got, const Image<T>& expected) {
+    double worst = 0;
+    for (int y = 0; y < got.size().height; ++y)
+        for (size_t x = 0; x < got.rowSamples(); ++x) {
+            const double want = expected.row(y)[x];
+            double off = got.row(y)[x] - want;
+            off = off < 0 ? -off : off;
+            const double size = want < 0 ? -want : want;
+            if (std::is_floating_point_v<T> && size > 1) off /= size;
+            if (!(off <= worst)) worst = off;
+        }
+    return worst;
+}
+
+} // namespace bench

@@ -1,0 +1,93 @@
+// Races of functions that go from sample to sample: one line registers a function at every size.
+#pragma once
+
+#include "image.h"
+#include "race.h"
+
+#include <memory>
+#include <stdexcept>
+
+namespace bench {
+
+inline void check(TpxStatus status) {
+    if (status != tpxOk) throw std::runtime_error("status " + std::to_string(status));
+}
+
+template <typename T>
+void checkSame(const Image<T>& got, const Image<T>& expected, double tolerance) {
+    const double off = distance(got, expected);
+    if (!(off <= tolerance)) throw std::runtime_error("the scalar form differs by " + std::to_string(off));
+}
+
+// From an image that fits the first-level cache to one that, with its destination, is beyond any cache.
+// Slow functions are compute-bound at every size, and leave the last one out.
+enum class Sizes { all, withinCache };
+inline constexpr double kBeyondCacheBytes = 256.0 * (1 << 20);
+
+inline std::vector<TpxiSize> sizes(Sizes which, size_t pixelBytes) {
+    std::vector<TpxiSize> list = {{64, 64}, {640, 480}, {1920, 1080}, {4096, 3072}};
+    if (which == Sizes::all)
+        list.push_back({16384, static_cast<int>(kBeyondCacheBytes / 16384 / static_cast<double>(pixelBytes))});
+    return list;
+}
+
+struct Pointwise {
+    const char* group;
+    const char* function;
+    int channels = 1;
+    double low = 0; // samples of the source
+    double high = 1;
+    double tolerance = 0; // between the library's samples and the scalar form's
+    Sizes sizes = Sizes::all;
+    bool reads = true; // false: only the destination counts
+};
+
+// `ours` is called with (source, its step, destination, its step, size in pixels), `scalar` with (source,
+// destination, number of samples) for each row. Further contenders get (source image, destination image).
+template <typename T>
+using Process = std::function<TpxStatus(const T*, int, T*, int, TpxiSize)>;
+template <typename T>
+using ScalarRow = std::function<void(const T*, T*, size_t)>;
+template <typename T>
+struct Other {
+    const char* name;
+    std::function<void(const Image<T>&, const Image<T>&)> run;
+};
+
+template <typename T>
+void addPointwise(const Pointwise& what, Process<T> ours, ScalarRow<T> scalar,
+                  std::vector<Other<T>> others = {}) {
+    for (const TpxiSize size : sizes(what.sizes, what.channels * sizeof(T))) {
+        const double samples = static_cast<double>(size.width) * size.height * what.channels;
+        const Job job{what.group, what.function, text(size), samples,
+                      samples * sizeof(T) * (what.reads ? 2 : 1)};
+        addJob(job, [=] {
+            const auto src = std::make_shared<Image<T>>(size, what.channels, what.low, what.high);
+            const auto dst = std::make_shared<Image<T>>(size, what.channels);
+            const auto runOurs = [=](const Image<T>& to) {
+                return ours(src->data(), src->step(), to.data(), to.step(), size);
+            };
+            const auto runScalar = [=] {
+                for (int y = 0; y < size.height; ++y) scalar(src->row(y), dst->row(y), src->rowSamples());
+            };
+            if (src->bytes() < kBeyondCacheBytes / 2) {
+                const Image<T> got(size, what.channels);
+                check(runOurs(got));
+                runScalar();
+                checkSame(got, *dst, what.tolerance);
+            }
+            std::vector<Contender> list = {
+                {kOurs, [=] { runOurs(*dst); }}, {kCopy, [=] { copyImage(*src, *dst); }}, {kScalar, runScalar}};
+            for (const auto& other : others) list.push_back({other.name, [=] { other.run(*src, *dst); }});
+            return list;
+        });
+    }
+}
+
+// A function and a last argument for it, for functions that take a scale factor.
+template <typename F>
+auto withLast(F function, int last) {
+    return [=](auto... arguments) { return function(arguments..., last); };
+}
+
+} // namespace bench

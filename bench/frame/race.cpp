@@ -1,0 +1,97 @@
+#include "race.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <exception>
+
+namespace bench {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr double kBatchSeconds = 100e-6; // far above the clock's resolution
+constexpr double kWarmSeconds = 5e-3;    // shorter calls find their images in the cache they fit in
+constexpr double kBudgetSeconds = 0.4;   // of a job, once it has had the rounds it needs
+constexpr size_t kMinRounds = 5;
+constexpr size_t kMaxRounds = 201;
+
+std::vector<Row> done;
+
+double seconds(Clock::time_point from) { return std::chrono::duration<double>(Clock::now() - from).count(); }
+
+double timeBatch(const Contender& contender, int calls) {
+    const auto start = Clock::now();
+    for (int i = 0; i < calls; ++i) {
+        contender.run();
+        benchmark::ClobberMemory();
+    }
+    return seconds(start) / calls;
+}
+
+struct Lane {
+    const Contender* contender;
+    int calls;
+    bool warm;
+    std::vector<double> times;
+};
+
+// Rounds of A B C, B C A, C A B...: a slow moment of the machine falls on all alike, and no one always
+// follows the same other.
+std::vector<Time> race(const std::vector<Contender>& contenders) {
+    std::vector<Lane> lanes;
+    for (const Contender& contender : contenders) {
+        timeBatch(contender, 1);
+        const double once = std::max(timeBatch(contender, 1), 1e-9);
+        lanes.push_back(
+            {&contender, std::max(1, static_cast<int>(kBatchSeconds / once)), once < kWarmSeconds, {}});
+    }
+    const auto start = Clock::now();
+    for (size_t round = 0; round < kMinRounds || (round < kMaxRounds && seconds(start) < kBudgetSeconds);
+         ++round)
+        for (size_t i = 0; i < lanes.size(); ++i) {
+            Lane& lane = lanes[(round + i) % lanes.size()];
+            if (lane.warm) lane.contender->run();
+            lane.times.push_back(timeBatch(*lane.contender, lane.calls));
+        }
+    std::vector<Time> result;
+    for (Lane& lane : lanes) {
+        std::sort(lane.times.begin(), lane.times.end());
+        result.push_back({lane.contender->name, lane.times.front(), lane.times[lane.times.size() / 2]});
+    }
+    return result;
+}
+
+} // namespace
+
+const Time* Row::find(const std::string& name) const {
+    const auto at =
+        std::find_if(times.begin(), times.end(), [&](const Time& time) { return time.name == name; });
+    return at == times.end() ? nullptr : &*at;
+}
+
+void addJob(Job job, std::function<std::vector<Contender>()> prepare) {
+    const std::string name = job.function + "/" + job.size;
+    benchmark::RegisterBenchmark(name.c_str(),
+                                 [job = std::move(job), prepare = std::move(prepare)](benchmark::State& state) {
+                                     for (auto _ : state) try {
+                                             const Row row{job, race(prepare())};
+                                             state.SetIterationTime(row.ours().best);
+                                             for (const Time& other : row.times)
+                                                 if (&other != &row.ours())
+                                                     state.counters[other.name] = row.ratio(other);
+                                             done.push_back(row);
+                                         } catch (const std::exception& error) {
+                                             state.SkipWithError(error.what());
+                                             break;
+                                         }
+                                 })
+        ->UseManualTime()
+        ->Iterations(1) // the rounds are in the race
+        ->Unit(benchmark::kMicrosecond);
+}
+
+const std::vector<Row>& rows() { return done; }
+
+} // namespace bench

@@ -1,0 +1,133 @@
+#include "../families.h"
+#include "../frame/image.h"
+#include "../frame/pointwise.h"
+#include "../scalar/scalar.h"
+#include "yardsticks.h"
+
+namespace bench {
+namespace {
+
+constexpr std::pair<TpxiSize, TpxiSize> kScalings[] = {{{64, 64}, {96, 96}},
+                                                       {{1920, 1080}, {1280, 720}},
+                                                       {{640, 480}, {1600, 1200}},
+                                                       {{4096, 3072}, {2560, 1920}}};
+
+// What the families need from the typed calls around a resize.
+template <typename T>
+struct Plan;
+#define PLAN(T, type)                                                         \
+    template <>                                                               \
+    struct Plan<T> {                                                          \
+        static constexpr TpxDataType kType = tpxDataType##type;               \
+        static constexpr auto getSize = tpxiResizeGetSize_##type;             \
+        static constexpr auto getBufferSize = tpxiResizeGetBufferSize_##type; \
+        static constexpr auto linearInit = tpxiResizeLinearInit_##type;       \
+        static constexpr auto nearestInit = tpxiResizeNearestInit_##type;     \
+    };
+PLAN(Tpx8u, 8u)
+PLAN(Tpx16u, 16u)
+PLAN(Tpx32f, 32f)
+
+template <typename T>
+using Linear = TpxStatus (*)(const T*, int, T*, int, TpxiPoint, TpxiSize, TpxBorderType, const T*,
+                             const TpxiResizeSpec*, Tpx8u*);
+template <typename T>
+using Nearest = TpxStatus (*)(const T*, int, T*, int, TpxiPoint, TpxiSize, const TpxiResizeSpec*, Tpx8u*);
+
+// The images, plans and buffers of one race.
+template <typename T>
+struct Resize {
+    Image<T> src;
+    Image<T> dst;
+    Image<T> other; // as large as the destination: the source of the copy
+    std::vector<Tpx8u> spec;
+    std::vector<Tpx8u> buffer;
+
+    explicit Resize(const Scaling& s)
+        : src(s.from, s.channels, 0, std::is_integral_v<T> ? T(-1) : T(1)),
+          dst(s.to, s.channels),
+          other(s.to, s.channels) {
+        const bool linear = s.kind == Kind::linear;
+        int specBytes = 0;
+        int bytes = 0;
+        check(Plan<T>::getSize(s.from, s.to, linear ? tpxInterpolationLinear : tpxInterpolationNearest, 0,
+                               &specBytes, &bytes));
+        spec.resize(specBytes);
+        check((linear ? Plan<T>::linearInit : Plan<T>::nearestInit)(s.from, s.to, plan()));
+        check(Plan<T>::getBufferSize(plan(), s.to, s.channels, &bytes));
+        buffer.resize(bytes);
+    }
+    TpxiResizeSpec* plan() { return reinterpret_cast<TpxiResizeSpec*>(spec.data()); }
+
+    TpxStatus run(Linear<T> function, const Image<T>& to) {
+        return function(src.data(), src.step(), to.data(), to.step(), {0, 0}, to.size(), tpxBorderReplicate,
+                        nullptr, plan(), buffer.data());
+    }
+    TpxStatus run(Nearest<T> function, const Image<T>& to) {
+        return function(src.data(), src.step(), to.data(), to.step(), {0, 0}, to.size(), plan(), buffer.data());
+    }
+};
+
+template <typename T>
+std::function<void(const Image<T>&, const Image<T>&)> scalarResize(const Scaling& s) {
+    constexpr ptrdiff_t kSize = sizeof(T);
+    if (s.kind == Kind::linear)
+        return [s, x = scalar::Axis<T>(s.from.width, s.to.width),
+                y = scalar::Axis<T>(s.from.height, s.to.height)](const Image<T>& src, const Image<T>& dst) {
+            scalar::resizeLinear(src.data(), src.step() / kSize, dst.data(), dst.step() / kSize, s.channels, x,
+                                 y);
+        };
+    return [s, x = scalar::nearestAxis(s.from.width, s.to.width),
+            y = scalar::nearestAxis(s.from.height, s.to.height)](const Image<T>& src, const Image<T>& dst) {
+        scalar::resizeNearest(src.data(), src.step() / kSize, dst.data(), dst.step() / kSize, s.channels, x, y);
+    };
+}
+
+// `F` is Linear<T> or Nearest<T>.
+template <typename T, typename F>
+void addResize(const char* name, F function, int channels) {
+    constexpr Kind kind = std::is_same_v<F, Linear<T>> ? Kind::linear : Kind::nearest;
+    for (const auto& [from, to] : kScalings) {
+        const Scaling s{kind, Plan<T>::kType, channels, from, to};
+        const double srcSamples = static_cast<double>(from.width) * from.height * channels;
+        const double dstSamples = static_cast<double>(to.width) * to.height * channels;
+        const Job job{"Resize", name, text(from) + " to " + text(to), dstSamples,
+                      (srcSamples + dstSamples) * sizeof(T)};
+        addJob(job, [=] {
+            const auto resize = std::make_shared<Resize<T>>(s);
+            const auto scalar = scalarResize<T>(s);
+            const Image<T> expected(s.to, channels);
+            check(resize->run(function, resize->dst));
+            scalar(resize->src, expected);
+            // Linear: a plan may round its weights, or a border, in another place.
+            checkSame(resize->dst, expected, kind == Kind::nearest ? 0 : std::is_integral_v<T> ? 1 : 1e-5);
+            std::vector<Contender> list = {{kOurs, [=] { resize->run(function, resize->dst); }},
+                                           {kCopy, [=] { copyImage(resize->other, resize->dst); }},
+                                           {kScalar, [=] { scalar(resize->src, resize->dst); }}};
+            for (Contender& other : yardsticks(s)) list.push_back(std::move(other));
+            return list;
+        });
+    }
+}
+
+#define LINEAR(T, types, channels) \
+    addResize<T, Linear<T>>("tpxiResizeLinear_" #types, tpxiResizeLinear_##types, channels)
+#define NEAREST(T, types, channels) \
+    addResize<T, Nearest<T>>("tpxiResizeNearest_" #types, tpxiResizeNearest_##types, channels)
+
+} // namespace
+
+void addResizes() {
+    LINEAR(Tpx8u, 8u_C1R, 1);
+    LINEAR(Tpx8u, 8u_C3R, 3);
+    LINEAR(Tpx8u, 8u_C4R, 4);
+    LINEAR(Tpx16u, 16u_C1R, 1);
+    LINEAR(Tpx32f, 32f_C1R, 1);
+    LINEAR(Tpx32f, 32f_C3R, 3);
+    NEAREST(Tpx8u, 8u_C1R, 1);
+    NEAREST(Tpx8u, 8u_C3R, 3);
+    NEAREST(Tpx8u, 8u_C4R, 4);
+    NEAREST(Tpx32f, 32f_C1R, 1);
+}
+
+} // namespace bench

@@ -1,0 +1,117 @@
+#include "scalar.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace bench::scalar {
+namespace {
+
+template <typename T>
+T saturate(int64_t value) {
+    using Limits = std::numeric_limits<T>;
+    return static_cast<T>(std::clamp<int64_t>(value, Limits::min(), Limits::max()));
+}
+
+// The rule gives integers; they are multiplied by 2^-scaleFactor, to nearest with ties to even.
+template <typename T, typename Rule>
+void mapInteger(const T* src, T* dst, size_t length, int scaleFactor, Rule rule) {
+    if (scaleFactor <= 0) {
+        for (size_t i = 0; i < length; ++i) dst[i] = saturate<T>(rule(src[i]) << -scaleFactor);
+        return;
+    }
+    const int64_t belowHalf = (int64_t{1} << (scaleFactor - 1)) - 1;
+    for (size_t i = 0; i < length; ++i) {
+        const int64_t value = rule(src[i]);
+        dst[i] = saturate<T>((value + belowHalf + ((value >> scaleFactor) & 1)) >> scaleFactor);
+    }
+}
+
+// Integers go through double precision; float forms take `single`.
+template <typename T, typename Double, typename Single>
+void map(const T* src, T* dst, size_t length, int scaleFactor, Double exact, Single single) {
+    if constexpr (std::is_floating_point_v<T>) {
+        for (size_t i = 0; i < length; ++i) dst[i] = single(src[i]);
+    } else {
+        using Limits = std::numeric_limits<T>;
+        const double factor = std::ldexp(1.0, -scaleFactor);
+        for (size_t i = 0; i < length; ++i) {
+            const double value = exact(static_cast<double>(src[i])) * factor;
+            dst[i] = static_cast<T>(std::lrint(std::clamp<double>(value, Limits::min(), Limits::max())));
+        }
+    }
+}
+
+} // namespace
+
+template <typename T>
+void copy(const T* src, T* dst, size_t length) {
+    for (size_t i = 0; i < length; ++i) dst[i] = src[i];
+}
+
+template <typename T>
+void copyKeepAlpha(const T* src, T* dst, size_t length) {
+    for (size_t i = 0; i < length; i += 4)
+        for (size_t channel = 0; channel < 3; ++channel) dst[i + channel] = src[i + channel];
+}
+
+template <typename T>
+void set(const T* pixel, size_t channels, T* dst, size_t length) {
+    for (size_t i = 0; i < length; i += channels)
+        for (size_t channel = 0; channel < channels; ++channel) dst[i + channel] = pixel[channel];
+}
+
+template <typename T>
+void abs(const T* src, T* dst, size_t length) {
+    for (size_t i = 0; i < length; ++i) {
+        if constexpr (std::is_floating_point_v<T>)
+            dst[i] = std::fabs(src[i]);
+        else
+            dst[i] = saturate<T>(src[i] < 0 ? -int64_t{src[i]} : src[i]);
+    }
+}
+
+template <typename T>
+void sqr(const T* src, T* dst, size_t length, int scaleFactor) {
+    if constexpr (std::is_floating_point_v<T>)
+        for (size_t i = 0; i < length; ++i) dst[i] = src[i] * src[i];
+    else
+        mapInteger(src, dst, length, scaleFactor, [](int64_t a) { return a * a; });
+}
+
+template <typename T>
+void sqrt(const T* src, T* dst, size_t length, int scaleFactor) {
+    map(
+        src, dst, length, scaleFactor, [](double a) { return std::sqrt(a); },
+        [](float a) { return std::sqrt(a); });
+}
+
+template <typename T>
+void ln(const T* src, T* dst, size_t length, int scaleFactor) {
+    map(
+        src, dst, length, scaleFactor, [](double a) { return std::log(a); },
+        [](float a) { return std::log(a); });
+}
+
+template <typename T>
+void exp(const T* src, T* dst, size_t length, int scaleFactor) {
+    map(
+        src, dst, length, scaleFactor, [](double a) { return std::exp(a); },
+        [](float a) { return std::exp(a); });
+}
+
+#define MOVING(T)                                      \
+    template void copy(const T*, T*, size_t);          \
+    template void copyKeepAlpha(const T*, T*, size_t); \
+    template void set(const T*, size_t, T*, size_t);
+#define UNARY(T)                                   \
+    template void sqr(const T*, T*, size_t, int);  \
+    template void sqrt(const T*, T*, size_t, int); \
+    template void ln(const T*, T*, size_t, int);   \
+    template void exp(const T*, T*, size_t, int);
+#define SIGNED(T) template void abs(const T*, T*, size_t);
+MOVING(Tpx8u)
+MOVING(Tpx16s)
+MOVING(Tpx32f) UNARY(Tpx8u) UNARY(Tpx16u) UNARY(Tpx16s) UNARY(Tpx32f) SIGNED(Tpx16s) SIGNED(Tpx32f)
+
+} // namespace bench::scalar

@@ -1,0 +1,54 @@
+// The rules of the library in their plain scalar form: a loop over samples, compiled at -O2 without
+// vectorisation. They are what a ratio "times scalar" is measured against.
+#pragma once
+
+#include <tpxi.h>
+
+#include <cstddef>
+#include <type_traits>
+#include <vector>
+
+namespace bench::scalar {
+
+template <typename T>
+void copy(const T* src, T* dst, size_t length);
+template <typename T>
+void copyKeepAlpha(const T* src, T* dst, size_t length);
+// The pixel of `channels` samples repeats.
+template <typename T>
+void set(const T* pixel, size_t channels, T* dst, size_t length);
+
+template <typename T>
+void abs(const T* src, T* dst, size_t length);
+// Integer samples are scaled, rounded and saturated; others take a scale factor of 0.
+template <typename T>
+void sqr(const T* src, T* dst, size_t length, int scaleFactor);
+template <typename T>
+void sqrt(const T* src, T* dst, size_t length, int scaleFactor);
+template <typename T>
+void ln(const T* src, T* dst, size_t length, int scaleFactor);
+template <typename T>
+void exp(const T* src, T* dst, size_t length, int scaleFactor);
+
+// The two source pixels of each destination position along one side, and the weight of the second:
+// 14 bits for 8-bit samples.
+template <typename T>
+using Weight = std::conditional_t<std::is_same_v<T, Tpx8u>, int, float>;
+template <typename T>
+struct Axis {
+    std::vector<int> first;
+    std::vector<int> second;
+    std::vector<Weight<T>> weight;
+    Axis(int srcLength, int dstLength);
+};
+std::vector<int> nearestAxis(int srcLength, int dstLength);
+
+// Steps are in samples here.
+template <typename T>
+void resizeLinear(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, int channels, const Axis<T>& x,
+                  const Axis<T>& y);
+template <typename T>
+void resizeNearest(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, int channels,
+                   const std::vector<int>& x, const std::vector<int>& y);
+
+} // namespace bench::scalar

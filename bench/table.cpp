@@ -1,0 +1,112 @@
+#include "table.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <ostream>
+
+namespace bench {
+namespace {
+
+using Cells = std::vector<std::string>;
+
+// Three significant digits, never an exponent.
+std::string number(double value) {
+    char buffer[32];
+    const int decimals = value < 0.01 ? 4 : value < 0.1 ? 3 : value < 10 ? 2 : value < 100 ? 1 : 0;
+    std::snprintf(buffer, sizeof buffer, "%.*f", decimals, value);
+    return buffer;
+}
+
+std::string duration(double seconds) {
+    if (seconds < 1e-6) return number(seconds * 1e9) + " ns";
+    if (seconds < 1e-3) return number(seconds * 1e6) + " us";
+    return number(seconds * 1e3) + " ms";
+}
+
+std::vector<Cells> cells(const std::vector<Row>& rows) {
+    const std::vector<std::string> yardsticks = yardsticksOf(rows);
+    Cells head = {"Function", "Size", "Call", "ns/sample", "GB/s"};
+    for (const std::string& name : yardsticks) head.push_back("x " + name);
+    std::vector<Cells> result = {head};
+    for (const Row& row : rows) {
+        const double best = row.ours().best;
+        Cells line = {row.job.function, row.job.size, duration(best), number(best * 1e9 / row.job.samples),
+                      number(row.job.bytes / best * 1e-9)};
+        for (const std::string& name : yardsticks) {
+            const Time* other = row.find(name);
+            line.push_back(other ? number(row.ratio(*other)) : "");
+        }
+        result.push_back(line);
+    }
+    return result;
+}
+
+void writeCells(std::ostream& out, Style style, const std::vector<Cells>& lines) {
+    constexpr size_t kTextColumns = 2; // the rest are numbers, and stand to the right
+    std::vector<size_t> widths(lines.front().size());
+    for (const Cells& line : lines)
+        for (size_t i = 0; i < line.size(); ++i) widths[i] = std::max(widths[i], line[i].size());
+    const bool markdown = style == Style::markdown;
+    for (size_t at = 0; at < lines.size(); ++at) {
+        for (size_t i = 0; i < widths.size(); ++i) {
+            const std::string pad(widths[i] - lines[at][i].size(), ' ');
+            out << (markdown ? "| " : "") << (i < kTextColumns ? lines[at][i] + pad : pad + lines[at][i])
+                << (markdown ? " " : "  ");
+        }
+        out << (markdown ? "|\n" : "\n");
+        if (at > 0 || !markdown) continue;
+        for (size_t i = 0; i < widths.size(); ++i)
+            out << "|-" << std::string(widths[i] - 1, '-') << (i < kTextColumns ? "--" : "-:");
+        out << "|\n";
+    }
+}
+
+// How far a run of the machine is from quiet: the median of a job's rounds over their minimum.
+double unrest(const std::vector<Row>& rows) {
+    std::vector<double> ratios;
+    for (const Row& row : rows) ratios.push_back(row.ours().median / row.ours().best);
+    std::sort(ratios.begin(), ratios.end());
+    return ratios[ratios.size() / 2];
+}
+
+} // namespace
+
+std::vector<std::string> groups(const std::vector<Row>& rows) {
+    std::vector<std::string> names;
+    for (const Row& row : rows)
+        if (std::find(names.begin(), names.end(), row.job.group) == names.end()) names.push_back(row.job.group);
+    return names;
+}
+
+std::vector<Row> inGroup(const std::vector<Row>& rows, const std::string& group) {
+    std::vector<Row> result;
+    std::copy_if(rows.begin(), rows.end(), std::back_inserter(result),
+                 [&](const Row& row) { return row.job.group == group; });
+    return result;
+}
+
+std::vector<std::string> yardsticksOf(const std::vector<Row>& rows) {
+    std::vector<std::string> names;
+    for (const Row& row : rows)
+        for (const Time& time : row.times)
+            if (time.name != kOurs && std::find(names.begin(), names.end(), time.name) == names.end())
+                names.push_back(time.name);
+    // Behind those that all jobs share, a library's ways stand together.
+    std::sort(std::find_if(names.begin(), names.end(),
+                           [](const std::string& name) { return name != kCopy && name != kScalar; }),
+              names.end());
+    return names;
+}
+
+void writeTable(std::ostream& out, Style style, const Facts& facts, const std::vector<Row>& rows) {
+    const bool markdown = style == Style::markdown;
+    for (const std::string& fact : facts) out << (markdown ? "- " : "") << fact << "\n";
+    out << (markdown ? "- " : "") << "unrest of the machine: the typical round took " << number(unrest(rows))
+        << " times the best one\n";
+    for (const std::string& group : groups(rows)) {
+        out << "\n" << (markdown ? "## " : "") << group << "\n\n";
+        writeCells(out, style, cells(inGroup(rows, group)));
+    }
+}
+
+} // namespace bench
