@@ -1,8 +1,8 @@
 // Runs of samples: reversal, a constant factor, slopes, and the larger or smaller of two runs.
 #include <limits>
 
+#include "frame/reverse.h"
 #include "frame/routines.h"
-#include "frame/runs.h"
 
 namespace tpx {
 namespace {
@@ -64,12 +64,7 @@ template <class T>
 inline void writeSlope(const Slope& slope, T* dst, int begin, int end) {
     const ptrdiff_t len = end - begin;
     const auto at = [&](ptrdiff_t i) { return slopeLanes<T>(slope, begin + int(i)); };
-    if (len < kLanes<T>) {
-        const Vec<T> v = at(0);
-        copyShort(dst + begin, &v, len * ptrdiff_t(sizeof(T)));
-    } else {
-        writeRun(dst + begin, len, samplesToBoundary(dst + begin), at);
-    }
+    writeRun<Write::Cached>(dst + begin, len, at, [&] { return at(0); });
 }
 
 // How many of the first `len` indices pass a test that none passes after the first that fails.
