@@ -7,21 +7,23 @@
 
 namespace tpx {
 
-// Whether `bytes` go beyond the largest cache. Up to and including the floor the cache is not asked for, to
-// keep the query off the path of ordinary work; an unknown size keeps the result in the caches.
+// Non-temporal lines are written whole, on their own boundaries: a half-written one costs a read of memory.
+inline constexpr ptrdiff_t kLineBytes = 64;
+
+// Whether `bytes` go beyond the largest cache. Up to and including the floor the caches are not asked for, to
+// keep the query off the path of ordinary work; an unknown size, or lines that the kernels are not made for,
+// keep the result in the caches.
 inline bool exceedsCache(uint64_t bytes, uint64_t floor) {
-    int cache = 0;
+    int cache = 0, line = 0;
     return bytes > floor && tpxGetMaxCacheSizeB(&cache) == tpxOk && cache >= 1 &&
-           bytes > static_cast<uint64_t>(cache);
+           bytes > static_cast<uint64_t>(cache) && tpx_get_cache_line_size(&line) == tpxOk &&
+           line == kLineBytes;
 }
 
 // The same for families that stream from exactly the cache's size on.
 inline bool fillsCache(uint64_t bytes, uint64_t floor) {
     return bytes > floor && exceedsCache(bytes + 1, floor);
 }
-
-// Non-temporal lines are written whole, on their own boundaries: a half-written one costs a read of memory.
-inline constexpr ptrdiff_t kLineBytes = 64;
 
 inline ptrdiff_t bytesToLine(const void* p) {
     return static_cast<ptrdiff_t>(-reinterpret_cast<uintptr_t>(p) & (kLineBytes - 1));
