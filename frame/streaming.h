@@ -2,6 +2,8 @@
 // largest cache; one that fits would soon be wanted again. The decision is taken once a call.
 #pragma once
 
+#include <stddef.h>
+
 #include "frame/simd.h"
 #include "tpxcore.h"
 
