@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <exception>
 
 namespace bench {
@@ -13,21 +14,26 @@ using Clock = std::chrono::steady_clock;
 
 constexpr double kBatchSeconds = 100e-6; // far above the clock's resolution
 constexpr double kWarmSeconds = 5e-3;    // shorter calls find their images in the cache they fit in
-constexpr double kBudgetSeconds = 0.4;   // of a job, once it has had the rounds it needs
+constexpr auto kBudget = std::chrono::milliseconds(400); // of a job, once it has had the rounds it needs
 constexpr size_t kMinRounds = 5;
 constexpr size_t kMaxRounds = 201;
 
 std::vector<Row> done;
 
-double seconds(Clock::time_point from) { return std::chrono::duration<double>(Clock::now() - from).count(); }
+// Time that this thread had the processor: what other processes take away is not counted.
+double threadSeconds() {
+    timespec time;
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
 
 double timeBatch(const Contender& contender, int calls) {
-    const auto start = Clock::now();
+    const double start = threadSeconds();
     for (int i = 0; i < calls; ++i) {
         contender.run();
         benchmark::ClobberMemory();
     }
-    return seconds(start) / calls;
+    return (threadSeconds() - start) / calls;
 }
 
 struct Lane {
@@ -42,13 +48,14 @@ struct Lane {
 std::vector<Time> race(const std::vector<Contender>& contenders) {
     std::vector<Lane> lanes;
     for (const Contender& contender : contenders) {
-        timeBatch(contender, 1);
-        const double once = std::max(timeBatch(contender, 1), 1e-9);
-        lanes.push_back(
-            {&contender, std::max(1, static_cast<int>(kBatchSeconds / once)), once < kWarmSeconds, {}});
+        contender.run();
+        int calls = 1;
+        double once = timeBatch(contender, calls);
+        while (once * calls < kBatchSeconds) once = timeBatch(contender, calls *= 2);
+        lanes.push_back({&contender, calls, once < kWarmSeconds, {}});
     }
     const auto start = Clock::now();
-    for (size_t round = 0; round < kMinRounds || (round < kMaxRounds && seconds(start) < kBudgetSeconds);
+    for (size_t round = 0; round < kMinRounds || (round < kMaxRounds && Clock::now() - start < kBudget);
          ++round)
         for (size_t i = 0; i < lanes.size(); ++i) {
             Lane& lane = lanes[(round + i) % lanes.size()];

@@ -47,10 +47,11 @@ Axis<T>::Axis(int srcLength, int dstLength) {
 }
 
 std::vector<int> nearestAxis(int srcLength, int dstLength) {
+    constexpr double kBelow = 1e-10; // a position on the boundary of two pixels takes the lower one
     std::vector<int> axis;
     const double ratio = static_cast<double>(srcLength) / dstLength;
     for (int i = 0; i < dstLength; ++i)
-        axis.push_back(std::min(static_cast<int>(ratio * (i + 0.5)), srcLength - 1));
+        axis.push_back(std::min(static_cast<int>(ratio * (i + 0.5) - kBelow), srcLength - 1));
     return axis;
 }
 
