@@ -3,9 +3,9 @@
 // their records and in the tag of the plans that they take.
 #pragma once
 
-#include <immintrin.h>
 #include <stddef.h>
 
+#include "frame/routines.h"
 #include "tpxi/geometry.h"
 
 // One axis: where each destination position lies in the source, and with which weights.
@@ -71,8 +71,6 @@ inline T* alignUp(T* p, uintptr_t alignment) {
 inline TpxiResizeSpec* planIn(TpxiResizeSpec* spec) { return alignUp(spec, 64); }
 inline const TpxiResizeSpec* planIn(const TpxiResizeSpec* spec) { return alignUp(spec, 64); }
 
-inline double floorOf(double x) { return _mm_cvtsd_f64(_mm_floor_sd(_mm_setzero_pd(), _mm_set_sd(x))); }
-
 inline double scaleOf(const TpxiResizeAxis& axis) { return double(axis.srcRatio) / double(axis.dstRatio); }
 
 // How many taps super-sampling keeps for each position. A position covers as many source pixels as the ratio
@@ -85,7 +83,7 @@ constexpr Int superRun(Int srcRatio, Int dstRatio) {
 
 // The source position that a processing call's source pointer stands for, for a tile beginning at `d`.
 inline int64_t srcOffset(const TpxiResizeSpec& plan, const TpxiResizeAxis& axis, int64_t d) {
-    if (plan.interpolation != tpxInterpolationSuper) return int64_t(floorOf(double(d) * scaleOf(axis)));
+    if (plan.interpolation != tpxInterpolationSuper) return int64_t(TPXS(FloorOne)(double(d) * scaleOf(axis)));
     const int64_t run = superRun(axis.srcRatio, axis.dstRatio);
     return d / axis.dstRatio * axis.srcRatio + axis.pIndex[d % axis.dstRatio * run];
 }

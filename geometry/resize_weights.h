@@ -4,6 +4,8 @@
 // on the same positions for the same sizes, rounding included.
 #pragma once
 
+#include <immintrin.h>
+
 #include "geometry/resize_plan.h"
 
 namespace tpx {
@@ -28,7 +30,7 @@ inline void buildPositions(TpxiResizeAxis& axis, int reach, Store store) {
     const double scale = scaleOf(axis), first = reach - 1, last = double(axis.srcLen) - reach;
     axis.leadCount = axis.trailCount = 0;
     for (int64_t i = 0; i < axis.dstLen; i++) {
-        const double c = (double(i) + 0.5) * scale - 0.5, whole = floorOf(c);
+        const double c = (double(i) + 0.5) * scale - 0.5, whole = TPXS(FloorOne)(c);
         axis.pIndex[i] = Tpx32s(whole);
         axis.leadCount += c < first;
         axis.trailCount += c >= last;
