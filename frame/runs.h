@@ -100,7 +100,12 @@ template <Write W = Write::Cached, class T, class Rule>
 inline void mapRun(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
     if constexpr (W == Write::Streaming)
         if (samplesToBoundary(dst) * sizeof(T) != bytesToBoundary(dst)) return mapRun(src, dst, len, rule);
-    const auto keep = [](Vec<T> old, Vec<T> v) { return W == Write::KeepAlpha ? keepAlpha<T>(old, v) : v; };
+    const auto keep = [](Vec<T> old, Vec<T> v) {
+        if constexpr (W == Write::KeepAlpha)
+            return keepAlpha<T>(old, v);
+        else
+            return v;
+    };
     writeRun<W>(
         dst, len, [&](ptrdiff_t i) { return keep(load(dst + i), rule(load(src + i))); },
         [&] { return keep(loadShort(dst, len), rule(loadShort(src, len))); });
