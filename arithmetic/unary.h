@@ -9,7 +9,7 @@
 #pragma once
 
 #include "frame/entry.h"
-#include "frame/runs.h"
+#include "frame/memory_runs.h"
 
 namespace tpx {
 
@@ -31,22 +31,22 @@ TpxStatus unaryRows(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, 
         constexpr bool inspects = requires { rule.inspect(src, len); };
         // A row that is looked at first is still in the nearest cache when it is mapped; one long run is not.
         if (!inspects) joinRows(len, height, sizeof(T), srcStep, dstStep);
-        const auto walk = [&]<Write W>(std::integral_constant<Write, W>) {
+        const auto walk = [&](auto mapRow) {
             walkRows(src, srcStep, dst, dstStep, height, [&](const T* s, T* d) {
                 if constexpr (inspects) rule.inspect(s, len);
-                mapRun<W>(s, d, len, rule);
+                mapRow(s, d);
             });
         };
         if constexpr (KeepAlpha) {
-            walk(std::integral_constant<Write, Write::KeepAlpha>{});
+            walk([&](const T* s, T* d) { mapColours(s, d, len, rule); });
         } else {
             // In place the line is in the cache already.
             const uint64_t traffic = 2 * uint64_t(len) * uint64_t(height) * sizeof(T);
             if (src != dst && exceedsCache(traffic, kUnaryFloor)) {
-                walk(std::integral_constant<Write, Write::Streaming>{});
+                walk([&](const T* s, T* d) { mapRunStreaming(s, d, len, rule); });
                 streamFence();
             } else {
-                walk(std::integral_constant<Write, Write::Cached>{});
+                walk([&](const T* s, T* d) { mapRun(s, d, len, rule); });
             }
         }
         if constexpr (requires { rule.status(); })

@@ -38,9 +38,6 @@ struct Blocks {
     void storeTo(char* p) const {
         for (int i = 0; i < N; i++) storeBlock(p + i * kBlock, at[i]);
     }
-    void streamTo(char* p) const {
-        for (int i = 0; i < N; i++) streamStore(reinterpret_cast<float*>(p + i * kBlock), at[i]);
-    }
 };
 
 // The ends of the row, N blocks of either side, are held in registers while the middle is copied.
@@ -88,25 +85,7 @@ void copyRowBackward(void* dst, const void* src, int64_t bytes) {
 }
 
 void copyRowStreaming(void* dst, const void* src, int64_t bytes) {
-    auto d = static_cast<char*>(dst);
-    auto s = static_cast<const char*>(src);
-    if (bytes < 2 * kLineBytes) return copyRow(d, s, bytes);
-    copyEnds<1>(d, s, kLineBytes);
-    int64_t i = bytesToLine(d);
-    if (i == 0) i = kLineBytes;
-
-    // Four pages are copied side by side, since memory serves several streams faster than one.
-    constexpr int64_t kPage = 4096, kStreams = 4, kAhead = 512;
-    for (; i + kStreams * kPage <= bytes; i += kStreams * kPage)
-        for (int64_t j = i; j < i + kPage; j += kTurn) {
-            for (int64_t page = j; page < j + kStreams * kPage; page += kPage)
-                for (int64_t line = 0; line < kTurn; line += kLineBytes)
-                    _mm_prefetch(s + page + kAhead + line, _MM_HINT_T0);
-            for (int64_t page = j; page < j + kStreams * kPage; page += kPage)
-                Blocks<4>(s + page).streamTo(d + page);
-        }
-    for (; i + kLineBytes <= bytes; i += kLineBytes) Blocks<2>(s + i).streamTo(d + i);
-    copyRow(d + i, s + i, bytes - i);
+    mapRunStreaming(static_cast<const Tpx8u*>(src), static_cast<Tpx8u*>(dst), bytes, [](V8u x) { return x; });
 }
 
 // A pattern seen from any byte of a row.

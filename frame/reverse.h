@@ -18,7 +18,7 @@ inline void reverseRun(const T* src, T* dst, ptrdiff_t len) {
     constexpr ptrdiff_t L = kLanes<T>;
     if (len < L) return reverseShort(src, dst, len);
     const auto at = [&](ptrdiff_t i) { return reverseLanes(load(src + len - L - i)); };
-    writeRun<Write::Cached>(dst, len, at, [&] { return at(0); });
+    writeRun(dst, len, samplesToBoundary(dst), at, [&] { return at(0); });
 }
 
 // The same in place: registers change places from both ends inwards. The last pair may overlap.

@@ -8,7 +8,6 @@
 #pragma once
 
 #include "frame/simd.h"
-#include "frame/streaming.h"
 #include "frame/walk.h"
 
 namespace tpx {
@@ -47,75 +46,61 @@ inline Vec<T> loadShort(const T* src, ptrdiff_t len) {
     return v;
 }
 
-// What lies between `p` and the next boundary of a register's size: in bytes, and in whole samples.
-template <class T>
-inline size_t bytesToBoundary(const T* p) {
-    return -reinterpret_cast<uintptr_t>(p) & (sizeof(Vec<T>) - 1);
-}
+// How many whole samples lie between `p` and the next boundary of a register's size.
 template <class T>
 inline ptrdiff_t samplesToBoundary(const T* p) {
-    return ptrdiff_t(bytesToBoundary(p) / sizeof(T));
+    return ptrdiff_t((-reinterpret_cast<uintptr_t>(p) & (sizeof(Vec<T>) - 1)) / sizeof(T));
 }
 
-// How the results of a run are written: all lanes into the caches, all but the alphas of four-channel pixels,
-// or all lanes past the caches (the caller decides once a call, and fences after its last row).
-enum class Write { Cached, KeepAlpha, Streaming };
-
 // dst[i...] = at(i), a register from sample i on; whole() makes the register of a run that does not fill one.
-template <Write W, class T, class At, class Whole>
-inline void writeRun(T* dst, ptrdiff_t len, At at, Whole whole) {
+// Registers start at `begin`, the first sample on a boundary or 0, and the head is cut if that is not 0.
+template <class T, class At, class Whole>
+inline void writeRun(T* dst, ptrdiff_t len, ptrdiff_t begin, At at, Whole whole) {
     constexpr ptrdiff_t L = kLanes<T>;
     if (len < L) {
         const Vec<T> v = whole();
         copyShort(dst, &v, len * ptrdiff_t(sizeof(T)));
         return;
     }
-    const auto put = [dst](ptrdiff_t i, Vec<T> v) {
-        if constexpr (W == Write::Streaming)
-            streamStore(dst + i, v);
-        else
-            store(dst + i, v);
-    };
-    // Registers of pixels stay on whole pixels, so they begin where the run does.
-    const ptrdiff_t begin = W == Write::KeepAlpha ? 0 : samplesToBoundary(dst);
     const bool cutTail = (len - begin) % L != 0;
-    Vec<T> head, tail;
+    Vec<T> head{}, tail{};
     if (begin) head = at(0);
     if (cutTail) tail = at(len - L);
     ptrdiff_t i = begin;
     for (; i + 4 * L <= len; i += 4 * L) {
         const Vec<T> a = at(i), b = at(i + L), c = at(i + 2 * L), d = at(i + 3 * L);
-        put(i, a);
-        put(i + L, b);
-        put(i + 2 * L, c);
-        put(i + 3 * L, d);
+        store(dst + i, a);
+        store(dst + i + L, b);
+        store(dst + i + 2 * L, c);
+        store(dst + i + 3 * L, d);
     }
-    for (; i + L <= len; i += L) put(i, at(i));
+    for (; i + L <= len; i += L) store(dst + i, at(i));
     if (cutTail) store(dst + len - L, tail);
     if (begin) store(dst, head);
 }
 
 // dst[i] = rule(src[i]).
-template <Write W = Write::Cached, class T, class Rule>
+template <class T, class Rule>
 inline void mapRun(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
-    if constexpr (W == Write::Streaming)
-        if (samplesToBoundary(dst) * sizeof(T) != bytesToBoundary(dst)) return mapRun(src, dst, len, rule);
-    const auto keep = [](Vec<T> old, Vec<T> v) {
-        if constexpr (W == Write::KeepAlpha)
-            return keepAlpha<T>(old, v);
-        else
-            return v;
-    };
-    writeRun<W>(
-        dst, len, [&](ptrdiff_t i) { return keep(load(dst + i), rule(load(src + i))); },
-        [&] { return keep(loadShort(dst, len), rule(loadShort(src, len))); });
+    writeRun(
+        dst, len, samplesToBoundary(dst), [&](ptrdiff_t i) { return rule(load(src + i)); },
+        [&] { return rule(loadShort(src, len)); });
+}
+
+// The same on pixels of four samples, whose fourth is left as it was. Registers stay on whole pixels.
+template <class T, class Rule>
+inline void mapColours(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
+    writeRun(
+        dst, len, 0, [&](ptrdiff_t i) { return keepAlpha<T>(load(dst + i), rule(load(src + i))); },
+        [&] { return keepAlpha<T>(loadShort(dst, len), rule(loadShort(src, len))); });
 }
 
 // srcDst[i] = rule(src[i], srcDst[i]).
 template <class T, class Rule>
 inline void mapRun2(const T* src, T* srcDst, ptrdiff_t len, Rule&& rule) {
-    writeRun<Write::Cached>(
-        srcDst, len, [&](ptrdiff_t i) { return rule(load(src + i), load(srcDst + i)); },
+    writeRun(
+        srcDst, len, samplesToBoundary(srcDst),
+        [&](ptrdiff_t i) { return rule(load(src + i), load(srcDst + i)); },
         [&] { return rule(loadShort(src, len), loadShort(srcDst, len)); });
 }
 

@@ -64,7 +64,7 @@ template <class T>
 inline void writeSlope(const Slope& slope, T* dst, int begin, int end) {
     const ptrdiff_t len = end - begin;
     const auto at = [&](ptrdiff_t i) { return slopeLanes<T>(slope, begin + int(i)); };
-    writeRun<Write::Cached>(dst + begin, len, at, [&] { return at(0); });
+    writeRun(dst + begin, len, samplesToBoundary(dst + begin), at, [&] { return at(0); });
 }
 
 // How many of the first `len` indices pass a test that none passes after the first that fails.

@@ -36,7 +36,7 @@ TpxStatus copy(const T* pSrc, int srcStep, T* pDst, int dstStep, TpxiSize roi) {
         if (isEmpty(roi)) return tpxErrSize;
         walkRows(reinterpret_cast<const B*>(pSrc), srcStep, reinterpret_cast<B*>(pDst), dstStep, roi.height,
                  [len = ptrdiff_t(roi.width) * 4](const B* s, B* d) {
-                     mapRun<Write::KeepAlpha>(s, d, len, [](auto x) { return x; });
+                     mapColours(s, d, len, [](auto x) { return x; });
                  });
         return tpxOk;
     } else {

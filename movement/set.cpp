@@ -21,7 +21,7 @@ TpxStatus set(const T* value, T* pDst, ptrdiff_t dstStep, TpxiSize roi) {
         const Pattern pattern = makePattern(pixel, sizeof pixel);
         const Vec<B> fill = bitsAs<Vec<B>>(load(pattern.bytes));
         walkRows(reinterpret_cast<B*>(pDst), dstStep, roi.height, [=, len = ptrdiff_t(roi.width) * 4](B* d) {
-            mapRun<Write::KeepAlpha>(d, d, len, [=](auto) { return fill; });
+            mapColours(d, d, len, [=](auto) { return fill; });
         });
     } else {
         constexpr int pixelBytes = channelsOf(L) * int(sizeof(T));
