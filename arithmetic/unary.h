@@ -38,7 +38,7 @@ TpxStatus unaryRows(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, 
             });
         };
         if constexpr (KeepAlpha) {
-            walk([&](const T* s, T* d) { mapColours(s, d, len, rule); });
+            walk([&](const T* s, T* d) { mapColours<T>(s, d, len, rule); });
         } else {
             // In place the line is in the cache already.
             const uint64_t traffic = 2 * uint64_t(len) * uint64_t(height) * sizeof(T);

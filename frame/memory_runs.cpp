@@ -85,6 +85,7 @@ void copyRowBackward(void* dst, const void* src, int64_t bytes) {
 }
 
 void copyRowStreaming(void* dst, const void* src, int64_t bytes) {
+    if (bytes < 2 * kLineBytes) return copyRow(dst, src, bytes);
     mapRunStreaming(static_cast<const Tpx8u*>(src), static_cast<Tpx8u*>(dst), bytes, [](V8u x) { return x; });
 }
 

@@ -87,12 +87,20 @@ inline void mapRun(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
         [&] { return rule(loadShort(src, len)); });
 }
 
-// The same on pixels of four samples, whose fourth is left as it was. Registers stay on whole pixels.
-template <class T, class Rule>
-inline void mapColours(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
+// The same on pixels of four samples of type T, whose fourth is left as it was. Registers stay on whole pixels.
+// R is T, or float where samples are only moved; the length is in R.
+template <class T, class R, class Rule>
+inline void mapColours(const R* src, R* dst, ptrdiff_t len, Rule&& rule) {
     writeRun(
         dst, len, 0, [&](ptrdiff_t i) { return keepAlpha<T>(load(dst + i), rule(load(src + i))); },
         [&] { return keepAlpha<T>(loadShort(dst, len), rule(loadShort(src, len))); });
+}
+
+// Moves pixels of four samples of type T but for the fourth.
+template <class T, class Rule>
+inline void moveColours(const T* src, T* dst, ptrdiff_t pixels, Rule&& rule) {
+    mapColours<T>(reinterpret_cast<const Tpx32f*>(src), reinterpret_cast<Tpx32f*>(dst),
+                  pixels * ptrdiff_t(sizeof(T)), rule);
 }
 
 // srcDst[i] = rule(src[i], srcDst[i]).

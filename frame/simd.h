@@ -61,10 +61,6 @@ using VecBits = typename VecBitsOf<T>::type;
 using B32f = VecBits<Tpx32f>;
 using B64f = VecBits<Tpx64f>;
 
-// The unsigned integer with the width of a sample: where samples are only moved, types of one width share code.
-template <class T>
-using Unsigned = std::conditional_t<sizeof(T) == 1, Tpx8u, std::conditional_t<sizeof(T) == 2, Tpx16u, Tpx32u>>;
-
 // ---- Memory and constants: addresses need no alignment ----------------------------------------------------
 
 template <class T>
@@ -151,19 +147,23 @@ inline V select(M mask, V a, V b) {
         return bitsAs<V>(_mm_blendv_epi8(bitsAs<__m128i>(b), bitsAs<__m128i>(a), bitsAs<__m128i>(mask)));
 }
 
-// The lanes of `a` where alpha lies, of `b` elsewhere.
-template <class T>
-inline Vec<T> keepAlpha(Vec<T> a, Vec<T> b) {
-    if constexpr (std::is_same_v<T, float>) {
+// `a` where alpha lies in pixels of four samples of type T, `b` elsewhere; the register begins at a pixel. It
+// is one of T, or of floats where samples are only moved.
+template <class T, class V = Vec<T>>
+inline V keepAlpha(V a, V b) {
+    if constexpr (std::is_same_v<V, V32f> && sizeof(T) == 4) {
         return _mm256_blend_ps(b, a, 0x88);
+    } else if constexpr (std::is_same_v<V, V32f>) {
+        const __m256 mask = _mm256_load_ps(reinterpret_cast<const float*>(kAlphaMask<T>.words));
+        return _mm256_or_ps(_mm256_and_ps(mask, a), _mm256_andnot_ps(mask, b));
     } else if constexpr (sizeof(T) == 2) {
-        return bitsAs<Vec<T>>(_mm_blend_epi16(bitsAs<__m128i>(b), bitsAs<__m128i>(a), 0x88));
+        return bitsAs<V>(_mm_blend_epi16(bitsAs<__m128i>(b), bitsAs<__m128i>(a), 0x88));
     } else if constexpr (sizeof(T) == 4) {
-        return bitsAs<Vec<T>>(_mm_blend_epi16(bitsAs<__m128i>(b), bitsAs<__m128i>(a), 0xC0));
+        return bitsAs<V>(_mm_blend_epi16(bitsAs<__m128i>(b), bitsAs<__m128i>(a), 0xC0));
     } else {
         static_assert(sizeof(T) == 1);
         const __m128i mask = _mm_load_si128(reinterpret_cast<const __m128i*>(kAlphaMask<T>.words));
-        return bitsAs<Vec<T>>(_mm_blendv_epi8(bitsAs<__m128i>(b), bitsAs<__m128i>(a), mask));
+        return bitsAs<V>(_mm_blendv_epi8(bitsAs<__m128i>(b), bitsAs<__m128i>(a), mask));
     }
 }
 

@@ -31,13 +31,11 @@ TpxStatus copyBytes(const void* pSrc, ptrdiff_t srcStep, void* pDst, ptrdiff_t d
 template <Layout L, class T>
 TpxStatus copy(const T* pSrc, int srcStep, T* pDst, int dstStep, TpxiSize roi) {
     if constexpr (L == Layout::AC4) {
-        using B = Unsigned<T>;
         if (anyNull(pSrc, pDst)) return tpxErrNullPointer;
         if (isEmpty(roi)) return tpxErrSize;
-        walkRows(reinterpret_cast<const B*>(pSrc), srcStep, reinterpret_cast<B*>(pDst), dstStep, roi.height,
-                 [len = ptrdiff_t(roi.width) * 4](const B* s, B* d) {
-                     mapColours(s, d, len, [](auto x) { return x; });
-                 });
+        walkRows(pSrc, srcStep, pDst, dstStep, roi.height, [width = ptrdiff_t(roi.width)](const T* s, T* d) {
+            moveColours(s, d, width, [](auto x) { return x; });
+        });
         return tpxOk;
     } else {
         constexpr bool narrow = sizeof(T) == 1 || (sizeof(T) == 2 && L == Layout::C1);

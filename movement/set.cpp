@@ -15,13 +15,12 @@ TpxStatus set(const T* value, T* pDst, ptrdiff_t dstStep, TpxiSize roi) {
     if (anyNull(value, pDst)) return tpxErrNullPointer;
     if (isEmpty(roi)) return tpxErrSize;
     if constexpr (L == Layout::AC4) {
-        using B = Unsigned<T>;
         T pixel[4] = {};
         __builtin_memcpy(pixel, value, 3 * sizeof(T));
         const Pattern pattern = makePattern(pixel, sizeof pixel);
-        const Vec<B> fill = bitsAs<Vec<B>>(load(pattern.bytes));
-        walkRows(reinterpret_cast<B*>(pDst), dstStep, roi.height, [=, len = ptrdiff_t(roi.width) * 4](B* d) {
-            mapColours(d, d, len, [=](auto) { return fill; });
+        const V32f fill = load(reinterpret_cast<const Tpx32f*>(pattern.bytes));
+        walkRows(pDst, dstStep, roi.height, [=, width = ptrdiff_t(roi.width)](T* d) {
+            moveColours(d, d, width, [=](auto) { return fill; });
         });
     } else {
         constexpr int pixelBytes = channelsOf(L) * int(sizeof(T));
