@@ -62,7 +62,8 @@ Facts facts() {
         processor() + ", largest cache " + std::to_string(cache >> 20) + " MB; one thread, its processor time",
         yardstickVersions(),
         "the best of interleaved rounds; \"x name\" is the time of that contender over ours, above 1 is faster",
-        "GB/s counts bytes read and bytes written; images of 16384 pixels a row have 256 MB each"};
+        "GB/s counts bytes read and bytes written; images of 16384 pixels a row are larger than the largest "
+        "cache"};
 }
 
 bool draw(const Options& options, const std::string& subtitle) {

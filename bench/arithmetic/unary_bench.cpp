@@ -30,6 +30,10 @@ void addUnary() {
                          tpxiAbs_16s_C1R, scalar::abs<Tpx16s>);
     addFloat("tpxiAbs_32f_C1R", tpxiAbs_32f_C1R, scalar::abs<Tpx32f>, -100, 100, Sizes::all);
 
+    // With factor 0, where few samples do not saturate, and with the factor that keeps the largest ones.
+    addScaled<Tpx8u>("tpxiSqr_8u_C1RSfs, 0", tpxiSqr_8u_C1RSfs, scalar::sqr<Tpx8u>, 0, 20, 0, Sizes::all);
+    addScaled<Tpx16s>("tpxiSqr_16s_C1RSfs, 0", tpxiSqr_16s_C1RSfs, scalar::sqr<Tpx16s>, -200, 200, 0,
+                      Sizes::all);
     addScaled<Tpx8u>("tpxiSqr_8u_C1RSfs", tpxiSqr_8u_C1RSfs, scalar::sqr<Tpx8u>, 0, 255, 8, Sizes::all);
     addScaled<Tpx16u>("tpxiSqr_16u_C1RSfs", tpxiSqr_16u_C1RSfs, scalar::sqr<Tpx16u>, 0, 65535, 16, Sizes::all);
     addScaled<Tpx16s>("tpxiSqr_16s_C1RSfs", tpxiSqr_16s_C1RSfs, scalar::sqr<Tpx16s>, -32768, 32767, 15,

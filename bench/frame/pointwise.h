@@ -4,8 +4,11 @@
 #include "image.h"
 #include "race.h"
 
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
+
+#include "tpxcore.h"
 
 namespace bench {
 
@@ -19,15 +22,21 @@ void checkSame(const Image<T>& got, const Image<T>& expected, double tolerance) 
     if (!(off <= tolerance)) throw std::runtime_error("the scalar form differs by " + std::to_string(off));
 }
 
-// From an image that fits the first-level cache to one that, with its destination, is beyond any cache.
-// Slow functions are compute-bound at every size, and leave the last one out.
+// From an image that fits the first-level cache to one that is beyond the largest cache that the processor
+// tells. Slow functions are compute-bound at every size, and leave the last one out.
 enum class Sizes { all, withinCache };
-inline constexpr double kBeyondCacheBytes = 256.0 * (1 << 20);
+
+inline double beyondCacheBytes() {
+    constexpr int kLeast = 256 << 20, kMost = 1 << 30;
+    int cache = 0;
+    tpxGetMaxCacheSizeB(&cache);
+    return std::clamp(cache / 100 * 105, kLeast, kMost);
+}
 
 inline std::vector<TpxiSize> sizes(Sizes which, size_t pixelBytes) {
     std::vector<TpxiSize> list = {{64, 64}, {640, 480}, {1920, 1080}, {4096, 3072}};
     if (which == Sizes::all)
-        list.push_back({16384, static_cast<int>(kBeyondCacheBytes / 16384 / static_cast<double>(pixelBytes))});
+        list.push_back({16384, static_cast<int>(beyondCacheBytes() / 16384 / static_cast<double>(pixelBytes))});
     return list;
 }
 
@@ -70,7 +79,7 @@ void addPointwise(const Pointwise& what, Process<T> ours, ScalarRow<T> scalar,
             const auto runScalar = [=] {
                 for (int y = 0; y < size.height; ++y) scalar(src->row(y), dst->row(y), src->rowSamples());
             };
-            if (src->bytes() < kBeyondCacheBytes / 2) {
+            if (src->bytes() < beyondCacheBytes() / 2) {
                 const Image<T> got(size, what.channels);
                 check(runOurs(got));
                 runScalar();
