@@ -114,20 +114,12 @@ void fillAcross(const Tile& tile, const Strips& strips, int64_t from, int64_t co
         __builtin_memcpy(tile.dstRow<T>(from + i), first, size_t(tile.width) * N * sizeof(T));
 }
 
-// Columns [from, from + count) between the top and bottom strips, which all see source column `srcColumn`
-// alone.
+// A row's part of the left or right strip, whose pixels all see one source column: p0, and p1 in the next row.
 template <class T, int N>
-void fillAlong(const Tile& tile, const Strips& strips, int64_t from, int64_t count, int64_t srcColumn) {
+void fillSide(const T* p0, const T* p1, WeightOf<T> weight, T* dst, int64_t count) {
     if (count == 0) return;
-    const TpxiResizeAxis& axis = tile.plan.axisY;
-    const WeightOf<T>* const weights = weightsOf<T>(axis);
-    for (int64_t i = strips.top; i < tile.height - strips.bottom; i++) {
-        const int64_t row = axis.pIndex[tile.y + i];
-        T* const dst = tile.dstRow<T>(i) + from * N;
-        blendPixel<T, N>(tile.srcRow<T>(row) + srcColumn * N, tile.srcRow<T>(row + 1) + srcColumn * N,
-                         peek(weights + tile.y + i), dst);
-        repeatPixel<T, N>(dst, count);
-    }
+    blendPixel<T, N>(p0, p1, weight, dst);
+    repeatPixel<T, N>(dst, count);
 }
 
 // ---- The horizontal pass of 8u
@@ -252,15 +244,25 @@ struct QuadOf {
 template <class T>
 using Quad = typename QuadOf<RowOf<T>>::type;
 
+inline Quad<Tpx32f> loadQuad(const Tpx32f* p) { return Quad<Tpx32f>(_mm_loadu_ps(p)); }
+inline Quad<Tpx64f> loadQuad(const Tpx64f* p) { return Quad<Tpx64f>(_mm256_loadu_pd(p)); }
 template <class T>
 inline Quad<T> loadQuad(const T* p) {
-    typedef T Samples __attribute__((vector_size(4 * sizeof(T))));
-    Samples samples;
-    __builtin_memcpy(&samples, p, sizeof samples);
-    return __builtin_convertvector(samples, Quad<T>);
+    const __m128i samples = _mm_cvtsi64_si128(peek(reinterpret_cast<const Tpx64s*>(p)));
+    return Quad<T>(
+        _mm_cvtepi32_ps(std::is_signed_v<T> ? _mm_cvtepi16_epi32(samples) : _mm_cvtepu16_epi32(samples)));
 }
 
-// The left-hand and the right-hand pixels of a register of one-channel positions. Every load is one pair.
+// The left-hand and the right-hand pixels of a register of one-channel positions, by loads of no sample but
+// theirs.
+inline Pair<V64f> loadPairs(const Tpx64f* src, const Tpx32s* at) {
+    const auto two = [&](int k) {
+        const __m256d low = _mm256_castpd128_pd256(_mm_loadu_pd(src + at[k]));
+        return _mm256_insertf128_pd(low, _mm_loadu_pd(src + at[k + 2]), 1);
+    };
+    const __m256d a = two(0), b = two(1);
+    return {V64f(_mm256_unpacklo_pd(a, b)), V64f(_mm256_unpackhi_pd(a, b))};
+}
 inline Pair<V32f> loadPairs(const Tpx32f* src, const Tpx32s* at) {
     const auto pair = [&](int k) { return peek(reinterpret_cast<const double*>(src + at[k])); };
     const auto two = [&](int k) { return _mm_castpd_ps(_mm_set_pd(pair(k + 1), pair(k))); };
@@ -270,47 +272,115 @@ inline Pair<V32f> loadPairs(const Tpx32f* src, const Tpx32s* at) {
     const __m256 a = four(0), b = four(2);
     return {V32f(_mm256_shuffle_ps(a, b, 0x88)), V32f(_mm256_shuffle_ps(a, b, 0xDD))};
 }
-inline Pair<V64f> loadPairs(const Tpx64f* src, const Tpx32s* at) {
-    const auto two = [&](int k) {
-        return _mm256_insertf128_pd(_mm256_castpd128_pd256(_mm_loadu_pd(src + at[k])),
-                                    _mm_loadu_pd(src + at[k + 2]), 1);
-    };
-    const __m256d a = two(0), b = two(1);
-    return {V64f(_mm256_unpacklo_pd(a, b)), V64f(_mm256_unpackhi_pd(a, b))};
+// Sample pairs of 16 bits in 32-bit lanes.
+template <class T>
+inline Pair<V32f> splitPairs(__m128i low, __m128i high) {
+    using Lanes = std::conditional_t<std::is_signed_v<T>, V32s, V32u>;
+    const auto a = Lanes(low), b = Lanes(high);
+    return {toFloat({V32s(a << 16 >> 16), V32s(b << 16 >> 16)}), toFloat({V32s(a >> 16), V32s(b >> 16)})};
 }
 template <class T>
 inline Pair<V32f> loadPairs(const T* src, const Tpx32s* at) {
     static_assert(sizeof(T) == 2);
-    using Lanes = std::conditional_t<std::is_signed_v<T>, V32s, V32u>;
     const auto pair = [&](int k) { return peek(reinterpret_cast<const Tpx32s*>(src + at[k])); };
-    const auto a = Lanes(_mm_setr_epi32(pair(0), pair(1), pair(2), pair(3)));
-    const auto b = Lanes(_mm_setr_epi32(pair(4), pair(5), pair(6), pair(7)));
-    return {toFloat({V32s(a << 16 >> 16), V32s(b << 16 >> 16)}), toFloat({V32s(a >> 16), V32s(b >> 16)})};
+    return splitPairs<T>(_mm_setr_epi32(pair(0), pair(1), pair(2), pair(3)),
+                         _mm_setr_epi32(pair(4), pair(5), pair(6), pair(7)));
 }
+
+// One channel of 16 bits or single precision: positions whose taps lie within 16 bytes are a load and a
+// shuffle, prepared once for all rows. A register of eight positions takes two loads, or one in large
+// magnifications.
+template <class T>
+class EightByShuffle {
+    static constexpr bool kSingle = std::is_same_v<T, Tpx32f>;
+    // The first and the last position of a load lie this far apart at most. Single precision loads the
+    // right-hand pixels a second time, from one sample further.
+    static constexpr int kReach = kSingle ? 3 : 6, kSpan = kSingle ? 5 : 8;
+
+ public:
+    static bool fits(const Tpx32s* at) { return at[3] - at[0] <= kReach && at[7] - at[4] <= kReach; }
+    static bool fitsOneLoad(const Tpx32s* at) { return at[7] - at[0] <= kReach; }
+    // Whether the loads end before `end`.
+    static bool endsBefore(const Tpx32s* at, int64_t end) { return int64_t(at[4]) + kSpan <= end; }
+
+    // 32 bytes.
+    static void prepare(const Tpx32s* at, bool oneLoad, Tpx8u* shuffle) {
+        for (int k = 0; k < 8; k++, shuffle += 4) {
+            const int offset = at[k] - (oneLoad || k < 4 ? at[0] : at[4]);
+            if constexpr (kSingle)
+                poke(reinterpret_cast<Tpx32s*>(shuffle), offset);
+            else
+                for (int b = 0; b < 4; b++) shuffle[b] = Tpx8u(2 * offset + b);
+        }
+    }
+
+    template <bool OneLoad>
+    static Pair<V32f> load(const T* src, const Tpx32s* at, const Tpx8u* shuffle) {
+        const T *const low = src + at[0], *const high = src + at[4];
+        if constexpr (kSingle) {
+            const __m256i lanes = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(shuffle));
+            const auto tap = [=](int k) {
+                const __m256 samples = OneLoad ? _mm256_broadcast_ps(reinterpret_cast<const __m128*>(low + k))
+                                               : _mm256_loadu2_m128(high + k, low + k);
+                return V32f(_mm256_permutevar_ps(samples, lanes));
+            };
+            return {tap(0), tap(1)};
+        } else {
+            const auto four = [](const T* from, const Tpx8u* bytes) {
+                return _mm_shuffle_epi8(__m128i(tpx::load(from)), __m128i(tpx::load(bytes)));
+            };
+            return splitPairs<T>(four(low, shuffle), four(OneLoad ? low : high, shuffle + 16));
+        }
+    }
+};
 
 template <class T, int N>
 class RowPass {
     using Row = RowOf<T>;
+    static constexpr int L = kLanes<Row>;
+    static constexpr bool kShuffles = N == 1 && sizeof(T) < 8;
+    using Eight = EightByShuffle<T>;
 
     const Tpx32s* index;
     const Row* fractions;
     int64_t width;
+    Tpx8u* shuffles;
+    int64_t shuffled = 0; // positions of whole registers that are taken by shuffles
+    bool oneLoad = true;
 
  public:
     // A pixel of three channels is stored as four.
     static constexpr int64_t rowBytes(int64_t width) { return (width * N + (N == 3)) * int64_t(sizeof(Row)); }
 
-    RowPass(const TpxiResizeAxis& axis, int64_t x, int64_t width, Tpx8u*)
-        : index(axis.pIndex + x), fractions(weightsOf<T>(axis) + x), width(width) {}
+    // `work` has room for 4 bytes for each position.
+    RowPass(const TpxiResizeAxis& axis, int64_t x, int64_t width, Tpx8u* work)
+        : index(axis.pIndex + x), fractions(weightsOf<T>(axis) + x), width(width), shuffles(work) {
+        if constexpr (kShuffles) {
+            const int64_t end = int64_t(index[width - 1]) + 2;
+            while (shuffled + L <= width && Eight::fits(index + shuffled) &&
+                   Eight::endsBefore(index + shuffled, end)) {
+                oneLoad = oneLoad && Eight::fitsOneLoad(index + shuffled);
+                shuffled += L;
+            }
+            for (int64_t j = 0; j < shuffled; j += L) Eight::prepare(index + j, oneLoad, shuffles + 4 * j);
+        }
+    }
 
     void operator()(const T* src, Row* out) const {
         int64_t j = 0;
         if constexpr (N == 1) {
-            constexpr int L = kLanes<Row>;
-            for (; j + L <= width; j += L) {
-                const Pair<Vec<Row>> p = loadPairs(src, index + j);
+            const auto blend = [&](Pair<Vec<Row>> p) {
                 store(out + j, p.low + (p.high - p.low) * load(fractions + j));
+            };
+            if constexpr (kShuffles) {
+                if (oneLoad)
+                    for (; j < shuffled; j += L)
+                        blend(Eight::template load<true>(src, index + j, shuffles + 4 * j));
+                else
+                    for (; j < shuffled; j += L)
+                        blend(Eight::template load<false>(src, index + j, shuffles + 4 * j));
             }
+            for (; j + L <= width; j += L) blend(loadPairs(src, index + j));
             for (; j < width; j++) {
                 const Row a = peek(src + index[j]), b = peek(src + index[j] + 1);
                 out[j] = a + (b - a) * peek(fractions + j);
@@ -339,26 +409,33 @@ using PassOf = std::conditional_t<std::is_same_v<T, Tpx8u>, RowPass8u<N>, RowPas
 
 // ---- The vertical blend -------------------------------------------------------------------------------------
 
-// at(i) makes a register of samples from position i on of the two rows.
+// at(i) makes a register of samples from position i on of the two rows. Positions at both ends may be made
+// twice.
 template <class T, class At>
-inline void storeBlend(T* dst, int64_t count, At at) {
+inline void storeBlend(T* dst, int64_t count, const T* below, At at) {
     constexpr int64_t L = kLanes<T>;
-    int64_t i = 0;
-    for (; i + L <= count; i += L) store(dst + i, at(i));
-    if (i == count) return;
-    if (count > L) {
-        store(dst + count - L, at(count - L));
-    } else {
+    if (count < L) {
         const Vec<T> all = at(0);
         copyShort(dst, &all, count * int64_t(sizeof(T)));
+        return;
     }
+    store(dst, at(0));
+    int64_t i = samplesToBoundary(dst);
+    for (; i + 2 * L <= count; i += 2 * L) {
+        _mm_prefetch(below + i, _MM_HINT_T0);
+        store(dst + i, at(i));
+        store(dst + i + L, at(i + L));
+    }
+    if (i + L <= count) store(dst + i, at(i));
+    store(dst + count - L, at(count - L));
 }
 
 // (r0 * (16384 - q) + r1 * q + 524288) >> 20. The sum is that of the nearer row and the other's share, which
 // can be floored alone, as the rest of the sum is whole: base + ((other - base) * q >> 14), then rounded to
 // nearest by 6 bits. As q is at most 8192 then, -4q fits 16 bits and the high half of a product is the floored
 // share.
-inline void blendRows(const Tpx16s* r0, const Tpx16s* r1, Tpx16s weight, Tpx8u* dst, int64_t count) {
+inline void blendRows(const Tpx16s* r0, const Tpx16s* r1, Tpx16s weight, Tpx8u* dst, int64_t count,
+                      const Tpx8u* below) {
     int q = weight;
     if (q > 8192) {
         q = 16384 - q;
@@ -367,7 +444,7 @@ inline void blendRows(const Tpx16s* r0, const Tpx16s* r1, Tpx16s weight, Tpx8u* 
         r0 = nearer;
     }
     const __m128i minus4q = _mm_set1_epi16(short(-4 * q)), roundBy6Bits = _mm_set1_epi16(512);
-    storeBlend(dst, count, [=](int64_t i) {
+    storeBlend(dst, count, below, [=](int64_t i) {
         const auto eight = [=](int64_t k) {
             const __m128i base = __m128i(load(r0 + k)), other = __m128i(load(r1 + k));
             const __m128i share = _mm_mulhi_epi16(_mm_sub_epi16(base, other), minus4q);
@@ -378,10 +455,11 @@ inline void blendRows(const Tpx16s* r0, const Tpx16s* r1, Tpx16s weight, Tpx8u* 
 }
 
 template <class T>
-inline void blendRows(const RowOf<T>* r0, const RowOf<T>* r1, RowOf<T> fraction, T* dst, int64_t count) {
+inline void blendRows(const RowOf<T>* r0, const RowOf<T>* r1, RowOf<T> fraction, T* dst, int64_t count,
+                      const T* below) {
     using V = Vec<RowOf<T>>;
     const V f = splat<V>(fraction);
-    storeBlend(dst, count, [=](int64_t i) {
+    storeBlend(dst, count, below, [=](int64_t i) {
         const V a = load(r0 + i), blend = a + (load(r1 + i) - a) * f;
         if constexpr (std::is_floating_point_v<T>)
             return blend;
@@ -392,27 +470,41 @@ inline void blendRows(const RowOf<T>* r0, const RowOf<T>* r1, RowOf<T> fraction,
 
 // ---- The tile -----------------------------------------------------------------------------------------------
 
+// The rows between the top and bottom strips.
 template <class T, int N>
-void fillInside(const Tile& tile, const Strips& strips) {
+void fillMiddle(const Tile& tile, const Strips& strips) {
     using Row = RowOf<T>;
     const int64_t width = tile.width - strips.left - strips.right;
     const int64_t height = tile.height - strips.top - strips.bottom;
-    if (width <= 0 || height <= 0) return;
+    if (height <= 0) return;
+
+    const Tpx32s* const index = tile.plan.axisY.pIndex + tile.y + strips.top;
+    const WeightOf<T>* const weights = weightsOf<T>(tile.plan.axisY) + tile.y + strips.top;
+    const int64_t lastColumn = (int64_t(tile.plan.axisX.srcLen) - 1) * N;
+    const auto fillSides = [&](int64_t i) {
+        const T *const p0 = tile.srcRow<T>(index[i]), *const p1 = tile.srcRow<T>(int64_t(index[i]) + 1);
+        T* const dst = tile.dstRow<T>(strips.top + i);
+        fillSide<T, N>(p0, p1, peek(weights + i), dst, strips.left);
+        fillSide<T, N>(p0 + lastColumn, p1 + lastColumn, peek(weights + i),
+                       dst + (tile.width - strips.right) * N, strips.right);
+    };
+    if (width <= 0) {
+        for (int64_t i = 0; i < height; i++) fillSides(i);
+        return;
+    }
 
     // The work buffer: two rows, then what the pass prepares. Its size allows 4 bytes for each sample of a row,
     // and for each position; rows of 8u take 2. The vertical blend reads whole registers, so a short row has
     // room for one, and defined samples in it.
-    constexpr int64_t kRegister = 32;
+    constexpr int64_t kRegister = 32, kAlignment = sizeof(T) == 1 ? 16 : 32;
     const int64_t rowBytes = PassOf<T, N>::rowBytes(width);
-    const int64_t rowStep = ((rowBytes < kRegister ? kRegister : rowBytes) + 15) & -16;
-    Tpx8u* const work = alignUp(tile.buffer, 16);
+    const int64_t rowStep = ((rowBytes < kRegister ? kRegister : rowBytes) + kAlignment - 1) & -kAlignment;
+    Tpx8u* const work = alignUp(tile.buffer, kAlignment);
     auto newer = reinterpret_cast<Row*>(work), older = reinterpret_cast<Row*>(work + rowStep);
     __builtin_memset(newer, 0, kRegister);
     __builtin_memset(older, 0, kRegister);
     const PassOf<T, N> pass(tile.plan.axisX, tile.x + strips.left, width, work + 2 * rowStep);
 
-    const Tpx32s* const index = tile.plan.axisY.pIndex + tile.y + strips.top;
-    const WeightOf<T>* const weights = weightsOf<T>(tile.plan.axisY) + tile.y + strips.top;
     int64_t current = int64_t(index[0]) - 2; // the row in `older`; the next one is in `newer`
     for (int64_t i = 0; i < height; i++) {
         const int64_t row = index[i];
@@ -424,7 +516,9 @@ void fillInside(const Tile& tile, const Strips& strips) {
             pass(tile.srcRow<T>(row + 1), newer);
             current = row;
         }
-        blendRows(older, newer, peek(weights + i), tile.dstRow<T>(strips.top + i) + strips.left * N, width * N);
+        blendRows(older, newer, peek(weights + i), tile.dstRow<T>(strips.top + i) + strips.left * N, width * N,
+                  tile.dstRow<T>(strips.top + i + 1) + strips.left * N);
+        fillSides(i);
     }
 }
 
@@ -436,12 +530,10 @@ TpxStatus resizeLinear(const TileCall<Form, T>& call, TpxBorderType border) {
 
     const Tile tile = makeTile(call, N);
     const Strips strips = stripsOf(tile, border);
-    const TpxiResizeAxis &ax = tile.plan.axisX, &ay = tile.plan.axisY;
     fillAcross<T, N>(tile, strips, 0, strips.top, 0);
-    fillAlong<T, N>(tile, strips, 0, strips.left, 0);
-    fillAlong<T, N>(tile, strips, tile.width - strips.right, strips.right, int64_t(ax.srcLen) - 1);
-    fillAcross<T, N>(tile, strips, tile.height - strips.bottom, strips.bottom, int64_t(ay.srcLen) - 1);
-    fillInside<T, N>(tile, strips);
+    fillMiddle<T, N>(tile, strips);
+    fillAcross<T, N>(tile, strips, tile.height - strips.bottom, strips.bottom,
+                     int64_t(tile.plan.axisY.srcLen) - 1);
     return doneTile(call);
 }
 

@@ -8,29 +8,60 @@
 namespace tpx {
 namespace {
 
-// Copies the pixels of a row one by one.
+// Gathers the pixels of rows. Small pixels are taken in groups that fill 8 bytes of the destination: where the
+// sources of a group lie within 16 bytes they are one load and one shuffle, prepared once for all rows.
 template <int Bytes>
 class PixelGather {
-    // A pixel is moved as the next power of two, as long as pixels follow it on both sides.
+    static constexpr int kPixels = Bytes > 4 ? 0 : 8 / Bytes; // of a group
+
+    // A single pixel is moved as the next power of two while pixels follow it on both sides.
     struct Piece {
         Tpx8u bytes[Bytes <= 2 ? Bytes : Bytes <= 4 ? 4 : Bytes <= 8 ? 8 : 16];
     };
+
     const Tpx32s* index;
-    int64_t width, whole;
+    int64_t width;
+    int64_t shuffled = 0, pieces; // pixels before which shuffles, and then pieces, serve
+    Tpx8u* shuffles;
+
+    void prepareShuffles() {
+        const int64_t end = (int64_t(index[width - 1]) + 1) * Bytes;
+        Tpx8u* shuffle = shuffles;
+        // A store of eight bytes may reach into the next pixel, so one has to follow.
+        for (; shuffled + kPixels < width; shuffled += kPixels, shuffle += 8) {
+            const Tpx32s* const at = index + shuffled;
+            if ((int64_t(at[kPixels - 1]) - at[0] + 1) * Bytes > 16 || int64_t(at[0]) * Bytes + 16 > end) break;
+            for (int k = 0; k < kPixels * Bytes; k++)
+                shuffle[k] = Tpx8u((at[k / Bytes] - at[0]) * Bytes + k % Bytes);
+        }
+    }
 
  public:
-    PixelGather(const TpxiResizeAxis& axis, int64_t x, int64_t width, Tpx8u*)
-        : index(axis.pIndex + x), width(width), whole(width) {
+    // `work` has room for 4 bytes for each pixel.
+    PixelGather(const TpxiResizeAxis& axis, int64_t x, int64_t width, Tpx8u* work)
+        : index(axis.pIndex + x), width(width), pieces(width), shuffles(work) {
+        if constexpr (kPixels > 0) prepareShuffles();
         if (sizeof(Piece) != Bytes)
-            while (whole > 0 && index[whole - 1] == index[width - 1]) whole--;
+            while (pieces > shuffled && index[pieces - 1] == index[width - 1]) pieces--;
     }
 
     void operator()(const Tpx8u* src, Tpx8u* dst) const {
-        for (int64_t j = 0; j < whole; j++)
+        // Kept apart from *this, which the compiler cannot tell from the destination.
+        const Tpx32s* const at = index;
+        const int64_t shufflesEnd = shuffled, piecesEnd = pieces, end = width;
+        int64_t j = 0;
+        if constexpr (kPixels > 0) {
+            const Tpx8u* shuffle = shuffles;
+            for (; j < shufflesEnd; j += kPixels, shuffle += 8) {
+                const V8u pixels = load(src + int64_t(at[j]) * Bytes);
+                const __m128i group = _mm_shuffle_epi8(__m128i(pixels), __m128i(load(shuffle)));
+                poke(reinterpret_cast<Tpx64s*>(dst + j * Bytes), Tpx64s(_mm_cvtsi128_si64(group)));
+            }
+        }
+        for (; j < piecesEnd; j++)
             poke(reinterpret_cast<Piece*>(dst + j * Bytes),
-                 peek(reinterpret_cast<const Piece*>(src + int64_t(index[j]) * Bytes)));
-        for (int64_t j = whole; j < width; j++)
-            __builtin_memcpy(dst + j * Bytes, src + int64_t(index[j]) * Bytes, Bytes);
+                 peek(reinterpret_cast<const Piece*>(src + int64_t(at[j]) * Bytes)));
+        for (; j < end; j++) __builtin_memcpy(dst + j * Bytes, src + int64_t(at[j]) * Bytes, Bytes);
     }
 };
 
