@@ -47,8 +47,7 @@ WeightOf<T> weightAlongX(const WeightOf<T>* weights, int64_t j) {
     return peek(std::is_same_v<T, Tpx8u> ? weights + 2 * j + 1 : weights + j);
 }
 
-// ---- One blend, as the strips do it
-// ---------------------------------------------------------------------------
+// ---- One blend, as the strips do it -------------------------------------------------------------------
 
 // Rounds with the thread's rounding mode, then saturates.
 template <class T>
@@ -78,10 +77,13 @@ void blendPixel(const T* p0, const T* p1, WeightOf<T> weight, T* dst) {
     for (int c = 0; c < N; c++) poke(dst + c, blendOnce(peek(p0 + c), peek(p1 + c), weight));
 }
 
-// Writes `count` copies of the pixel that already stands at `dst` behind it.
+// The same for `count` neighbours with the same taps.
 template <class T, int N>
-void repeatPixel(T* dst, int64_t count) {
-    for (int64_t i = N; i < count * N; i++) poke(dst + i, peek(dst + i - N));
+void blendRun(const T* p0, const T* p1, WeightOf<T> weight, T* dst, int64_t count) {
+    T pixel[N];
+    blendPixel<T, N>(p0, p1, weight, pixel);
+    for (int64_t i = 0; i < count; i++)
+        for (int c = 0; c < N; c++) poke(dst + i * N + c, pixel[c]);
 }
 
 // A destination row of the top or bottom strip: a blend along one source row. Where the tile has a strip at the
@@ -89,19 +91,15 @@ void repeatPixel(T* dst, int64_t count) {
 template <class T, int N>
 void blendStripRow(const Tile& tile, const Strips& strips, const T* src, T* dst) {
     const TpxiResizeAxis& axis = tile.plan.axisX;
-    const auto flat = [&](int64_t at, int64_t count, const T* pixel) {
-        if (count == 0) return;
-        blendPixel<T, N>(pixel, pixel, 0, dst + at * N);
-        repeatPixel<T, N>(dst + at * N, count);
-    };
     const WeightOf<T>* const weights = weightsOf<T>(axis);
     const int64_t end = tile.width - strips.right;
-    flat(0, strips.left, src);
+    if (strips.left > 0) blendRun<T, N>(src, src, 0, dst, strips.left);
     for (int64_t j = strips.left; j < end; j++) {
         const T* const p = src + int64_t(axis.pIndex[tile.x + j]) * N;
         blendPixel<T, N>(p, p + N, weightAlongX<T>(weights, tile.x + j), dst + j * N);
     }
-    flat(end, strips.right, src + (int64_t(axis.srcLen) - 1) * N);
+    const T* const last = src + (int64_t(axis.srcLen) - 1) * N;
+    if (strips.right > 0) blendRun<T, N>(last, last, 0, dst + end * N, strips.right);
 }
 
 // Rows [from, from + count) of the tile, which all see source row `srcRow` alone.
@@ -114,16 +112,7 @@ void fillAcross(const Tile& tile, const Strips& strips, int64_t from, int64_t co
         __builtin_memcpy(tile.dstRow<T>(from + i), first, size_t(tile.width) * N * sizeof(T));
 }
 
-// A row's part of the left or right strip, whose pixels all see one source column: p0, and p1 in the next row.
-template <class T, int N>
-void fillSide(const T* p0, const T* p1, WeightOf<T> weight, T* dst, int64_t count) {
-    if (count == 0) return;
-    blendPixel<T, N>(p0, p1, weight, dst);
-    repeatPixel<T, N>(dst, count);
-}
-
-// ---- The horizontal pass of 8u
-// ----------------------------------------------------------------------------------
+// ---- The horizontal pass of 8u ------------------------------------------------------------------------
 
 // (p0 * (16384 - q) + p1 * q + 128) >> 8 in eight lanes, from byte pairs (p0, p1) and -2q. It is exact: the
 // rounding product of 64 (p0 - p1) and -2q is (128 (p1 - p0) q + 16384) >> 15, and 64 p0 joins without
@@ -234,8 +223,7 @@ class RowPass8u {
     }
 };
 
-// ---- The horizontal pass in floating point
-// ----------------------------------------------------------------------
+// ---- The horizontal pass in floating point ------------------------------------------------------------
 
 template <class R>
 struct QuadOf {
@@ -407,7 +395,7 @@ class RowPass {
 template <class T, int N>
 using PassOf = std::conditional_t<std::is_same_v<T, Tpx8u>, RowPass8u<N>, RowPass<T, N>>;
 
-// ---- The vertical blend -------------------------------------------------------------------------------------
+// ---- The vertical blend -------------------------------------------------------------------------------
 
 // at(i) makes a register of samples from position i on of the two rows. Positions at both ends may be made
 // twice.
@@ -468,7 +456,7 @@ inline void blendRows(const RowOf<T>* r0, const RowOf<T>* r1, RowOf<T> fraction,
     });
 }
 
-// ---- The tile -----------------------------------------------------------------------------------------------
+// ---- The tile -----------------------------------------------------------------------------------------
 
 // The rows between the top and bottom strips.
 template <class T, int N>
@@ -481,12 +469,13 @@ void fillMiddle(const Tile& tile, const Strips& strips) {
     const Tpx32s* const index = tile.plan.axisY.pIndex + tile.y + strips.top;
     const WeightOf<T>* const weights = weightsOf<T>(tile.plan.axisY) + tile.y + strips.top;
     const int64_t lastColumn = (int64_t(tile.plan.axisX.srcLen) - 1) * N;
+    // A row's part of the left and of the right strip, whose pixels all see one source column.
     const auto fillSides = [&](int64_t i) {
         const T *const p0 = tile.srcRow<T>(index[i]), *const p1 = tile.srcRow<T>(int64_t(index[i]) + 1);
-        T* const dst = tile.dstRow<T>(strips.top + i);
-        fillSide<T, N>(p0, p1, peek(weights + i), dst, strips.left);
-        fillSide<T, N>(p0 + lastColumn, p1 + lastColumn, peek(weights + i),
-                       dst + (tile.width - strips.right) * N, strips.right);
+        T *const left = tile.dstRow<T>(strips.top + i), *const right = left + (tile.width - strips.right) * N;
+        const WeightOf<T> weight = peek(weights + i);
+        if (strips.left > 0) blendRun<T, N>(p0, p1, weight, left, strips.left);
+        if (strips.right > 0) blendRun<T, N>(p0 + lastColumn, p1 + lastColumn, weight, right, strips.right);
     };
     if (width <= 0) {
         for (int64_t i = 0; i < height; i++) fillSides(i);

@@ -27,8 +27,9 @@ class PixelGather {
     void prepareShuffles() {
         const int64_t end = (int64_t(index[width - 1]) + 1) * Bytes;
         Tpx8u* shuffle = shuffles;
-        // A store of eight bytes may reach into the next pixel, so one has to follow.
-        for (; shuffled + kPixels < width; shuffled += kPixels, shuffle += 8) {
+        // Two pixels of three bytes are stored as eight. The last two never are: their load would not end in
+        // time.
+        for (; shuffled + kPixels <= width; shuffled += kPixels, shuffle += 8) {
             const Tpx32s* const at = index + shuffled;
             if ((int64_t(at[kPixels - 1]) - at[0] + 1) * Bytes > 16 || int64_t(at[0]) * Bytes + 16 > end) break;
             for (int k = 0; k < kPixels * Bytes; k++)

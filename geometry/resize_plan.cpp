@@ -29,7 +29,7 @@ bool isTooLong(TpxiSizeL size) { return size.width > 0x1fffffff || size.height >
 // The smallest source of a kind that reads `taps` source pixels for a destination pixel.
 constexpr TpxiSizeL squareOf(int taps) { return {taps, taps}; }
 
-// ---- Sizes of a plan --------------------------------------------------------------------------------------
+// ---- Sizes of a plan ----------------------------------------------------------------------------------
 
 int64_t ceilOf(double x) {
     const auto whole = int64_t(x);
@@ -134,7 +134,7 @@ TpxStatus getSize(typename Form::Size srcSize, typename Form::Size dstSize, TpxD
     return status;
 }
 
-// ---- Initialising -------------------------------------------------------------------------------------------
+// ---- Initialising -------------------------------------------------------------------------------------
 
 // Hands out the tables behind a plan's fixed part. A plan is 64-byte aligned, so alignment counts from it.
 class Tables {
@@ -310,8 +310,7 @@ TpxStatus initialiseLanczos(typename Form::Size srcSize, typename Form::Size dst
     return tpxOk;
 }
 
-// ---- Queries
-// --------------------------------------------------------------------------------------------------
+// ---- Queries ------------------------------------------------------------------------------------------
 
 // Bytes of the work buffer for a tile of the plan, or a negative status.
 int64_t workSize(const TpxiResizeSpec& plan, TpxiSizeL tile, int64_t channels) {
@@ -427,8 +426,7 @@ TpxStatus getSrcRoi(const TpxiResizeSpec* pSpec, typename Form::Point dstRoiOffs
 
 using namespace tpx;
 
-// ---- Entries
-// ----------------------------------------------------------------------------------------------------
+// ---- Entries ------------------------------------------------------------------------------------------
 
 #define FOUR_TYPES(FORMS) FORMS(8u) FORMS(16u) FORMS(16s) FORMS(32f)
 #define FIVE_TYPES(FORMS) FOUR_TYPES(FORMS) FORMS(64f)

@@ -385,6 +385,7 @@ TEST(ResizePlan, SizesOfWorkBuffers) {
           {kLanczos, 3, vga, half, tile, 3, tpxOk, 8000},
           {kSuper, 0, vga, half, tile, 3, tpxOk, 3432},
           {kSuper, 0, {50, 60}, {30, 45}, {30, 45}, 1, tpxOk, 1208},
+          {kSuper, 0, {50, 60}, {30, 45}, {30, 2}, 1, tpxOk, 784},
           {kLinear, 0, vga, half, {321, 240}, 1, tpxWarnValueAdjusted, 1280 + 960 + 2 * 1280 + 64},
           {kNearest, 0, vga, half, {1, 0x7fffffff}, 4, tpxWarnValueAdjusted, 32 + 960 + 64}})
         for (const bool longForm : {false, true}) {
