@@ -50,7 +50,7 @@ class AnyPlan {
     std::unique_ptr<GuardedBytes> memory_;
 };
 
-// ---- Sizes of plans ---------------------------------------------------------------------------------------
+// ---- Sizes of plans -----------------------------------------------------------------------------------
 
 TEST(ResizePlan, SizesOfPlansAndInitialisationBuffers) {
     struct Case {
@@ -137,7 +137,7 @@ TEST(ResizePlan, SizesBeyondTheResultAreRefused) {
               tpxiResizeGetSize_L({1, 1}, {1, limit + 1}, tpxDataType8u, kNearest, 0, &specL, &initL));
 }
 
-// ---- Order of checks --------------------------------------------------------------------------------------
+// ---- Order of checks ----------------------------------------------------------------------------------
 
 struct SizeArgs {
     TpxiSizeL src{40, 40}, dst{20, 20};
@@ -358,7 +358,7 @@ TEST(ResizePlan, QueriesCheckInOrder) {
     }
 }
 
-// ---- Queries ----------------------------------------------------------------------------------------------
+// ---- Queries ------------------------------------------------------------------------------------------
 
 struct Doubles {
     using T = Tpx64f;
@@ -484,7 +484,7 @@ TEST(ResizePlan, SourceRectanglesOfTiles) {
     }
 }
 
-// ---- Weights ----------------------------------------------------------------------------------------------
+// ---- Weights ------------------------------------------------------------------------------------------
 
 // The family of cubic kernels from its definition.
 double cubicKernel(double x, double b, double c) {
@@ -579,7 +579,7 @@ TEST(ResizePlan, TapsOutsideTheSourceAreCounted) {
         }
 }
 
-// ---- The thread's floating-point control -------------------------------------------------------------------
+// ---- The thread's floating-point control --------------------------------------------------------------
 
 TEST(ResizePlan, InitialisersLeaveTheControlRegisterAsItWas) {
     constexpr unsigned kFlush = 0x8000, kUnderflowMask = 0x800, kUnderflow = 0x10;

@@ -11,7 +11,7 @@ namespace {
 
 using namespace tpx::test;
 
-// ---- The functions of each type ---------------------------------------------------------------------------
+// ---- The functions of each type -----------------------------------------------------------------------
 
 template <class T>
 using LinearCall = TpxStatus (*)(const T*, int, T*, int, TpxiPoint, TpxiSize, TpxBorderType, const T*,
@@ -53,7 +53,7 @@ NAMES(16s, NEAREST_NAMES(16s))
 NAMES(32f, NEAREST_NAMES(32f))
 NAMES(64f, NO_NEAREST)
 
-// ---- Whole images and tiles beside the model --------------------------------------------------------------
+// ---- Whole images and tiles beside the model ----------------------------------------------------------
 
 struct Sizes {
     TpxiSize src, dst;
@@ -280,8 +280,28 @@ TEST(ResizeLinear, TakesNegativeSteps) {
     }));
 }
 
-// ---- Checks
-// --------------------------------------------------------------------------------------------------
+// The short calls do not look at the type that a plan was made for. The result is the caller's affair, but
+// nothing outside the plan is read.
+TEST(ResizeLinear, StaysInsidePlansOfOtherTypes) {
+    const Sizes s{{21, 17}, {70, 33}};
+    const RandomImage<Tpx8u> src8(s.src, 1, {}, 1);
+    const RandomImage<Tpx32f> src32(s.src, 1, {}, 1);
+    const Plan<Names8u> plan8(true, s.src, s.dst);
+    const Plan<Names32f> plan32(true, s.src, s.dst);
+    const Plan<Names64f> plan64(true, s.src, s.dst);
+    std::vector<Tpx8u> buffer(10000);
+    for (const TpxiResizeSpec* spec : {plan8.spec(), plan32.spec(), plan64.spec()}) {
+        GuardedImage<Tpx8u> dst8(s.dst.width, s.dst.height, 1);
+        GuardedImage<Tpx32f> dst32(s.dst.width, s.dst.height, 1);
+        EXPECT_EQ(tpxOk, tpxiResizeLinear_8u_C1R(src8.data(), src8.step(), dst8.data(), dst8.step(), {0, 0},
+                                                 s.dst, tpxBorderReplicate, nullptr, spec, buffer.data()));
+        EXPECT_EQ(tpxOk,
+                  tpxiResizeLinear_32f_C1R(src32.data(), src32.step(), dst32.data(), dst32.step(), {0, 0},
+                                           s.dst, tpxBorderReplicate, nullptr, spec, buffer.data()));
+    }
+}
+
+// ---- Checks -------------------------------------------------------------------------------------------
 
 template <class T>
 struct Args {
