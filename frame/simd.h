@@ -219,8 +219,7 @@ inline V32f reverseLanes(V32f a) {
     return V32f(_mm256_shuffle_ps(halves, halves, _MM_SHUFFLE(0, 1, 2, 3)));
 }
 
-// ---- Absolute value: the type's smallest integer gives its largest
-// -------------------------------------------
+// ---- Absolute value: the type's smallest integer gives its largest ----------------------------------------
 
 inline V16s absSat(V16s a) { return V16s(_mm_abs_epi16(__m128i(maxOf(a, splat<V16s>(-32767))))); }
 inline V32f absSat(V32f a) {
