@@ -162,15 +162,16 @@ TPX_API TpxStatus tpxiResizeGetSrcRoi_L(const TpxiResizeSpec* pSpec, TpxiPointL 
 
 /* ---- Resize: tpxiResizeNearest, tpxiResizeLinear --------------------------------------------------------
  * Computes one tile of the destination. `pSrc` points at the source pixel that tpxiResizeGetSrcOffset gives
- * for `dstOffset`, `pDst` at the tile's first pixel; steps are in bytes. `border` is tpxBorderReplicate, with
- * a tpxBorderInMem flag for each side beyond which the source goes on in memory, or tpxBorderInMemAll.
- * A tile inside the destination has its inner sides in memory; with truthful flags any tiling gives the
- * same pixels as one call for the whole image. `pBorderValue` is not read and may be null.
+ * for `dstOffset`, `pDst` at the tile's first pixel; steps are in bytes. `border` is tpxBorderReplicate, with a
+ * tpxBorderInMem flag for each side on which the source image goes on beyond the tile's source rectangle (by
+ * the pixels that tpxiResizeGetBorderSize tells), or tpxBorderInMemAll. With truthful flags any tiling gives
+ * the same pixels as one call for the whole image. `pBorderValue` is not read and may be null.
  *
  * Linear blends along rows first, then between rows. 8u: weights of 14 bits, the row blend rounded to 6
  * fraction bits, the result rounded to nearest with halves up; in the rows and columns next to a side
- * without the flag one blend alone is rounded to nearest even. 16u, 16s: single precision, converted with
- * the thread's rounding mode and saturated. 32f, 64f: no rounding beyond the arithmetic's.
+ * without the flag there is one blend u alone, rounded as (u + 8192 + ((u >> 14) & 1)) >> 14. 16u, 16s: single
+ * precision, converted with the thread's rounding mode and saturated. 32f, 64f: no rounding beyond the
+ * arithmetic's.
  *
  * Statuses, in order: tpxErrBorder (linear); tpxErrNullPointer; tpxWarnNoOperation (a size of exactly 0);
  * tpxErrContext (not a plan of this width, or of 64f where it must be or must not); tpxErrSize (below 1);
