@@ -18,37 +18,54 @@ void copyRowBackward(void* dst, const void* src, int64_t bytes);
 // Past the caches, line by line. The ranges do not overlap. The caller fences once, after its last row.
 void copyRowStreaming(void* dst, const void* src, int64_t bytes);
 
-// dst[i] = rule(src[i]) past the caches. The caller fences once, after its last row.
+// dst[i] = rule(src[i], ...) past the caches, from one source or more, none of them the destination. The caller
+// fences once, after its last row.
 //
 // Stores past the caches leave the processor as whole lines if nothing else comes between the parts of a line,
 // so results are gathered in a small block and moved out in one go. Four pages are worked on side by side and
 // their sources fetched ahead, since memory serves several streams faster than one.
-template <class T, class Rule>
-inline void mapRunStreaming(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
-    constexpr ptrdiff_t L = kLanes<T>, kTurn = 128 / sizeof(T), kPage = 4096 / sizeof(T), kAhead = 512;
+//
+// rule(k, x...) is told the register's place in its group of G, as in mapGroups; rest(dst, len, src...) writes
+// what does not fill a turn, into the caches.
+template <int G, class T, class Rule, class Rest, class... Src>
+inline void streamGroups(T* dst, ptrdiff_t len, Rule&& rule, Rest&& rest, const Src*... src) {
+    constexpr ptrdiff_t L = kLanes<T>, kTurn = G * 128 / sizeof(T), kPage = G * 4096 / sizeof(T), kAhead = 512;
+    const auto fetch = [](const auto* p) {
+        for (int line = 0; line < kTurn * int(sizeof(T)); line += kLineBytes)
+            _mm_prefetch(reinterpret_cast<const char*>(p) + kAhead + line, _MM_HINT_T0);
+    };
     const auto turns = [&]<int Pages>(std::integral_constant<int, Pages>, ptrdiff_t at) {
         alignas(kLineBytes) T block[Pages * kTurn];
+        for (int page = 0; page < Pages; page++) (fetch(src + at + page * kPage), ...);
         for (int page = 0; page < Pages; page++)
-            for (int line = 0; line < kTurn * int(sizeof(T)); line += kLineBytes)
-                _mm_prefetch(reinterpret_cast<const char*>(src + at + page * kPage) + kAhead + line,
-                             _MM_HINT_T0);
-        for (int page = 0; page < Pages; page++)
-            for (int i = 0; i < kTurn; i += L)
-                store(block + page * kTurn + i, rule(load(src + at + page * kPage + i)));
+            for (int i = 0; i < kTurn / L; i++)
+                store(block + page * kTurn + i * L, rule(i % G, load(src + at + page * kPage + i * L)...));
         for (int page = 0; page < Pages; page++)
             for (int i = 0; i < kTurn; i += L)
                 streamStore(dst + at + page * kPage + i, load(block + page * kTurn + i));
     };
 
-    // The bulk begins on a line of the destination. In place is not streamed, so the head may go first.
-    const ptrdiff_t head = bytesToLine(dst) / ptrdiff_t(sizeof(T));
-    if (len < head + kTurn || bytesToLine(dst + head) != 0) return mapRun(src, dst, len, rule);
-    if (head) mapRun(src, dst, head, rule);
+    // The bulk begins on a line of the destination and with a group: a line's samples and G have no common
+    // divisor.
+    ptrdiff_t head = bytesToLine(dst) / ptrdiff_t(sizeof(T));
+    while (head % G) head += kLineBytes / ptrdiff_t(sizeof(T));
+    if (len < head + kTurn || bytesToLine(dst + head) != 0) return rest(dst, len, src...);
+    if (head) rest(dst, head, src...);
     ptrdiff_t i = head;
     for (; i + 4 * kPage <= len; i += 4 * kPage)
         for (ptrdiff_t j = 0; j < kPage; j += kTurn) turns(std::integral_constant<int, 4>{}, i + j);
     for (; i + kTurn <= len; i += kTurn) turns(std::integral_constant<int, 1>{}, i);
-    if (i < len) mapRun(src + i, dst + i, len - i, rule);
+    if (i < len) rest(dst + i, len - i, (src + i)...);
+}
+template <class T, class Rule, class... Src>
+inline void streamRun(T* dst, ptrdiff_t len, Rule&& rule, const Src*... src) {
+    streamGroups<1>(
+        dst, len, [&](int, auto... x) { return rule(x...); },
+        [&](T* d, ptrdiff_t n, const Src*... s) { applyRun(d, n, rule, s...); }, src...);
+}
+template <class T, class Rule>
+inline void mapRunStreaming(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
+    streamRun(dst, len, rule, src);
 }
 
 // ---- Fills -------------------------------------------------------------------------------------------------

@@ -36,6 +36,14 @@ inline void copyShort(void* dst, const void* src, ptrdiff_t bytes) {
         ends(Tpx8u{});
 }
 
+// Copies fewer than 96 bytes, which do not overlap.
+inline void copyBlock(void* dst, const void* src, ptrdiff_t bytes) {
+    auto d = static_cast<char*>(dst);
+    auto s = static_cast<const char*>(src);
+    for (; bytes >= 32; bytes -= 32, d += 32, s += 32) __builtin_memcpy(d, s, 32);
+    copyShort(d, s, bytes);
+}
+
 // A register from fewer samples than it holds; the other lanes repeat the first sample.
 template <class T>
 inline Vec<T> loadShort(const T* src, ptrdiff_t len) {
@@ -79,21 +87,29 @@ inline void writeRun(T* dst, ptrdiff_t len, ptrdiff_t begin, At at, Whole whole)
     if (begin) store(dst, head);
 }
 
-// dst[i] = rule(src[i]).
+// dst[i] = rule(src[i], ...), from one source or more. A source may be the destination.
+template <class T, class Rule, class... Src>
+inline void applyRun(T* dst, ptrdiff_t len, Rule&& rule, const Src*... src) {
+    writeRun(
+        dst, len, samplesToBoundary(dst), [&](ptrdiff_t i) { return rule(load(src + i)...); },
+        [&] { return rule(loadShort(src, len)...); });
+}
 template <class T, class Rule>
 inline void mapRun(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
-    writeRun(
-        dst, len, samplesToBoundary(dst), [&](ptrdiff_t i) { return rule(load(src + i)); },
-        [&] { return rule(loadShort(src, len)); });
+    applyRun(dst, len, rule, src);
 }
 
 // The same on pixels of four samples of type T, whose fourth is left as it was. Registers stay on whole pixels.
 // R is T, or float where samples are only moved; the length is in R.
+template <class T, class R, class Rule, class... Src>
+inline void applyColours(R* dst, ptrdiff_t len, Rule&& rule, const Src*... src) {
+    writeRun(
+        dst, len, 0, [&](ptrdiff_t i) { return keepAlpha<T>(load(dst + i), rule(load(src + i)...)); },
+        [&] { return keepAlpha<T>(loadShort(dst, len), rule(loadShort(src, len)...)); });
+}
 template <class T, class R, class Rule>
 inline void mapColours(const R* src, R* dst, ptrdiff_t len, Rule&& rule) {
-    writeRun(
-        dst, len, 0, [&](ptrdiff_t i) { return keepAlpha<T>(load(dst + i), rule(load(src + i))); },
-        [&] { return keepAlpha<T>(loadShort(dst, len), rule(loadShort(src, len))); });
+    applyColours<T>(dst, len, rule, src);
 }
 
 // Moves pixels of four samples of type T but for the fourth.
@@ -103,13 +119,29 @@ inline void moveColours(const T* src, T* dst, ptrdiff_t pixels, Rule&& rule) {
                   pixels * ptrdiff_t(sizeof(T)), rule);
 }
 
-// srcDst[i] = rule(src[i], srcDst[i]).
-template <class T, class Rule>
-inline void mapRun2(const T* src, T* srcDst, ptrdiff_t len, Rule&& rule) {
-    writeRun(
-        srcDst, len, samplesToBoundary(srcDst),
-        [&](ptrdiff_t i) { return rule(load(src + i), load(srcDst + i)); },
-        [&] { return rule(loadShort(src, len), loadShort(srcDst, len)); });
+// dst[i] = rule(src[i], k), where k counts registers within groups of G: rules whose constants repeat with
+// pixels of three samples have three registers of them. Runs are of whole pixels, so a group may begin at the
+// last samples but G registers, too.
+template <int G, class T, class Rule>
+inline void mapGroups(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
+    constexpr ptrdiff_t L = kLanes<T>;
+    const auto group = [&](const T* s, T* d) {
+        Vec<T> v[G];
+        for (int k = 0; k < G; k++) v[k] = rule(load(s + k * L), k);
+        for (int k = 0; k < G; k++) store(d + k * L, v[k]);
+    };
+    if (len < G * L) {
+        T block[G * L] = {};
+        copyBlock(block, src, len * ptrdiff_t(sizeof(T)));
+        group(block, block);
+        copyBlock(dst, block, len * ptrdiff_t(sizeof(T)));
+        return;
+    }
+    T tail[G * L];
+    group(src + len - G * L, tail);
+    ptrdiff_t i = 0;
+    for (; i + G * L <= len; i += G * L) group(src + i, dst + i);
+    if (i < len) __builtin_memcpy(dst + len - G * L, tail, sizeof tail);
 }
 
 // The index of the first sample whose lane of test(x) is set, or -1.

@@ -157,7 +157,7 @@ VECTOR_SLOPE(32f)
 #define EVERY(name, type, rule)                                                             \
     TpxStatus TPXS(name##_##type##_I)(const Tpx##type* pSrc, Tpx##type* pSrcDst, int len) { \
         if (const TpxStatus status = check<Tpx##type>(pSrc, pSrcDst, len)) return status;   \
-        mapRun2(pSrc, pSrcDst, len, rule);                                                  \
+        applyRun(pSrcDst, len, rule, pSrc, pSrcDst);                                        \
         return tpxOk;                                                                       \
     }
 EVERY(MaxEvery, 8u, larger)

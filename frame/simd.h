@@ -198,6 +198,13 @@ inline V32u shiftLeft(V32u a, int n) { return V32u(_mm_sll_epi32(__m128i(a), _mm
 inline V16u shiftRight(V16u a, int n) { return V16u(_mm_srl_epi16(__m128i(a), _mm_cvtsi32_si128(n))); }
 inline V32u shiftRight(V32u a, int n) { return V32u(_mm_srl_epi32(__m128i(a), _mm_cvtsi32_si128(n))); }
 
+inline V32s shiftLeft(V32s a, int n) { return V32s(_mm_sll_epi32(__m128i(a), _mm_cvtsi32_si128(n))); }
+// Arithmetic: a count past the lane's width leaves the sign.
+inline V32s shiftRight(V32s a, int n) { return V32s(_mm_sra_epi32(__m128i(a), _mm_cvtsi32_si128(n))); }
+
+// (a * b + 2^14) >> 15.
+inline V16s multiplyRounded(V16s a, V16s b) { return V16s(_mm_mulhrs_epi16(__m128i(a), __m128i(b))); }
+
 // Sums of the products of neighbouring lanes: a0*b0 + a1*b1, a2*b2 + a3*b3, ...
 inline V32s multiplyAddPairs(V16s a, V16s b) { return V32s(_mm_madd_epi16(__m128i(a), __m128i(b))); }
 
@@ -252,6 +259,11 @@ inline Pair<V16u> multiplyWide(V8u a, V8u b) {
 inline Pair<V32u> multiplyWide(V16u a, V16u b) {
     const __m128i low = _mm_mullo_epi16(__m128i(a), __m128i(b)), high = _mm_mulhi_epu16(__m128i(a), __m128i(b));
     return {V32u(_mm_unpacklo_epi16(low, high)), V32u(_mm_unpackhi_epi16(low, high))};
+}
+
+inline Pair<V32s> multiplyWide(V16s a, V16s b) {
+    const __m128i low = _mm_mullo_epi16(__m128i(a), __m128i(b)), high = _mm_mulhi_epi16(__m128i(a), __m128i(b));
+    return {V32s(_mm_unpacklo_epi16(low, high)), V32s(_mm_unpackhi_epi16(low, high))};
 }
 
 // Saturating narrowing of signed lanes: narrow<Tpx8u>({V16s, V16s}), narrow<Tpx16s>({V32s, V32s}), ...

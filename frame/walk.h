@@ -43,7 +43,8 @@ constexpr ptrdiff_t wholeStep(ptrdiff_t step) {
 // Rows that follow each other without a gap in every image become one: all steps are the row's length in bytes.
 template <class... Steps>
 inline void joinRows(ptrdiff_t& len, ptrdiff_t& height, ptrdiff_t sampleBytes, Steps... steps) {
-    if ((... && (steps == len * sampleBytes))) {
+    const bool gapless = (... && (steps == len * sampleBytes));
+    if (gapless) {
         len *= height;
         height = 1;
     }
@@ -55,6 +56,18 @@ inline void walkRows(const S* src, ptrdiff_t srcStep, D* dst, ptrdiff_t dstStep,
     for (ptrdiff_t y = 0; y < height; y++) {
         row(src, dst);
         src = addBytes(src, srcStep);
+        dst = addBytes(dst, dstStep);
+    }
+}
+
+// Likewise for rows of two sources.
+template <class S, class D, class Row>
+inline void walkRows(const S* src1, ptrdiff_t src1Step, const S* src2, ptrdiff_t src2Step, D* dst,
+                     ptrdiff_t dstStep, ptrdiff_t height, Row row) {
+    for (ptrdiff_t y = 0; y < height; y++) {
+        row(src1, src2, dst);
+        src1 = addBytes(src1, src1Step);
+        src2 = addBytes(src2, src2Step);
         dst = addBytes(dst, dstStep);
     }
 }

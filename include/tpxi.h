@@ -24,5 +24,6 @@
 #include "tpxi/arithmetic.h"
 #include "tpxi/geometry.h"
 #include "tpxi/movement.h"
+#include "tpxi/threshold.h"
 
 #endif

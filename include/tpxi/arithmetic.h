@@ -177,6 +177,444 @@ TPX_API TpxStatus tpxiExp_32f_C1IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize roi
 TPX_API TpxStatus tpxiExp_32f_C3R(const Tpx32f* pSrc, int srcStep, Tpx32f* pDst, int dstStep, TpxiSize roiSize);
 TPX_API TpxStatus tpxiExp_32f_C3IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize roiSize);
 
+/* ---- Scaled binary arithmetic: tpxiAdd, tpxiSub, tpxiMul ---------------------------------------------
+ * Combines two images sample by sample: the sum, the second source less the first (in place: pSrcDst less
+ * pSrc), the product. Integer forms (Sfs) give the exact result times 2^-scaleFactor, rounded to nearest with
+ * ties to even and saturated, for every scale factor; float forms are the plain operations of single precision.
+ * Unsigned differences below 0 give 0. AC4 keeps the destination's fourth channel. Steps are in bytes and are
+ * not tested: 0 and negative steps walk the memory as given. In place each sample is read before it is written;
+ * otherwise images do not overlap.
+ *
+ * Statuses of C1 and AC4, in order: tpxErrNullPointer; tpxErrSize (width or height below 1); tpxOk. C3 and C4:
+ * the width first, tpxErrSize.
+ *
+ * _L: sizes and steps of 64 bits. A call whose steps and bytes are below 2^31 - 1 in magnitude has the statuses
+ * of the short form. A larger one: tpxOk for a width or height below 1, whatever the pointers;
+ * tpxErrNullPointer; tpxOk. */
+
+TPX_API TpxStatus tpxiAdd_8u_C1RSfs(const Tpx8u* pSrc1, int src1Step, const Tpx8u* pSrc2, int src2Step,
+                                    Tpx8u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_8u_C1IRSfs(const Tpx8u* pSrc, int srcStep, Tpx8u* pSrcDst, int srcDstStep,
+                                     TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_8u_C3RSfs(const Tpx8u* pSrc1, int src1Step, const Tpx8u* pSrc2, int src2Step,
+                                    Tpx8u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_8u_C3IRSfs(const Tpx8u* pSrc, int srcStep, Tpx8u* pSrcDst, int srcDstStep,
+                                     TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_8u_C4RSfs(const Tpx8u* pSrc1, int src1Step, const Tpx8u* pSrc2, int src2Step,
+                                    Tpx8u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_8u_C4IRSfs(const Tpx8u* pSrc, int srcStep, Tpx8u* pSrcDst, int srcDstStep,
+                                     TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_8u_AC4RSfs(const Tpx8u* pSrc1, int src1Step, const Tpx8u* pSrc2, int src2Step,
+                                     Tpx8u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_8u_AC4IRSfs(const Tpx8u* pSrc, int srcStep, Tpx8u* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_C1RSfs(const Tpx16u* pSrc1, int src1Step, const Tpx16u* pSrc2, int src2Step,
+                                     Tpx16u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_C1IRSfs(const Tpx16u* pSrc, int srcStep, Tpx16u* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_C3RSfs(const Tpx16u* pSrc1, int src1Step, const Tpx16u* pSrc2, int src2Step,
+                                     Tpx16u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_C3IRSfs(const Tpx16u* pSrc, int srcStep, Tpx16u* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_C4RSfs(const Tpx16u* pSrc1, int src1Step, const Tpx16u* pSrc2, int src2Step,
+                                     Tpx16u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_C4IRSfs(const Tpx16u* pSrc, int srcStep, Tpx16u* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_AC4RSfs(const Tpx16u* pSrc1, int src1Step, const Tpx16u* pSrc2, int src2Step,
+                                      Tpx16u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_AC4IRSfs(const Tpx16u* pSrc, int srcStep, Tpx16u* pSrcDst, int srcDstStep,
+                                       TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_C1RSfs(const Tpx16s* pSrc1, int src1Step, const Tpx16s* pSrc2, int src2Step,
+                                     Tpx16s* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_C1IRSfs(const Tpx16s* pSrc, int srcStep, Tpx16s* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_C3RSfs(const Tpx16s* pSrc1, int src1Step, const Tpx16s* pSrc2, int src2Step,
+                                     Tpx16s* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_C3IRSfs(const Tpx16s* pSrc, int srcStep, Tpx16s* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_C4RSfs(const Tpx16s* pSrc1, int src1Step, const Tpx16s* pSrc2, int src2Step,
+                                     Tpx16s* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_C4IRSfs(const Tpx16s* pSrc, int srcStep, Tpx16s* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_AC4RSfs(const Tpx16s* pSrc1, int src1Step, const Tpx16s* pSrc2, int src2Step,
+                                      Tpx16s* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_AC4IRSfs(const Tpx16s* pSrc, int srcStep, Tpx16s* pSrcDst, int srcDstStep,
+                                       TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_32f_C1R(const Tpx32f* pSrc1, int src1Step, const Tpx32f* pSrc2, int src2Step,
+                                  Tpx32f* pDst, int dstStep, TpxiSize roiSize);
+TPX_API TpxStatus tpxiAdd_32f_C1IR(const Tpx32f* pSrc, int srcStep, Tpx32f* pSrcDst, int srcDstStep,
+                                   TpxiSize roiSize);
+TPX_API TpxStatus tpxiAdd_32f_C3R(const Tpx32f* pSrc1, int src1Step, const Tpx32f* pSrc2, int src2Step,
+                                  Tpx32f* pDst, int dstStep, TpxiSize roiSize);
+TPX_API TpxStatus tpxiAdd_32f_C3IR(const Tpx32f* pSrc, int srcStep, Tpx32f* pSrcDst, int srcDstStep,
+                                   TpxiSize roiSize);
+TPX_API TpxStatus tpxiAdd_32f_C4R(const Tpx32f* pSrc1, int src1Step, const Tpx32f* pSrc2, int src2Step,
+                                  Tpx32f* pDst, int dstStep, TpxiSize roiSize);
+TPX_API TpxStatus tpxiAdd_32f_C4IR(const Tpx32f* pSrc, int srcStep, Tpx32f* pSrcDst, int srcDstStep,
+                                   TpxiSize roiSize);
+TPX_API TpxStatus tpxiAdd_32f_AC4R(const Tpx32f* pSrc1, int src1Step, const Tpx32f* pSrc2, int src2Step,
+                                   Tpx32f* pDst, int dstStep, TpxiSize roiSize);
+TPX_API TpxStatus tpxiAdd_32f_AC4IR(const Tpx32f* pSrc, int srcStep, Tpx32f* pSrcDst, int srcDstStep,
+                                    TpxiSize roiSize);
+TPX_API TpxStatus tpxiAdd_8u_C1RSfs_L(const Tpx8u* pSrc1, TpxSizeL src1Step, const Tpx8u* pSrc2,
+                                      TpxSizeL src2Step, Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                      int scaleFactor);
+TPX_API TpxStatus tpxiAdd_8u_C1IRSfs_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pSrcDst, TpxSizeL srcDstStep,
+                                       TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_8u_C3RSfs_L(const Tpx8u* pSrc1, TpxSizeL src1Step, const Tpx8u* pSrc2,
+                                      TpxSizeL src2Step, Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                      int scaleFactor);
+TPX_API TpxStatus tpxiAdd_8u_C3IRSfs_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pSrcDst, TpxSizeL srcDstStep,
+                                       TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_8u_C4RSfs_L(const Tpx8u* pSrc1, TpxSizeL src1Step, const Tpx8u* pSrc2,
+                                      TpxSizeL src2Step, Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                      int scaleFactor);
+TPX_API TpxStatus tpxiAdd_8u_C4IRSfs_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pSrcDst, TpxSizeL srcDstStep,
+                                       TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_8u_AC4RSfs_L(const Tpx8u* pSrc1, TpxSizeL src1Step, const Tpx8u* pSrc2,
+                                       TpxSizeL src2Step, Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiAdd_8u_AC4IRSfs_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_C1RSfs_L(const Tpx16u* pSrc1, TpxSizeL src1Step, const Tpx16u* pSrc2,
+                                       TpxSizeL src2Step, Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_C1IRSfs_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_C3RSfs_L(const Tpx16u* pSrc1, TpxSizeL src1Step, const Tpx16u* pSrc2,
+                                       TpxSizeL src2Step, Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_C3IRSfs_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_C4RSfs_L(const Tpx16u* pSrc1, TpxSizeL src1Step, const Tpx16u* pSrc2,
+                                       TpxSizeL src2Step, Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_C4IRSfs_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_AC4RSfs_L(const Tpx16u* pSrc1, TpxSizeL src1Step, const Tpx16u* pSrc2,
+                                        TpxSizeL src2Step, Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                        int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16u_AC4IRSfs_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pSrcDst,
+                                         TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_C1RSfs_L(const Tpx16s* pSrc1, TpxSizeL src1Step, const Tpx16s* pSrc2,
+                                       TpxSizeL src2Step, Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_C1IRSfs_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_C3RSfs_L(const Tpx16s* pSrc1, TpxSizeL src1Step, const Tpx16s* pSrc2,
+                                       TpxSizeL src2Step, Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_C3IRSfs_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_C4RSfs_L(const Tpx16s* pSrc1, TpxSizeL src1Step, const Tpx16s* pSrc2,
+                                       TpxSizeL src2Step, Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_C4IRSfs_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_AC4RSfs_L(const Tpx16s* pSrc1, TpxSizeL src1Step, const Tpx16s* pSrc2,
+                                        TpxSizeL src2Step, Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                        int scaleFactor);
+TPX_API TpxStatus tpxiAdd_16s_AC4IRSfs_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pSrcDst,
+                                         TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiAdd_32f_C1R_L(const Tpx32f* pSrc1, TpxSizeL src1Step, const Tpx32f* pSrc2,
+                                    TpxSizeL src2Step, Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiAdd_32f_C1IR_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pSrcDst, TpxSizeL srcDstStep,
+                                     TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiAdd_32f_C3R_L(const Tpx32f* pSrc1, TpxSizeL src1Step, const Tpx32f* pSrc2,
+                                    TpxSizeL src2Step, Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiAdd_32f_C3IR_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pSrcDst, TpxSizeL srcDstStep,
+                                     TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiAdd_32f_C4R_L(const Tpx32f* pSrc1, TpxSizeL src1Step, const Tpx32f* pSrc2,
+                                    TpxSizeL src2Step, Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiAdd_32f_C4IR_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pSrcDst, TpxSizeL srcDstStep,
+                                     TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiAdd_32f_AC4R_L(const Tpx32f* pSrc1, TpxSizeL src1Step, const Tpx32f* pSrc2,
+                                     TpxSizeL src2Step, Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiAdd_32f_AC4IR_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pSrcDst,
+                                      TpxSizeL srcDstStep, TpxiSizeL roiSize);
+
+TPX_API TpxStatus tpxiSub_8u_C1RSfs(const Tpx8u* pSrc1, int src1Step, const Tpx8u* pSrc2, int src2Step,
+                                    Tpx8u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_8u_C1IRSfs(const Tpx8u* pSrc, int srcStep, Tpx8u* pSrcDst, int srcDstStep,
+                                     TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_8u_C3RSfs(const Tpx8u* pSrc1, int src1Step, const Tpx8u* pSrc2, int src2Step,
+                                    Tpx8u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_8u_C3IRSfs(const Tpx8u* pSrc, int srcStep, Tpx8u* pSrcDst, int srcDstStep,
+                                     TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_8u_C4RSfs(const Tpx8u* pSrc1, int src1Step, const Tpx8u* pSrc2, int src2Step,
+                                    Tpx8u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_8u_C4IRSfs(const Tpx8u* pSrc, int srcStep, Tpx8u* pSrcDst, int srcDstStep,
+                                     TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_8u_AC4RSfs(const Tpx8u* pSrc1, int src1Step, const Tpx8u* pSrc2, int src2Step,
+                                     Tpx8u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_8u_AC4IRSfs(const Tpx8u* pSrc, int srcStep, Tpx8u* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_C1RSfs(const Tpx16u* pSrc1, int src1Step, const Tpx16u* pSrc2, int src2Step,
+                                     Tpx16u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_C1IRSfs(const Tpx16u* pSrc, int srcStep, Tpx16u* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_C3RSfs(const Tpx16u* pSrc1, int src1Step, const Tpx16u* pSrc2, int src2Step,
+                                     Tpx16u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_C3IRSfs(const Tpx16u* pSrc, int srcStep, Tpx16u* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_C4RSfs(const Tpx16u* pSrc1, int src1Step, const Tpx16u* pSrc2, int src2Step,
+                                     Tpx16u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_C4IRSfs(const Tpx16u* pSrc, int srcStep, Tpx16u* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_AC4RSfs(const Tpx16u* pSrc1, int src1Step, const Tpx16u* pSrc2, int src2Step,
+                                      Tpx16u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_AC4IRSfs(const Tpx16u* pSrc, int srcStep, Tpx16u* pSrcDst, int srcDstStep,
+                                       TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_C1RSfs(const Tpx16s* pSrc1, int src1Step, const Tpx16s* pSrc2, int src2Step,
+                                     Tpx16s* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_C1IRSfs(const Tpx16s* pSrc, int srcStep, Tpx16s* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_C3RSfs(const Tpx16s* pSrc1, int src1Step, const Tpx16s* pSrc2, int src2Step,
+                                     Tpx16s* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_C3IRSfs(const Tpx16s* pSrc, int srcStep, Tpx16s* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_C4RSfs(const Tpx16s* pSrc1, int src1Step, const Tpx16s* pSrc2, int src2Step,
+                                     Tpx16s* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_C4IRSfs(const Tpx16s* pSrc, int srcStep, Tpx16s* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_AC4RSfs(const Tpx16s* pSrc1, int src1Step, const Tpx16s* pSrc2, int src2Step,
+                                      Tpx16s* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_AC4IRSfs(const Tpx16s* pSrc, int srcStep, Tpx16s* pSrcDst, int srcDstStep,
+                                       TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_32f_C1R(const Tpx32f* pSrc1, int src1Step, const Tpx32f* pSrc2, int src2Step,
+                                  Tpx32f* pDst, int dstStep, TpxiSize roiSize);
+TPX_API TpxStatus tpxiSub_32f_C1IR(const Tpx32f* pSrc, int srcStep, Tpx32f* pSrcDst, int srcDstStep,
+                                   TpxiSize roiSize);
+TPX_API TpxStatus tpxiSub_32f_C3R(const Tpx32f* pSrc1, int src1Step, const Tpx32f* pSrc2, int src2Step,
+                                  Tpx32f* pDst, int dstStep, TpxiSize roiSize);
+TPX_API TpxStatus tpxiSub_32f_C3IR(const Tpx32f* pSrc, int srcStep, Tpx32f* pSrcDst, int srcDstStep,
+                                   TpxiSize roiSize);
+TPX_API TpxStatus tpxiSub_32f_C4R(const Tpx32f* pSrc1, int src1Step, const Tpx32f* pSrc2, int src2Step,
+                                  Tpx32f* pDst, int dstStep, TpxiSize roiSize);
+TPX_API TpxStatus tpxiSub_32f_C4IR(const Tpx32f* pSrc, int srcStep, Tpx32f* pSrcDst, int srcDstStep,
+                                   TpxiSize roiSize);
+TPX_API TpxStatus tpxiSub_32f_AC4R(const Tpx32f* pSrc1, int src1Step, const Tpx32f* pSrc2, int src2Step,
+                                   Tpx32f* pDst, int dstStep, TpxiSize roiSize);
+TPX_API TpxStatus tpxiSub_32f_AC4IR(const Tpx32f* pSrc, int srcStep, Tpx32f* pSrcDst, int srcDstStep,
+                                    TpxiSize roiSize);
+TPX_API TpxStatus tpxiSub_8u_C1RSfs_L(const Tpx8u* pSrc1, TpxSizeL src1Step, const Tpx8u* pSrc2,
+                                      TpxSizeL src2Step, Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                      int scaleFactor);
+TPX_API TpxStatus tpxiSub_8u_C1IRSfs_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pSrcDst, TpxSizeL srcDstStep,
+                                       TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_8u_C3RSfs_L(const Tpx8u* pSrc1, TpxSizeL src1Step, const Tpx8u* pSrc2,
+                                      TpxSizeL src2Step, Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                      int scaleFactor);
+TPX_API TpxStatus tpxiSub_8u_C3IRSfs_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pSrcDst, TpxSizeL srcDstStep,
+                                       TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_8u_C4RSfs_L(const Tpx8u* pSrc1, TpxSizeL src1Step, const Tpx8u* pSrc2,
+                                      TpxSizeL src2Step, Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                      int scaleFactor);
+TPX_API TpxStatus tpxiSub_8u_C4IRSfs_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pSrcDst, TpxSizeL srcDstStep,
+                                       TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_8u_AC4RSfs_L(const Tpx8u* pSrc1, TpxSizeL src1Step, const Tpx8u* pSrc2,
+                                       TpxSizeL src2Step, Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiSub_8u_AC4IRSfs_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_C1RSfs_L(const Tpx16u* pSrc1, TpxSizeL src1Step, const Tpx16u* pSrc2,
+                                       TpxSizeL src2Step, Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_C1IRSfs_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_C3RSfs_L(const Tpx16u* pSrc1, TpxSizeL src1Step, const Tpx16u* pSrc2,
+                                       TpxSizeL src2Step, Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_C3IRSfs_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_C4RSfs_L(const Tpx16u* pSrc1, TpxSizeL src1Step, const Tpx16u* pSrc2,
+                                       TpxSizeL src2Step, Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_C4IRSfs_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_AC4RSfs_L(const Tpx16u* pSrc1, TpxSizeL src1Step, const Tpx16u* pSrc2,
+                                        TpxSizeL src2Step, Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                        int scaleFactor);
+TPX_API TpxStatus tpxiSub_16u_AC4IRSfs_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pSrcDst,
+                                         TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_C1RSfs_L(const Tpx16s* pSrc1, TpxSizeL src1Step, const Tpx16s* pSrc2,
+                                       TpxSizeL src2Step, Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_C1IRSfs_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_C3RSfs_L(const Tpx16s* pSrc1, TpxSizeL src1Step, const Tpx16s* pSrc2,
+                                       TpxSizeL src2Step, Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_C3IRSfs_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_C4RSfs_L(const Tpx16s* pSrc1, TpxSizeL src1Step, const Tpx16s* pSrc2,
+                                       TpxSizeL src2Step, Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_C4IRSfs_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_AC4RSfs_L(const Tpx16s* pSrc1, TpxSizeL src1Step, const Tpx16s* pSrc2,
+                                        TpxSizeL src2Step, Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                        int scaleFactor);
+TPX_API TpxStatus tpxiSub_16s_AC4IRSfs_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pSrcDst,
+                                         TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiSub_32f_C1R_L(const Tpx32f* pSrc1, TpxSizeL src1Step, const Tpx32f* pSrc2,
+                                    TpxSizeL src2Step, Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiSub_32f_C1IR_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pSrcDst, TpxSizeL srcDstStep,
+                                     TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiSub_32f_C3R_L(const Tpx32f* pSrc1, TpxSizeL src1Step, const Tpx32f* pSrc2,
+                                    TpxSizeL src2Step, Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiSub_32f_C3IR_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pSrcDst, TpxSizeL srcDstStep,
+                                     TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiSub_32f_C4R_L(const Tpx32f* pSrc1, TpxSizeL src1Step, const Tpx32f* pSrc2,
+                                    TpxSizeL src2Step, Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiSub_32f_C4IR_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pSrcDst, TpxSizeL srcDstStep,
+                                     TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiSub_32f_AC4R_L(const Tpx32f* pSrc1, TpxSizeL src1Step, const Tpx32f* pSrc2,
+                                     TpxSizeL src2Step, Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiSub_32f_AC4IR_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pSrcDst,
+                                      TpxSizeL srcDstStep, TpxiSizeL roiSize);
+
+TPX_API TpxStatus tpxiMul_8u_C1RSfs(const Tpx8u* pSrc1, int src1Step, const Tpx8u* pSrc2, int src2Step,
+                                    Tpx8u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_8u_C1IRSfs(const Tpx8u* pSrc, int srcStep, Tpx8u* pSrcDst, int srcDstStep,
+                                     TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_8u_C3RSfs(const Tpx8u* pSrc1, int src1Step, const Tpx8u* pSrc2, int src2Step,
+                                    Tpx8u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_8u_C3IRSfs(const Tpx8u* pSrc, int srcStep, Tpx8u* pSrcDst, int srcDstStep,
+                                     TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_8u_C4RSfs(const Tpx8u* pSrc1, int src1Step, const Tpx8u* pSrc2, int src2Step,
+                                    Tpx8u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_8u_C4IRSfs(const Tpx8u* pSrc, int srcStep, Tpx8u* pSrcDst, int srcDstStep,
+                                     TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_8u_AC4RSfs(const Tpx8u* pSrc1, int src1Step, const Tpx8u* pSrc2, int src2Step,
+                                     Tpx8u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_8u_AC4IRSfs(const Tpx8u* pSrc, int srcStep, Tpx8u* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_C1RSfs(const Tpx16u* pSrc1, int src1Step, const Tpx16u* pSrc2, int src2Step,
+                                     Tpx16u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_C1IRSfs(const Tpx16u* pSrc, int srcStep, Tpx16u* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_C3RSfs(const Tpx16u* pSrc1, int src1Step, const Tpx16u* pSrc2, int src2Step,
+                                     Tpx16u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_C3IRSfs(const Tpx16u* pSrc, int srcStep, Tpx16u* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_C4RSfs(const Tpx16u* pSrc1, int src1Step, const Tpx16u* pSrc2, int src2Step,
+                                     Tpx16u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_C4IRSfs(const Tpx16u* pSrc, int srcStep, Tpx16u* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_AC4RSfs(const Tpx16u* pSrc1, int src1Step, const Tpx16u* pSrc2, int src2Step,
+                                      Tpx16u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_AC4IRSfs(const Tpx16u* pSrc, int srcStep, Tpx16u* pSrcDst, int srcDstStep,
+                                       TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_C1RSfs(const Tpx16s* pSrc1, int src1Step, const Tpx16s* pSrc2, int src2Step,
+                                     Tpx16s* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_C1IRSfs(const Tpx16s* pSrc, int srcStep, Tpx16s* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_C3RSfs(const Tpx16s* pSrc1, int src1Step, const Tpx16s* pSrc2, int src2Step,
+                                     Tpx16s* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_C3IRSfs(const Tpx16s* pSrc, int srcStep, Tpx16s* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_C4RSfs(const Tpx16s* pSrc1, int src1Step, const Tpx16s* pSrc2, int src2Step,
+                                     Tpx16s* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_C4IRSfs(const Tpx16s* pSrc, int srcStep, Tpx16s* pSrcDst, int srcDstStep,
+                                      TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_AC4RSfs(const Tpx16s* pSrc1, int src1Step, const Tpx16s* pSrc2, int src2Step,
+                                      Tpx16s* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_AC4IRSfs(const Tpx16s* pSrc, int srcStep, Tpx16s* pSrcDst, int srcDstStep,
+                                       TpxiSize roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_32f_C1R(const Tpx32f* pSrc1, int src1Step, const Tpx32f* pSrc2, int src2Step,
+                                  Tpx32f* pDst, int dstStep, TpxiSize roiSize);
+TPX_API TpxStatus tpxiMul_32f_C1IR(const Tpx32f* pSrc, int srcStep, Tpx32f* pSrcDst, int srcDstStep,
+                                   TpxiSize roiSize);
+TPX_API TpxStatus tpxiMul_32f_C3R(const Tpx32f* pSrc1, int src1Step, const Tpx32f* pSrc2, int src2Step,
+                                  Tpx32f* pDst, int dstStep, TpxiSize roiSize);
+TPX_API TpxStatus tpxiMul_32f_C3IR(const Tpx32f* pSrc, int srcStep, Tpx32f* pSrcDst, int srcDstStep,
+                                   TpxiSize roiSize);
+TPX_API TpxStatus tpxiMul_32f_C4R(const Tpx32f* pSrc1, int src1Step, const Tpx32f* pSrc2, int src2Step,
+                                  Tpx32f* pDst, int dstStep, TpxiSize roiSize);
+TPX_API TpxStatus tpxiMul_32f_C4IR(const Tpx32f* pSrc, int srcStep, Tpx32f* pSrcDst, int srcDstStep,
+                                   TpxiSize roiSize);
+TPX_API TpxStatus tpxiMul_32f_AC4R(const Tpx32f* pSrc1, int src1Step, const Tpx32f* pSrc2, int src2Step,
+                                   Tpx32f* pDst, int dstStep, TpxiSize roiSize);
+TPX_API TpxStatus tpxiMul_32f_AC4IR(const Tpx32f* pSrc, int srcStep, Tpx32f* pSrcDst, int srcDstStep,
+                                    TpxiSize roiSize);
+TPX_API TpxStatus tpxiMul_8u_C1RSfs_L(const Tpx8u* pSrc1, TpxSizeL src1Step, const Tpx8u* pSrc2,
+                                      TpxSizeL src2Step, Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                      int scaleFactor);
+TPX_API TpxStatus tpxiMul_8u_C1IRSfs_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pSrcDst, TpxSizeL srcDstStep,
+                                       TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_8u_C3RSfs_L(const Tpx8u* pSrc1, TpxSizeL src1Step, const Tpx8u* pSrc2,
+                                      TpxSizeL src2Step, Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                      int scaleFactor);
+TPX_API TpxStatus tpxiMul_8u_C3IRSfs_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pSrcDst, TpxSizeL srcDstStep,
+                                       TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_8u_C4RSfs_L(const Tpx8u* pSrc1, TpxSizeL src1Step, const Tpx8u* pSrc2,
+                                      TpxSizeL src2Step, Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                      int scaleFactor);
+TPX_API TpxStatus tpxiMul_8u_C4IRSfs_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pSrcDst, TpxSizeL srcDstStep,
+                                       TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_8u_AC4RSfs_L(const Tpx8u* pSrc1, TpxSizeL src1Step, const Tpx8u* pSrc2,
+                                       TpxSizeL src2Step, Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiMul_8u_AC4IRSfs_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_C1RSfs_L(const Tpx16u* pSrc1, TpxSizeL src1Step, const Tpx16u* pSrc2,
+                                       TpxSizeL src2Step, Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_C1IRSfs_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_C3RSfs_L(const Tpx16u* pSrc1, TpxSizeL src1Step, const Tpx16u* pSrc2,
+                                       TpxSizeL src2Step, Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_C3IRSfs_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_C4RSfs_L(const Tpx16u* pSrc1, TpxSizeL src1Step, const Tpx16u* pSrc2,
+                                       TpxSizeL src2Step, Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_C4IRSfs_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_AC4RSfs_L(const Tpx16u* pSrc1, TpxSizeL src1Step, const Tpx16u* pSrc2,
+                                        TpxSizeL src2Step, Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                        int scaleFactor);
+TPX_API TpxStatus tpxiMul_16u_AC4IRSfs_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pSrcDst,
+                                         TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_C1RSfs_L(const Tpx16s* pSrc1, TpxSizeL src1Step, const Tpx16s* pSrc2,
+                                       TpxSizeL src2Step, Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_C1IRSfs_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_C3RSfs_L(const Tpx16s* pSrc1, TpxSizeL src1Step, const Tpx16s* pSrc2,
+                                       TpxSizeL src2Step, Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_C3IRSfs_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_C4RSfs_L(const Tpx16s* pSrc1, TpxSizeL src1Step, const Tpx16s* pSrc2,
+                                       TpxSizeL src2Step, Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                       int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_C4IRSfs_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pSrcDst,
+                                        TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_AC4RSfs_L(const Tpx16s* pSrc1, TpxSizeL src1Step, const Tpx16s* pSrc2,
+                                        TpxSizeL src2Step, Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL roiSize,
+                                        int scaleFactor);
+TPX_API TpxStatus tpxiMul_16s_AC4IRSfs_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pSrcDst,
+                                         TpxSizeL srcDstStep, TpxiSizeL roiSize, int scaleFactor);
+TPX_API TpxStatus tpxiMul_32f_C1R_L(const Tpx32f* pSrc1, TpxSizeL src1Step, const Tpx32f* pSrc2,
+                                    TpxSizeL src2Step, Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiMul_32f_C1IR_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pSrcDst, TpxSizeL srcDstStep,
+                                     TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiMul_32f_C3R_L(const Tpx32f* pSrc1, TpxSizeL src1Step, const Tpx32f* pSrc2,
+                                    TpxSizeL src2Step, Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiMul_32f_C3IR_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pSrcDst, TpxSizeL srcDstStep,
+                                     TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiMul_32f_C4R_L(const Tpx32f* pSrc1, TpxSizeL src1Step, const Tpx32f* pSrc2,
+                                    TpxSizeL src2Step, Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiMul_32f_C4IR_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pSrcDst, TpxSizeL srcDstStep,
+                                     TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiMul_32f_AC4R_L(const Tpx32f* pSrc1, TpxSizeL src1Step, const Tpx32f* pSrc2,
+                                     TpxSizeL src2Step, Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL roiSize);
+TPX_API TpxStatus tpxiMul_32f_AC4IR_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pSrcDst,
+                                      TpxSizeL srcDstStep, TpxiSizeL roiSize);
+
 TPX_EXTERN_C_END
 
 #endif
