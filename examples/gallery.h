@@ -1,0 +1,74 @@
+// The sheet, and the table of what was run for it.
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "sheet.h"
+
+constexpr int kThreads = 2;
+constexpr int kRuns = 7;
+
+inline std::string text(TpxiSize size) {
+    return std::to_string(size.width) + " x " + std::to_string(size.height);
+}
+
+// The least time of a few runs, in milliseconds: the one that other work on the machine disturbed least.
+template <class Run>
+double bestTime(Run run) {
+    double best = HUGE_VAL;
+    for (int i = 0; i < kRuns; ++i) {
+        const auto start = std::chrono::steady_clock::now();
+        run();
+        best = std::min(
+            best, std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
+    }
+    return best;
+}
+
+struct Operation {
+    std::string name;
+    const char* function;
+    TpxiSize src;
+    TpxiSize dst;
+    int threads;
+    double ms;
+};
+
+class Gallery {
+ public:
+    explicit Gallery(Sheet& sheet) : sheet_(sheet) {}
+
+    void show(ConstPixels picture, Operation op) {
+        char time[64];
+        std::snprintf(time, sizeof time, "%d thread%s, %.3f ms", op.threads, op.threads == 1 ? "" : "s", op.ms);
+        const bool resized = op.src.width != op.dst.width || op.src.height != op.dst.height;
+        const std::string sizes = resized ? text(op.src) + " to " + text(op.dst) : text(op.dst);
+        sheet_.add(picture, {op.name, op.function, sizes, time});
+        operations_.push_back(std::move(op));
+    }
+
+    void print() const {
+        std::printf("%-30s %-32s %13s %13s %8s %10s\n", "operation", "function", "source", "destination",
+                    "threads", "time (ms)");
+        for (const Operation& op : operations_)
+            std::printf("%-30s %-32s %13s %13s %8d %10.3f\n", op.name.c_str(), op.function,
+                        text(op.src).c_str(), text(op.dst).c_str(), op.threads, op.ms);
+    }
+
+    Sheet& sheet() { return sheet_; }
+
+ private:
+    Sheet& sheet_;
+    std::vector<Operation> operations_;
+};
+
+// The sections of the sheet, by family.
+void resizes(Gallery& gallery, const Image8u& source);
+void toneCurves(Gallery& gallery, const Image8u& source);
+void twoImages(Gallery& gallery, const Image8u& source);
+void thresholds(Gallery& gallery, const Image8u& source);
