@@ -8,6 +8,12 @@ namespace {
 // ---- Rules: what happens on either side of a threshold. The order of operands decides what NaN gives.
 // ---------
 
+// Integers: where clamping changed a sample it left the threshold, which is exchanged for the value.
+template <class V>
+V exchange(V x, V clamped, V threshold, V value) {
+    return clamped ^ (V(clamped != x) & (threshold ^ value));
+}
+
 struct Above {
     template <class V>
     static V clamp(V x, V threshold) {
@@ -15,6 +21,9 @@ struct Above {
     }
     template <class V>
     static V replace(V x, V threshold, V value) {
+        return exchange(x, clamp(x, threshold), threshold, value);
+    }
+    static V32f replace(V32f x, V32f threshold, V32f value) {
         return threshold < x ? value : x; // NaN stays
     }
 };
@@ -26,9 +35,24 @@ struct Below {
     }
     template <class V>
     static V replace(V x, V threshold, V value) {
+        return exchange(x, clamp(x, threshold), threshold, value);
+    }
+    static V32f replace(V32f x, V32f threshold, V32f value) {
         return threshold <= x ? x : value; // NaN gives the value
     }
 };
+
+// A replaced sample is not compared again: clamping to the lower threshold, which is not above the upper one,
+// keeps it from the upper one.
+template <class V>
+V replaceOutside(V x, V low, V lowValue, V high, V highValue) {
+    const V raised = Below::clamp(x, low), clamped = Above::clamp(raised, high);
+    return exchange(raised, clamped, high, highValue) ^ (V(raised != x) & (low ^ lowValue));
+}
+inline V32f replaceOutside(V32f x, V32f low, V32f lowValue, V32f high, V32f highValue) {
+    const V32f upper = Above::replace(x, high, highValue);
+    return low <= x ? upper : lowValue; // the lower threshold has the last word: NaN gives its value
+}
 
 // ---- One walk for all layouts
 // ----------------------------------------------------------------------------------
@@ -88,9 +112,11 @@ void mapImages(const Images<T>& images, Rule rule) {
             else
                 mapGroups<kGroup<L>>(from, to, n, rule);
         };
+        // A line that is streamed begins with a pixel of four only if the row does.
+        const bool linesOfPixels = L != Layout::C4 || reinterpret_cast<uintptr_t>(d) % (4 * sizeof(T)) == 0;
         if constexpr (L == Layout::AC4)
             mapColours<T>(s, d, len, single);
-        else if (stream)
+        else if (stream && linesOfPixels)
             streamGroups<kGroup<L>>(
                 d, len, [&](int k, auto x) { return rule(x, k); }, cached, s);
         else
@@ -142,12 +168,9 @@ TpxStatus replaceBoth(const Images<T>& images, const T* thresholdLT, const T* va
     for (int c = 0; c < (L == Layout::C1 ? 1 : 3); c++)
         if (thresholdGT[c] < thresholdLT[c]) return tpxErrThresholdBounds;
     using C = Constant<L, T>;
-    mapImages<L>(images, [low = C(thresholdLT), lowValue = C(valueLT), high = C(thresholdGT),
-                          highValue = C(valueGT)](auto x, int k) {
-        // A replaced sample is not compared again; the lower threshold has the last word.
-        const auto upper = Above::replace(x, high[k], highValue[k]);
-        return low[k] <= x ? upper : lowValue[k];
-    });
+    mapImages<L>(images,
+                 [low = C(thresholdLT), lowValue = C(valueLT), high = C(thresholdGT), highValue = C(valueGT)](
+                     auto x, int k) { return replaceOutside(x, low[k], lowValue[k], high[k], highValue[k]); });
     return tpxOk;
 }
 
