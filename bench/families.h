@@ -5,6 +5,8 @@ namespace bench {
 
 void addCopies();
 void addUnary();
+void addBinary();
+void addThresholds();
 void addResizes();
 
 } // namespace bench

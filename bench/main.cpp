@@ -106,6 +106,8 @@ int run(int argc, char** argv) {
     }
     addCopies();
     addUnary();
+    addBinary();
+    addThresholds();
     addResizes();
     Progress progress;
     benchmark::RunSpecifiedBenchmarks(&progress);

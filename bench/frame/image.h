@@ -70,13 +70,17 @@ class Image {
 
 // The copy that everything is held against: the same bytes with the same steps, in one piece where rows are.
 template <typename T>
-void copyImage(const Image<T>& src, const Image<T>& dst) {
+void copyRows(const Image<T>& src, const Image<T>& dst, int rows) {
     const size_t length = src.rowBytes();
     if (length == static_cast<size_t>(src.step()) && src.step() == dst.step()) {
-        std::memcpy(dst.data(), src.data(), length * src.size().height);
+        std::memcpy(dst.data(), src.data(), length * rows);
         return;
     }
-    for (int y = 0; y < src.size().height; ++y) std::memcpy(dst.row(y), src.row(y), length);
+    for (int y = 0; y < rows; ++y) std::memcpy(dst.row(y), src.row(y), length);
+}
+template <typename T>
+void copyImage(const Image<T>& src, const Image<T>& dst) {
+    copyRows(src, dst, src.size().height);
 }
 
 // The farthest two samples of equal place are apart; relative to the expected one where that is above 1 in

@@ -93,6 +93,45 @@ void addPointwise(const Pointwise& what, Process<T> ours, ScalarRow<T> scalar,
     }
 }
 
+// From two sources to a destination. The copy beside it moves as many bytes as are read and written, half as
+// many again as an image has: the first source to the destination, then the upper half of the second source.
+template <typename T>
+using Combine = std::function<TpxStatus(const T*, int, const T*, int, T*, int, TpxiSize)>;
+template <typename T>
+using ScalarCombine = std::function<void(const T*, const T*, T*, size_t)>;
+
+template <typename T>
+void addCombining(const Pointwise& what, Combine<T> ours, ScalarCombine<T> scalar) {
+    for (const TpxiSize size : sizes(what.sizes, what.channels * sizeof(T))) {
+        const double samples = static_cast<double>(size.width) * size.height * what.channels;
+        addJob({what.group, what.function, text(size), samples, samples * sizeof(T) * 3}, [=] {
+            const auto src1 = std::make_shared<Image<T>>(size, what.channels, what.low, what.high);
+            const auto src2 = std::make_shared<Image<T>>(size, what.channels, what.low, what.high);
+            for (int y = 0; y < size.height; ++y) std::reverse(src2->row(y), src2->row(y) + src2->rowSamples());
+            const auto dst = std::make_shared<Image<T>>(size, what.channels);
+            const auto runOurs = [=](const Image<T>& to) {
+                return ours(src1->data(), src1->step(), src2->data(), src2->step(), to.data(), to.step(), size);
+            };
+            const auto runScalar = [=] {
+                for (int y = 0; y < size.height; ++y)
+                    scalar(src1->row(y), src2->row(y), dst->row(y), dst->rowSamples());
+            };
+            if (dst->bytes() < beyondCacheBytes() / 2) {
+                const Image<T> got(size, what.channels);
+                check(runOurs(got));
+                runScalar();
+                checkSame(got, *dst, what.tolerance);
+            }
+            const auto runCopy = [=] {
+                copyImage(*src1, *dst);
+                copyRows(*src2, *dst, size.height / 2);
+            };
+            return std::vector<Contender>{
+                {kOurs, [=] { runOurs(*dst); }}, {kCopy, runCopy}, {kScalar, runScalar}};
+        });
+    }
+}
+
 // A function and a last argument for it, for functions that take a scale factor.
 template <typename F>
 auto withLast(F function, int last) {

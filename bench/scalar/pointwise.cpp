@@ -13,18 +13,33 @@ T saturate(int64_t value) {
     return static_cast<T>(std::clamp<int64_t>(value, Limits::min(), Limits::max()));
 }
 
-// The rule gives integers; they are multiplied by 2^-scaleFactor, to nearest with ties to even.
+// rule(i) gives integers; they are multiplied by 2^-scaleFactor, to nearest with ties to even.
 template <typename T, typename Rule>
-void mapInteger(const T* src, T* dst, size_t length, int scaleFactor, Rule rule) {
+void mapInteger(T* dst, size_t length, int scaleFactor, Rule rule) {
     if (scaleFactor <= 0) {
-        for (size_t i = 0; i < length; ++i) dst[i] = saturate<T>(rule(src[i]) << -scaleFactor);
+        for (size_t i = 0; i < length; ++i) dst[i] = saturate<T>(rule(i) << -scaleFactor);
         return;
     }
     const int64_t belowHalf = (int64_t{1} << (scaleFactor - 1)) - 1;
     for (size_t i = 0; i < length; ++i) {
-        const int64_t value = rule(src[i]);
+        const int64_t value = rule(i);
         dst[i] = saturate<T>((value + belowHalf + ((value >> scaleFactor) & 1)) >> scaleFactor);
     }
+}
+
+template <typename T, typename Rule>
+void combine(const T* src1, const T* src2, T* dst, size_t length, int scaleFactor, Rule rule) {
+    if constexpr (std::is_floating_point_v<T>)
+        for (size_t i = 0; i < length; ++i) dst[i] = rule(src1[i], src2[i]);
+    else
+        mapInteger(dst, length, scaleFactor,
+                   [=](size_t i) { return rule(int64_t{src1[i]}, int64_t{src2[i]}); });
+}
+
+template <typename T, typename Rule>
+void mapChannels(const T* src, T* dst, size_t length, const Thresholds<T>& by, Rule rule) {
+    for (size_t i = 0; i < length; i += by.channels)
+        for (size_t c = 0; c < by.computed; ++c) dst[i + c] = rule(src[i + c], c);
 }
 
 // Integers go through double precision; float forms take `single`.
@@ -76,7 +91,7 @@ void sqr(const T* src, T* dst, size_t length, int scaleFactor) {
     if constexpr (std::is_floating_point_v<T>)
         for (size_t i = 0; i < length; ++i) dst[i] = src[i] * src[i];
     else
-        mapInteger(src, dst, length, scaleFactor, [](int64_t a) { return a * a; });
+        mapInteger(dst, length, scaleFactor, [=](size_t i) { return int64_t{src[i]} * src[i]; });
 }
 
 template <typename T>
@@ -100,6 +115,47 @@ void exp(const T* src, T* dst, size_t length, int scaleFactor) {
         [](float a) { return std::exp(a); });
 }
 
+template <typename T>
+void add(const T* src1, const T* src2, T* dst, size_t length, int scaleFactor) {
+    combine(src1, src2, dst, length, scaleFactor, [](auto a, auto b) { return a + b; });
+}
+template <typename T>
+void sub(const T* src1, const T* src2, T* dst, size_t length, int scaleFactor) {
+    combine(src1, src2, dst, length, scaleFactor, [](auto a, auto b) { return b - a; });
+}
+template <typename T>
+void mul(const T* src1, const T* src2, T* dst, size_t length, int scaleFactor) {
+    combine(src1, src2, dst, length, scaleFactor, [](auto a, auto b) { return a * b; });
+}
+
+template <typename T>
+void addKeepAlpha(const T* src1, const T* src2, T* dst, size_t length, int scaleFactor) {
+    for (size_t i = 0; i < length; i += 4) add(src1 + i, src2 + i, dst + i, 3, scaleFactor);
+}
+
+template <typename T>
+void thresholdGt(const T* src, T* dst, size_t length, const Thresholds<T>& by) {
+    mapChannels(src, dst, length, by, [&](T x, size_t c) { return x > by.low[c] ? by.low[c] : x; });
+}
+template <typename T>
+void thresholdLt(const T* src, T* dst, size_t length, const Thresholds<T>& by) {
+    mapChannels(src, dst, length, by, [&](T x, size_t c) { return x < by.low[c] ? by.low[c] : x; });
+}
+template <typename T>
+void thresholdGtVal(const T* src, T* dst, size_t length, const Thresholds<T>& by) {
+    mapChannels(src, dst, length, by, [&](T x, size_t c) { return x > by.low[c] ? by.lowValue[c] : x; });
+}
+template <typename T>
+void thresholdLtVal(const T* src, T* dst, size_t length, const Thresholds<T>& by) {
+    mapChannels(src, dst, length, by, [&](T x, size_t c) { return x < by.low[c] ? by.lowValue[c] : x; });
+}
+template <typename T>
+void thresholdLtValGtVal(const T* src, T* dst, size_t length, const Thresholds<T>& by) {
+    mapChannels(src, dst, length, by, [&](T x, size_t c) {
+        return x < by.low[c] ? by.lowValue[c] : x > by.high[c] ? by.highValue[c] : x;
+    });
+}
+
 #define MOVING(T)                                      \
     template void copy(const T*, T*, size_t);          \
     template void copyKeepAlpha(const T*, T*, size_t); \
@@ -110,8 +166,32 @@ void exp(const T* src, T* dst, size_t length, int scaleFactor) {
     template void ln(const T*, T*, size_t, int);   \
     template void exp(const T*, T*, size_t, int);
 #define SIGNED(T) template void abs(const T*, T*, size_t);
+#define BINARY(T)                                           \
+    template void add(const T*, const T*, T*, size_t, int); \
+    template void sub(const T*, const T*, T*, size_t, int); \
+    template void mul(const T*, const T*, T*, size_t, int);
+#define THRESHOLD(T)                                                          \
+    template void thresholdGt(const T*, T*, size_t, const Thresholds<T>&);    \
+    template void thresholdLt(const T*, T*, size_t, const Thresholds<T>&);    \
+    template void thresholdGtVal(const T*, T*, size_t, const Thresholds<T>&); \
+    template void thresholdLtVal(const T*, T*, size_t, const Thresholds<T>&); \
+    template void thresholdLtValGtVal(const T*, T*, size_t, const Thresholds<T>&);
 MOVING(Tpx8u)
 MOVING(Tpx16s)
-MOVING(Tpx32f) UNARY(Tpx8u) UNARY(Tpx16u) UNARY(Tpx16s) UNARY(Tpx32f) SIGNED(Tpx16s) SIGNED(Tpx32f)
+MOVING(Tpx32f)
+UNARY(Tpx8u)
+UNARY(Tpx16u)
+UNARY(Tpx16s)
+UNARY(Tpx32f)
+SIGNED(Tpx16s)
+SIGNED(Tpx32f)
+BINARY(Tpx8u)
+BINARY(Tpx16u)
+BINARY(Tpx16s)
+BINARY(Tpx32f)
+template void addKeepAlpha(const Tpx8u*, const Tpx8u*, Tpx8u*, size_t, int);
+THRESHOLD(Tpx8u)
+THRESHOLD(Tpx16s)
+THRESHOLD(Tpx32f)
 
 } // namespace bench::scalar

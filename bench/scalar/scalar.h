@@ -30,6 +30,34 @@ void ln(const T* src, T* dst, size_t length, int scaleFactor);
 template <typename T>
 void exp(const T* src, T* dst, size_t length, int scaleFactor);
 
+// The second less the first. Integer samples are scaled, rounded and saturated as above.
+template <typename T>
+void add(const T* src1, const T* src2, T* dst, size_t length, int scaleFactor);
+template <typename T>
+void sub(const T* src1, const T* src2, T* dst, size_t length, int scaleFactor);
+template <typename T>
+void mul(const T* src1, const T* src2, T* dst, size_t length, int scaleFactor);
+// On pixels of four samples, whose fourth stays.
+template <typename T>
+void addKeepAlpha(const T* src1, const T* src2, T* dst, size_t length, int scaleFactor);
+
+// Constants of `channels` entries, one a channel; the channels from `computed` on stay as they are.
+template <typename T>
+struct Thresholds {
+    size_t channels, computed;
+    const T *low, *lowValue, *high, *highValue;
+};
+template <typename T>
+void thresholdGt(const T* src, T* dst, size_t length, const Thresholds<T>& by);
+template <typename T>
+void thresholdLt(const T* src, T* dst, size_t length, const Thresholds<T>& by);
+template <typename T>
+void thresholdGtVal(const T* src, T* dst, size_t length, const Thresholds<T>& by);
+template <typename T>
+void thresholdLtVal(const T* src, T* dst, size_t length, const Thresholds<T>& by);
+template <typename T>
+void thresholdLtValGtVal(const T* src, T* dst, size_t length, const Thresholds<T>& by);
+
 // The two source pixels of each destination position along one side, and the weight of the second:
 // 14 bits for 8-bit samples.
 template <typename T>

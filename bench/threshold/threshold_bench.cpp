@@ -1,0 +1,58 @@
+#include "../families.h"
+#include "../frame/pointwise.h"
+#include "../scalar/scalar.h"
+
+namespace bench {
+namespace {
+
+// Thresholds that differ between the channels and divide the samples, of which there are as many below as
+// above.
+template <typename T>
+inline constexpr T kLow[] = {50, 60, 70};
+template <typename T>
+inline constexpr T kLowValue[] = {1, 2, 3};
+template <typename T>
+inline constexpr T kHigh[] = {90, 80, 75};
+template <typename T>
+inline constexpr T kHighValue[] = {120, 110, 100};
+
+template <typename T>
+using Rule = void (*)(const T*, T*, size_t, const scalar::Thresholds<T>&);
+
+template <typename T>
+void addThreshold(const char* function, size_t channels, Process<T> ours, Rule<T> rule) {
+    const scalar::Thresholds<T> by = {
+        channels, std::min<size_t>(channels, 3), kLow<T>, kLowValue<T>, kHigh<T>, kHighValue<T>};
+    addPointwise<T>({.group = "Thresholds", .function = function, .channels = int(channels), .high = 127}, ours,
+                    [=](const T* src, T* dst, size_t length) { rule(src, dst, length, by); });
+}
+
+} // namespace
+
+// C1 takes its constants as values (at is *), the others as arrays.
+#define FORM(word, rule, T, L, channels, ...)                                                          \
+    addThreshold<Tpx##T>(                                                                              \
+        "tpxiThreshold_" #word "_" #T "_" #L "R", channels,                                            \
+        [](const Tpx##T* src, int srcStep, Tpx##T* dst, int dstStep, TpxiSize size) {                  \
+            return tpxiThreshold_##word##_##T##_##L##R(src, srcStep, dst, dstStep, size, __VA_ARGS__); \
+        },                                                                                             \
+        scalar::threshold##rule<Tpx##T>);
+#define LAYOUT(T, L, channels, at)                                                                        \
+    FORM(GT, Gt, T, L, channels, at kLow<Tpx##T>)                                                         \
+    FORM(LT, Lt, T, L, channels, at kLow<Tpx##T>)                                                         \
+    FORM(GTVal, GtVal, T, L, channels, at kLow<Tpx##T>, at kLowValue<Tpx##T>)                             \
+    FORM(LTVal, LtVal, T, L, channels, at kLow<Tpx##T>, at kLowValue<Tpx##T>)                             \
+    FORM(LTValGTVal, LtValGtVal, T, L, channels, at kLow<Tpx##T>, at kLowValue<Tpx##T>, at kHigh<Tpx##T>, \
+         at kHighValue<Tpx##T>)
+
+void addThresholds() {
+    LAYOUT(8u, C1, 1, *)
+    LAYOUT(8u, C3, 3, )
+    LAYOUT(8u, AC4, 4, )
+    LAYOUT(16s, C1, 1, *)
+    LAYOUT(16s, C3, 3, )
+    LAYOUT(32f, C1, 1, *)
+    LAYOUT(32f, C3, 3, )
+}
+
+} // namespace bench
