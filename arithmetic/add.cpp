@@ -15,6 +15,13 @@ struct Add {
     }
     static V32f saturated(V32f a, V32f b) { return a + b; }
 
+    // An odd sum was rounded up; where that is odd, the even neighbour is below.
+    template <class V>
+    static V halved(V a, V b) {
+        const V up = average(a, b);
+        return up - ((a ^ b) & up & splat<V>(1));
+    }
+
     static Pair<V16s> exact(V8u a, V8u b) {
         const Pair<V16u> x = widen(a), y = widen(b);
         return {V16s(x.low + y.low), V16s(x.high + y.high)};

@@ -3,6 +3,7 @@
 // An operation is a class with
 //   saturated(a, b)        the result with factor 0, in registers of T
 //   exact(a, b)            the exact result: a pair of registers of wider lanes, or one where T's lanes hold it
+//   halved(a, b)           the result with factor 1, which needs no wider lanes; optional
 //   kZeroFrom<T>           the smallest factor at which every result is 0
 #pragma once
 
@@ -83,6 +84,8 @@ inline void withScaledRule(int n, Body body) {
     } else if (n == 0) {
         body([](Vec<T> a, Vec<T> b) { return Op::saturated(a, b); });
     } else if (n > 0) {
+        if constexpr (requires { Op::halved(Vec<T>{}, Vec<T>{}); })
+            if (n == 1) return body([](Vec<T> a, Vec<T> b) { return Op::halved(a, b); });
         using Lanes = ExactLanes<decltype(Op::exact(Vec<T>{}, Vec<T>{}))>;
         const HalfEven<typename Lanes::type> halfEven(n);
         body([halfEven](Vec<T> a, Vec<T> b) { return Lanes::template map<T>(Op::exact(a, b), halfEven); });

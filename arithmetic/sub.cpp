@@ -13,6 +13,17 @@ struct Sub {
     }
     static V32f saturated(V32f a, V32f b) { return b - a; }
 
+    template <class V>
+    static V halved(V a, V b) {
+        const V d = subSat(b, a), up = average(d, V{});
+        return up - (d & up & splat<V>(1));
+    }
+    // With ~a for -a - 1 an odd difference is rounded down; where that is odd, the even neighbour is above.
+    static V16s halved(V16s a, V16s b) {
+        const V16s down = average(b, ~a);
+        return addSat(down, (a ^ b) & down & splat<V16s>(1));
+    }
+
     // Unsigned differences below 0 give 0 under every factor, so they may be clipped first.
     static Pair<V16s> exact(V8u a, V8u b) {
         const Pair<V16u> d = widen(subSat(b, a));

@@ -63,7 +63,7 @@ inline ptrdiff_t samplesToBoundary(const T* p) {
 // dst[i...] = at(i), a register from sample i on; whole() makes the register of a run that does not fill one.
 // Registers start at `begin`, the first sample on a boundary or 0, and the head is cut if that is not 0.
 template <class T, class At, class Whole>
-inline void writeRun(T* dst, ptrdiff_t len, ptrdiff_t begin, At at, Whole whole) {
+[[gnu::always_inline]] inline void writeRun(T* dst, ptrdiff_t len, ptrdiff_t begin, At at, Whole whole) {
     constexpr ptrdiff_t L = kLanes<T>;
     if (len < L) {
         const Vec<T> v = whole();
@@ -123,7 +123,7 @@ inline void moveColours(const T* src, T* dst, ptrdiff_t pixels, Rule&& rule) {
 // pixels of three samples have three registers of them. Runs are of whole pixels, so a group may begin at the
 // last samples but G registers, too.
 template <int G, class T, class Rule>
-inline void mapGroups(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
+[[gnu::always_inline]] inline void mapGroups(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
     constexpr ptrdiff_t L = kLanes<T>;
     const auto group = [&](const T* s, T* d) {
         Vec<T> v[G];

@@ -147,6 +147,12 @@ inline V select(M mask, V a, V b) {
         return bitsAs<V>(_mm_blendv_epi8(bitsAs<__m128i>(b), bitsAs<__m128i>(a), bitsAs<__m128i>(mask)));
 }
 
+// 0 in the lanes where the mask is set, `a` elsewhere.
+template <class V, class M>
+inline V without(M mask, V a) {
+    return V(_mm_andnot_si128(__m128i(mask), __m128i(a)));
+}
+
 // `a` where alpha lies in pixels of four samples of type T, `b` elsewhere; the register begins at a pixel. It
 // is one of T, or of floats where samples are only moved.
 template <class T, class V = Vec<T>>
@@ -190,6 +196,10 @@ inline V32u subSat(V32u a, V32u b) { return a - minOf(a, b); }
 // (a + b + 1) / 2 without overflow.
 inline V8u average(V8u a, V8u b) { return V8u(_mm_avg_epu8(__m128i(a), __m128i(b))); }
 inline V16u average(V16u a, V16u b) { return V16u(_mm_avg_epu16(__m128i(a), __m128i(b))); }
+inline V16s average(V16s a, V16s b) {
+    const V16u sign = splat<V16u>(0x8000); // seen as unsigned, both are higher by this
+    return V16s(average(V16u(a) ^ sign, V16u(b) ^ sign) ^ sign);
+}
 inline V32u average(V32u a, V32u b) { return (a | b) - ((a ^ b) >> 1); }
 
 // Shifts by a count that is the same in every lane; a count past the lane's width gives zero.

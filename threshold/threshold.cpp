@@ -5,13 +5,12 @@
 namespace tpx {
 namespace {
 
-// ---- Rules: what happens on either side of a threshold. The order of operands decides what NaN gives.
-// ---------
+// ---- Rules: what happens on either side of a threshold. Operand order decides what NaN gives ----------------
 
 // Integers: where clamping changed a sample it left the threshold, which is exchanged for the value.
 template <class V>
 V exchange(V x, V clamped, V threshold, V value) {
-    return clamped ^ (V(clamped != x) & (threshold ^ value));
+    return clamped ^ without(clamped == x, threshold ^ value);
 }
 
 struct Above {
@@ -47,15 +46,14 @@ struct Below {
 template <class V>
 V replaceOutside(V x, V low, V lowValue, V high, V highValue) {
     const V raised = Below::clamp(x, low), clamped = Above::clamp(raised, high);
-    return exchange(raised, clamped, high, highValue) ^ (V(raised != x) & (low ^ lowValue));
+    return exchange(raised, clamped, high, highValue) ^ without(raised == x, low ^ lowValue);
 }
 inline V32f replaceOutside(V32f x, V32f low, V32f lowValue, V32f high, V32f highValue) {
     const V32f upper = Above::replace(x, high, highValue);
     return low <= x ? upper : lowValue; // the lower threshold has the last word: NaN gives its value
 }
 
-// ---- One walk for all layouts
-// ----------------------------------------------------------------------------------
+// ---- One walk for all layouts ----------------------------------------------------------------------------
 
 template <class T>
 struct Images {
@@ -125,8 +123,7 @@ void mapImages(const Images<T>& images, Rule rule) {
     if (stream) streamFence();
 }
 
-// ---- Operations
-// --------------------------------------------------------------------------------------------------
+// ---- Operations ------------------------------------------------------------------------------------------
 
 template <Layout L, class Side, class T>
 TpxStatus clampSide(const Images<T>& images, const T* threshold) {
@@ -177,8 +174,7 @@ TpxStatus replaceBoth(const Images<T>& images, const T* thresholdLT, const T* va
 } // namespace
 } // namespace tpx
 
-// ---- Entries
-// -------------------------------------------------------------------------------------------------------
+// ---- Entries ---------------------------------------------------------------------------------------------
 
 // The two forms of a name: source to destination, and in place. `constants` are the parameters after the size,
 // in parentheses; `call` is the operation and `arguments` what it is given after the images.
