@@ -36,6 +36,19 @@ inline void copyShort(void* dst, const void* src, ptrdiff_t bytes) {
         ends(Tpx8u{});
 }
 
+// Copies fewer than 64 bytes.
+inline void copyShort64(void* dst, const void* src, ptrdiff_t bytes) {
+    constexpr ptrdiff_t kHalf = sizeof(V32f);
+    if (bytes < kHalf) return copyShort(dst, src, bytes);
+    const auto d = static_cast<Tpx8u*>(dst);
+    const auto s = static_cast<const Tpx8u*>(src);
+    V32f first, last;
+    __builtin_memcpy(&first, s, sizeof first);
+    __builtin_memcpy(&last, s + bytes - kHalf, sizeof last);
+    __builtin_memcpy(d, &first, sizeof first);
+    __builtin_memcpy(d + bytes - kHalf, &last, sizeof last);
+}
+
 // A register from fewer samples than it holds; the other lanes repeat the first sample.
 template <class T>
 inline Vec<T> loadShort(const T* src, ptrdiff_t len) {
@@ -101,6 +114,35 @@ template <class T, class Rule>
 inline void moveColours(const T* src, T* dst, ptrdiff_t pixels, Rule&& rule) {
     mapColours<T>(reinterpret_cast<const Tpx32f*>(src), reinterpret_cast<Tpx32f*>(dst),
                   pixels * ptrdiff_t(sizeof(T)), rule);
+}
+
+// N samples from fewer; the others repeat the last.
+template <int N, class T>
+inline void padRun(T (&padded)[N], const T* src, ptrdiff_t len) {
+    for (ptrdiff_t i = 0; i < N; i++) __builtin_memcpy(padded + i, src + (i < len ? i : len - 1), sizeof(T));
+}
+
+// dst[i...] = rule(src + i), where both have samples of their own types: rule(p) makes a register of results from
+// as many samples at p.
+template <class D, class S, class Rule>
+inline Vec<D> convertShort(const S* src, ptrdiff_t len, Rule&& rule) {
+    S padded[kLanes<D>];
+    padRun(padded, src, len);
+    return rule(padded);
+}
+template <class S, class D, class Rule>
+inline void convertRun(const S* src, D* dst, ptrdiff_t len, Rule&& rule) {
+    writeRun(
+        dst, len, samplesToBoundary(dst), [&](ptrdiff_t i) { return rule(src + i); },
+        [&] { return convertShort<D>(src, len, rule); });
+}
+
+// The same on pixels of four samples, whose fourth is left as it was; the length is in samples.
+template <class S, class D, class Rule>
+inline void convertColours(const S* src, D* dst, ptrdiff_t len, Rule&& rule) {
+    writeRun(
+        dst, len, 0, [&](ptrdiff_t i) { return keepAlpha<D>(load(dst + i), rule(src + i)); },
+        [&] { return keepAlpha<D>(loadShort(dst, len), convertShort<D>(src, len, rule)); });
 }
 
 // srcDst[i] = rule(src[i], srcDst[i]).
