@@ -54,6 +54,18 @@ struct PixelOrder {
 template <int PixelBytes>
 inline constexpr PixelOrder<PixelBytes> kPixelOrder;
 
+// The first Bytes of a register, 8 or more, as two overlapping halves that leave it without a turn in memory.
+template <int Bytes>
+inline void storeFront(Tpx8u* dst, V8u v) {
+    if constexpr (Bytes == sizeof v) return store(dst, v);
+    constexpr int k = Bytes - 8;
+    const V8u end = __builtin_shufflevector(v, v, k, k + 1, k + 2, k + 3, k + 4, k + 5, k + 6, k + 7, 0, 0, 0,
+                                            0, 0, 0, 0, 0);
+    const Tpx64u halves[2] = {V64u(v)[0], V64u(end)[0]};
+    __builtin_memcpy(dst, &halves[0], 8);
+    __builtin_memcpy(dst + k, &halves[1], 8);
+}
+
 // Which neighbour of a run may be read as well.
 enum class Neighbour { Before, After };
 
@@ -68,8 +80,7 @@ inline void reversePixels(const Tpx8u* src, Tpx8u* dst, ptrdiff_t pixels) {
     const ptrdiff_t last = pixels * PixelBytes - Order::kBytes;
     const auto at = [&](ptrdiff_t i) { return lookup(Table16<Tpx8u>(src + last - i), order.bytes); };
     for (ptrdiff_t i = 0; i < last; i += Order::kBytes) store(dst + i, at(i));
-    const V8u v = at(last);
-    __builtin_memcpy(dst + last, &v, Order::kBytes);
+    storeFront<Order::kBytes>(dst + last, at(last));
 }
 
 } // namespace tpx

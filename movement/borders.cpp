@@ -205,7 +205,8 @@ requires(Px::kKeepsAlpha) class RowBuilder<B, Px> {
         V8u v{};
         __builtin_memcpy(&v, pixel, Px::kBytes);
         v = shuffle(v, load(kPhases<Px::kBytes>.ofPeriod));
-        return bitsAs<V32f>(Pair<V8u>{v, v});
+        return bitsAs<V32f>(__builtin_shufflevector(v, v, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15,
+                                                    0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15));
     }
     [[gnu::noinline]] static void fill(Tpx8u* dst, ptrdiff_t pixels, V32f with) {
         auto d = reinterpret_cast<typename Px::Sample*>(dst);

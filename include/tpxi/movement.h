@@ -663,16 +663,16 @@ TPX_API TpxStatus tpxiGrayToBin_16s1u_C1R(const Tpx16s* pSrc, int srcStep, Tpx8u
 TPX_API TpxStatus tpxiGrayToBin_32f1u_C1R(const Tpx32f* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
                                           int dstBitOffset, TpxiSize roiSize, Tpx32f threshold);
 
-/* ---- Borders: tpxiCopyConstBorder, tpxiCopyReplicateBorder, tpxiCopyMirrorBorder, tpxiCopyWrapBorder
- * ----------- Copies an image into a larger one and fills the margin around it: with a constant, with the
- * nearest edge pixel, with the image mirrored about its edge (the edge is not repeated), or with the image
- * repeated. The right and bottom margins are what the sizes leave. In place (I), pSrcDst points at the source's
- * first pixel inside the destination; a source and a destination pointer that are equal mean the same with the
- * destination's step. Margins may be wider than the source. AC4 keeps the destination's fourth channel
- * everywhere.
+/* ---- Borders: tpxiCopyConstBorder, tpxiCopyReplicateBorder, tpxiCopyMirrorBorder, tpxiCopyWrapBorder ----
+ * Copies an image into a larger one and fills the margin around it: with a constant, with the nearest edge
+ * pixel, with the image mirrored about its edge (the edge is not repeated), or with the image repeated. The
+ * right and bottom margins are what the sizes leave; margins may be wider than the source. In place (I),
+ * pSrcDst points at the source's first pixel inside the destination. A source and a destination pointer that
+ * are equal mean the same, with the destination's step, in all kinds but Const. AC4 keeps the destination's
+ * fourth channel everywhere.
  *
- * Statuses, in order: tpxErrNullPointer; tpxErrStep (a step below 1); tpxErrSize (a size below 1, a negative
- * margin, or a source that does not fit into the destination with its margins); tpxErrNullPointer (the
+ * Statuses, in order: tpxErrNullPointer (an image); tpxErrStep (a step below 1); tpxErrSize (a size below 1, a
+ * negative margin, or a source that does not fit into the destination with its margins); tpxErrNullPointer (the
  * constant's array); tpxOk. */
 TPX_API TpxStatus tpxiCopyConstBorder_8u_C1R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst,
                                              int dstStep, TpxiSize dstRoiSize, int topBorderHeight,

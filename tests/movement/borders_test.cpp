@@ -136,9 +136,9 @@ TYPED_TEST_SUITE(Borders, AllNames);
 
 template <class T>
 GuardedImage<T>& randomBits(GuardedImage<T>& image, unsigned seed) {
-    std::mt19937 random(seed);
+    std::minstd_rand random(seed);
     return image.fill([&](int, int, int) {
-        const uint32_t bits = uint32_t(random());
+        const uint32_t bits = uint32_t(random() >> 2) * 0x9E3779B1u;
         T v;
         std::memcpy(&v, &bits, sizeof v);
         return v;
@@ -159,7 +159,7 @@ void expectBorders(const Form<T>& form, TpxiSize size, Margins m, Lie srcLie, Li
     randomBits(src, 1);
     randomBits(value, 2);
     old.copySamplesFrom(randomBits(dst, 3));
-    T* const inside = dst.data() + 0;
+    T* const inside = dst.data();
     T* const image = reinterpret_cast<T*>(reinterpret_cast<char*>(inside) + ptrdiff_t(m.top) * dst.step() +
                                           ptrdiff_t(m.left) * form.channels * ptrdiff_t(sizeof(T)));
     ASSERT_EQ(form.run({src.data(),
@@ -206,11 +206,11 @@ TYPED_TEST(Borders, WidthsAndMarginsAroundEveryLaneCount) {
 }
 
 TYPED_TEST(Borders, RowsAboveAndBelowAndMarginsWiderThanTheSource) {
-    const Margins margins[] = {{0, 0, 0, 0},   {3, 1, 0, 2},    {0, 4, 2, 0},     {8, 8, 8, 8},
-                               {1, 9, 30, 20}, {100, 23, 1, 5}, {260, 1, 515, 40}};
+    const Margins margins[] = {{0, 0, 0, 0},   {3, 1, 0, 2},   {0, 4, 2, 0},   {8, 8, 8, 8},
+                               {1, 9, 30, 20}, {40, 23, 1, 5}, {150, 1, 85, 4}};
     for (const auto& form : TypeParam::forms()) {
         SCOPED_TRACE(form.name);
-        for (const TpxiSize size : {TpxiSize{1, 1}, {1, 5}, {5, 1}, {2, 2}, {3, 4}, {10, 7}, {40, 12}})
+        for (const TpxiSize size : {TpxiSize{1, 1}, {1, 4}, {5, 1}, {2, 2}, {3, 4}, {17, 6}})
             for (const Margins& m : margins) {
                 expectBorders(form, size, m, {1, Edge::Start, 0}, {7, Edge::End, 0});
                 expectBorders(form, size, m, {0, Edge::End, 0}, {0, Edge::Start, 3});
