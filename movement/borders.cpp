@@ -262,10 +262,8 @@ inline void extend(const Tpx8u* src, ptrdiff_t srcStep, Tpx8u* dst, ptrdiff_t ds
 
 // ---- Checks ---------------------------------------------------------------------------------------------
 
-// Sums are not formed, since they may overflow.
-inline bool fits(TpxSizeL margin, TpxSizeL src, TpxSizeL dst) {
-    return margin >= 0 && src <= dst && margin <= dst - src;
-}
+// Sizes are 1 at least. Their difference cannot overflow; the sum with a margin may.
+inline bool fits(TpxSizeL margin, TpxSizeL src, TpxSizeL dst) { return margin >= 0 && margin <= dst - src; }
 
 // All checks but those of the image pointers. In place `src` is null and `dst` the place of the image's first
 // pixel; otherwise that of the destination's.
