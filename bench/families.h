@@ -3,6 +3,7 @@
 
 namespace bench {
 
+void addBorders();
 void addCopies();
 void addUnary();
 void addResizes();
