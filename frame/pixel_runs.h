@@ -23,6 +23,12 @@ using Block = Several<V8u, N>;
 template <class T>
 using ByteLike = std::conditional_t<std::is_const_v<T>, const Tpx8u, Tpx8u>;
 
+// Asks for the line some way behind an address that is read now.
+inline void fetchAhead(const Tpx8u* p) {
+    constexpr uintptr_t kAhead = 512;
+    _mm_prefetch(reinterpret_cast<const char*>(reinterpret_cast<uintptr_t>(p) + kAhead), _MM_HINT_T0);
+}
+
 // ---- Sides of a run: an image as a source or a destination of blocks ----------------------------------------
 
 // Pixels of N samples; a block is Pixels of them. Of a single channel of theirs, which the pointer addresses,
@@ -71,6 +77,11 @@ struct Interleaved {
     }
     void store(ptrdiff_t x, const Block<N>& b) const {
         for (int k = 0; k < N; k++) tpx::store(p + x * kPixel + offset(k), b.at[k]);
+    }
+
+    // Asks for what so many pixels will need soon; the address may lie outside the image.
+    void fetch(ptrdiff_t x, ptrdiff_t pixels) const {
+        for (ptrdiff_t i = 0; i < pixels * kPixel; i += kLineBytes) fetchAhead(p + x * kPixel + i);
     }
 
     // Fewer pixels than a block, from or to memory that holds one.
@@ -135,6 +146,12 @@ struct Planes {
         for (int k = 0; k < N; k++) tpx::store(p[k] + x * ptrdiff_t(sizeof(T)), b.at[k]);
     }
 
+    void fetch(ptrdiff_t x, ptrdiff_t pixels) const {
+        for (const auto* plane : p)
+            for (ptrdiff_t i = 0; i < pixels; i += kLineBytes / ptrdiff_t(sizeof(T)))
+                fetchAhead(plane + (x + i) * ptrdiff_t(sizeof(T)));
+    }
+
     static Writable over(Tpx8u* memory, ptrdiff_t bytesOfChannel) {
         std::remove_const_t<T>* planes[N];
         for (int k = 0; k < N; k++)
@@ -181,24 +198,42 @@ inline void mapPixelRun(ptrdiff_t pixels, Rule rule, Dst dst, Src... src) {
     }
     const ptrdiff_t last = pixels - P;
     const auto end = rule(src.load(last)...);
-    for (ptrdiff_t x = 0; x < last; x += P) dst.store(x, rule(src.load(x)...));
+    ptrdiff_t x = 0;
+    if constexpr (Dst::kRegisters == 1)
+        for (; x + 3 * P < last; x += 4 * P) {
+            const auto a = rule(src.load(x)...), b = rule(src.load(x + P)...);
+            const auto c = rule(src.load(x + 2 * P)...), d = rule(src.load(x + 3 * P)...);
+            dst.store(x, a);
+            dst.store(x + P, b);
+            dst.store(x + 2 * P, c);
+            dst.store(x + 3 * P, d);
+        }
+    for (; x < last; x += P) dst.store(x, rule(src.load(x)...));
     dst.store(last, end);
 }
 
-// The same past the caches, in lines that are written whole; not in place. The caller fences once.
+// The same past the caches, as mapRunStreaming does it: whole lines, at four places side by side, whose sources
+// are fetched ahead. One line of each channel at a time is enough. Not in place. The caller fences once.
 template <class Rule, class Dst, class... Src>
 inline void mapPixelRunStreaming(ptrdiff_t pixels, Rule rule, Dst dst, Src... src) {
-    constexpr ptrdiff_t P = Dst::kPixels, kBlocks = kLineBytes / kBlockBytes;
+    constexpr ptrdiff_t P = Dst::kPixels, kTurn = kLineBytes / kBlockBytes * P;
+    constexpr ptrdiff_t kPlace = 4096 / kBlockBytes * P;
+    const auto turns = [&]<int Places>(std::integral_constant<int, Places>, ptrdiff_t at) {
+        alignas(kLineBytes) Tpx8u lines[Places][Dst::kRegisters * kLineBytes];
+        for (int place = 0; place < Places; place++) (..., src.fetch(at + place * kPlace, kTurn));
+        for (int place = 0; place < Places; place++)
+            for (ptrdiff_t i = 0; i < kTurn; i += P)
+                Dst::over(lines[place], kLineBytes).store(i, rule(src.load(at + place * kPlace + i)...));
+        for (int place = 0; place < Places; place++) dst.stream(at + place * kPlace, lines[place], kLineBytes);
+    };
+
     const ptrdiff_t head = dst.pixelsToLine();
-    if (head == kLineBytes || pixels < head + kBlocks * P) return mapPixelRun(pixels, rule, dst, src...);
+    if (head == kLineBytes || pixels < head + kTurn) return mapPixelRun(pixels, rule, dst, src...);
     if (head) mapPixelRun(head, rule, dst, src...);
-    alignas(kLineBytes) Tpx8u lines[Dst::kRegisters * kLineBytes];
-    const auto gathered = Dst::over(lines, kLineBytes);
     ptrdiff_t x = head;
-    for (; x + kBlocks * P <= pixels; x += kBlocks * P) {
-        for (ptrdiff_t i = 0; i < kBlocks * P; i += P) gathered.store(i, rule(src.load(x + i)...));
-        dst.stream(x, lines, kLineBytes);
-    }
+    for (; x + 4 * kPlace <= pixels; x += 4 * kPlace)
+        for (ptrdiff_t i = 0; i < kPlace; i += kTurn) turns(std::integral_constant<int, 4>{}, x + i);
+    for (; x + kTurn <= pixels; x += kTurn) turns(std::integral_constant<int, 1>{}, x);
     if (x < pixels) mapPixelRun(pixels - x, rule, dst.from(x), src.from(x)...);
 }
 

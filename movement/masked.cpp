@@ -6,32 +6,30 @@
 namespace tpx {
 namespace {
 
-// Which mask byte of a block each byte of its registers stands under. Alpha that is kept stands under none.
-template <Layout L, class T>
+// Which mask byte of a block each byte of its registers stands under.
+template <int N, class T>
 struct MaskPlaces {
-    static constexpr int N = channelsOf(L);
     alignas(16) Tpx8u pixel[N][kBlockBytes];
     constexpr MaskPlaces() : pixel{} {
         for (int i = 0; i < N * kBlockBytes; i++) {
-            const int sample = i / int(sizeof(T));
-            const bool kept = L == Layout::AC4 && sample % N == 3;
-            pixel[i / kBlockBytes][i % kBlockBytes] = Tpx8u(kept ? 0x80 : sample / N);
+            pixel[i / kBlockBytes][i % kBlockBytes] = Tpx8u(i / (N * int(sizeof(T))));
         }
     }
 };
-template <Layout L, class T>
-inline constexpr MaskPlaces<L, T> kMaskPlaces;
+template <int N, class T>
+inline constexpr MaskPlaces<N, T> kMaskPlaces;
 
-// A zero of the mask, or no mask, takes the old pixel.
+// A zero of the mask takes the old pixel, and so does kept alpha everywhere.
 template <Layout L, class T>
 struct SelectPixels {
     static constexpr int N = channelsOf(L);
     Block<N> operator()(const Block<1>& mask, const Block<N>& a, const Block<N>& old) const {
-        const V8u chosen = V8u(mask.at[0] != V8u{});
+        const V8u zero = V8u(mask.at[0] == V8u{});
         Block<N> b;
         for (int k = 0; k < N; k++) {
-            const V8u m = N * sizeof(T) == 1 ? chosen : shuffleBytes(chosen, load(kMaskPlaces<L, T>.pixel[k]));
-            b.at[k] = (a.at[k] & m) | (old.at[k] & ~m);
+            V8u keep = N * sizeof(T) == 1 ? zero : shuffleBytes(zero, load(kMaskPlaces<N, T>.pixel[k]));
+            if (L == Layout::AC4) keep |= bitsAs<V8u>(load(kAlphaMask<T>.words));
+            b.at[k] = (old.at[k] & keep) | (a.at[k] & ~keep);
         }
         return b;
     }

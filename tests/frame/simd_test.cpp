@@ -332,6 +332,32 @@ TEST(Simd, FloatsAndIntegers) {
     });
 }
 
+// Bytes are only moved: if all are different, one arrangement and its complement show every path.
+template <int Bytes, int N>
+void checkChannels(Tpx8u flip) {
+    Several<V8u, N> pixels, planes;
+    const auto byteOf = [&](auto& registers, int i) -> Tpx8u { return registers.at[i / 16][i % 16]; };
+    for (int i = 0; i < N * 16; i++) pixels.at[i / 16][i % 16] = Tpx8u((i + 1) ^ flip);
+    planes = deinterleave<Bytes>(pixels);
+    for (int c = 0; c < N; c++)
+        for (int i = 0; i < 16; i++)
+            ASSERT_EQ(planes.at[c][i], byteOf(pixels, (i / Bytes * N + c) * Bytes + i % Bytes))
+                << Bytes << " bytes, channel " << c << " of " << N << ", byte " << i;
+    const auto back = interleave<Bytes>(planes);
+    for (int i = 0; i < N * 16; i++) ASSERT_EQ(byteOf(back, i), byteOf(pixels, i)) << Bytes << " bytes of " << N;
+}
+
+TEST(Simd, ChannelsOfPixels) {
+    for (Tpx8u flip : {0, 255}) {
+        checkChannels<1, 3>(flip);
+        checkChannels<2, 3>(flip);
+        checkChannels<4, 3>(flip);
+        checkChannels<1, 4>(flip);
+        checkChannels<2, 4>(flip);
+        checkChannels<4, 4>(flip);
+    }
+}
+
 TEST(Simd, Tables) {
     Tpx8u bytes[16];
     Tpx16u words[16];
