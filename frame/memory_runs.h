@@ -18,38 +18,50 @@ void copyRowBackward(void* dst, const void* src, int64_t bytes);
 // Past the caches, line by line. The ranges do not overlap. The caller fences once, after its last row.
 void copyRowStreaming(void* dst, const void* src, int64_t bytes);
 
-// dst[i...] = rule(src + i) past the caches: convertRun (frame/runs.h). The caller fences once, after its last
-// row.
+// Asks for the lines that will be read some turns after these bytes.
+inline void fetchAhead(const void* p, int bytes) {
+    const ptrdiff_t ahead = bytes > 128 ? 4 * bytes : 512;
+    for (int line = 0; line < bytes; line += kLineBytes)
+        _mm_prefetch(static_cast<const char*>(p) + ahead + line, _MM_HINT_T0);
+}
+
+// writeRun (frame/runs.h) past the caches: dst[i...] = at(i). fetch(i, n) asks for what n samples from i on
+// will need, plain(i, n) writes them into the caches. The caller fences once, after its last row.
 //
 // Stores past the caches leave the processor as whole lines if nothing else comes between the parts of a line,
 // so results are gathered in a small block and moved out in one go. Four pages are worked on side by side and
 // their sources fetched ahead, since memory serves several streams faster than one.
-template <class S, class D, class Rule>
-inline void convertRunStreaming(const S* src, D* dst, ptrdiff_t len, Rule&& rule) {
-    constexpr ptrdiff_t L = kLanes<D>, kTurn = 128 / sizeof(D), kPage = 4096 / sizeof(D), kAhead = 512;
-    const auto turns = [&]<int Pages>(std::integral_constant<int, Pages>, ptrdiff_t at) {
+template <class D, class At, class Fetch, class Plain>
+inline void writeRunStreaming(D* dst, ptrdiff_t len, At at, Fetch fetch, Plain plain) {
+    constexpr ptrdiff_t L = kLanes<D>, kTurn = 128 / sizeof(D), kPage = 4096 / sizeof(D);
+    const auto turns = [&]<int Pages>(std::integral_constant<int, Pages>, ptrdiff_t begin) {
         alignas(kLineBytes) D block[Pages * kTurn];
+        for (int page = 0; page < Pages; page++) fetch(begin + page * kPage, kTurn);
         for (int page = 0; page < Pages; page++)
-            for (int line = 0; line < kTurn * int(sizeof(S)); line += kLineBytes)
-                _mm_prefetch(reinterpret_cast<const char*>(src + at + page * kPage) + kAhead + line,
-                             _MM_HINT_T0);
-        for (int page = 0; page < Pages; page++)
-            for (int i = 0; i < kTurn; i += L)
-                store(block + page * kTurn + i, rule(src + at + page * kPage + i));
+            for (int i = 0; i < kTurn; i += L) store(block + page * kTurn + i, at(begin + page * kPage + i));
         for (int page = 0; page < Pages; page++)
             for (int i = 0; i < kTurn; i += L)
-                streamStore(dst + at + page * kPage + i, load(block + page * kTurn + i));
+                streamStore(dst + begin + page * kPage + i, load(block + page * kTurn + i));
     };
 
     // The bulk begins on a line of the destination. In place is not streamed, so the head may go first.
     const ptrdiff_t head = bytesToLine(dst) / ptrdiff_t(sizeof(D));
-    if (len < head + kTurn || bytesToLine(dst + head) != 0) return convertRun(src, dst, len, rule);
-    if (head) convertRun(src, dst, head, rule);
+    if (len < head + kTurn || bytesToLine(dst + head) != 0) return plain(0, len);
+    if (head) plain(0, head);
     ptrdiff_t i = head;
     for (; i + 4 * kPage <= len; i += 4 * kPage)
         for (ptrdiff_t j = 0; j < kPage; j += kTurn) turns(std::integral_constant<int, 4>{}, i + j);
     for (; i + kTurn <= len; i += kTurn) turns(std::integral_constant<int, 1>{}, i);
-    if (i < len) convertRun(src + i, dst + i, len - i, rule);
+    if (i < len) plain(i, len - i);
+}
+
+// convertRun past the caches.
+template <class S, class D, class Rule>
+inline void convertRunStreaming(const S* src, D* dst, ptrdiff_t len, Rule&& rule) {
+    writeRunStreaming(
+        dst, len, [&](ptrdiff_t i) { return rule(src + i); },
+        [&](ptrdiff_t i, int n) { fetchAhead(src + i, n * int(sizeof(S))); },
+        [&](ptrdiff_t i, ptrdiff_t n) { convertRun(src + i, dst + i, n, rule); });
 }
 
 // dst[i] = rule(src[i]) past the caches, on registers.

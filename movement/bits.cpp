@@ -1,7 +1,7 @@
 // tpxiBinToGray, tpxiGrayToBin: images of one bit a pixel, least significant bit first.
 #include "frame/control.h"
 #include "frame/entry.h"
-#include "frame/runs.h"
+#include "frame/memory_runs.h"
 
 namespace tpx {
 namespace {
@@ -30,26 +30,42 @@ template <int Count>
 inline Tpx32u bitsFrom(const Tpx8u* bits, ptrdiff_t at) {
     static_assert(Count == 8 || Count == 16);
     std::conditional_t<Count == 8, Tpx8u, Tpx16u> first;
-    __builtin_memcpy(&first, bits + at / kByteBits, sizeof first);
-    const Tpx32u last = bits[(at + Count - 1) / kByteBits];
-    return (first | last << Count) >> (at % kByteBits);
+    const size_t from = size_t(at);
+    __builtin_memcpy(&first, bits + from / kByteBits, sizeof first);
+    const Tpx32u last = bits[(from + Count - 1) / kByteBits];
+    return (first | last << Count) >> (from % kByteBits);
 }
 
+// One of two values by each bit.
 template <class T>
-void unpackRow(const Tpx8u* bits, int offset, T* dst, ptrdiff_t len, T low, T high) {
+struct Unpack {
     using V = Vec<T>;
     using B = decltype(laneMask<T>(0));
-    constexpr int L = kLanes<T>;
-    const B lowBits = bitsAs<B>(splat<V>(low)), flips = lowBits ^ bitsAs<B>(splat<V>(high));
-    const auto values = [=](Tpx32u set) { return bitsAs<V>(lowBits ^ (laneMask<T>(set) & flips)); };
-    writeRun(
-        dst, len, samplesToBoundary(dst), [=](ptrdiff_t i) { return values(bitsFrom<L>(bits, offset + i)); },
-        [=] {
-            Tpx8u some[L / kByteBits + 1] = {};
-            copyShort(some, bits, (offset + len + kByteBits - 1) / kByteBits);
-            return values(bitsFrom<L>(some, offset));
-        });
-}
+    static constexpr int L = kLanes<T>;
+    B low, flips;
+    V operator()(const Tpx8u* bits, ptrdiff_t at) const {
+        return bitsAs<V>(low ^ (laneMask<T>(bitsFrom<L>(bits, at)) & flips));
+    }
+    void row(const Tpx8u* bits, ptrdiff_t from, T* dst, ptrdiff_t len) const {
+        writeRun(
+            dst, len, samplesToBoundary(dst), [=, this](ptrdiff_t i) { return (*this)(bits, from + i); },
+            [=, this] {
+                const ptrdiff_t byte = from / kByteBits, offset = from % kByteBits;
+                Tpx8u some[L / kByteBits + 1] = {};
+                copyShort(some, bits + byte, (offset + len + kByteBits - 1) / kByteBits);
+                return (*this)(some, offset);
+            });
+    }
+    void rowStreaming(const Tpx8u* bits, ptrdiff_t from, T* dst, ptrdiff_t len) const {
+        writeRunStreaming(
+            dst, len, [=, this](ptrdiff_t i) { return (*this)(bits, from + i); },
+            [=](ptrdiff_t i, int n) { fetchAhead(bits + (from + i) / kByteBits, n / kByteBits); },
+            [=, this](ptrdiff_t i, ptrdiff_t n) { row(bits, from + i, dst + i, n); });
+    }
+};
+
+// Above this traffic in bytes the cache's size is asked for.
+constexpr uint64_t kUnpackFloor = 524288;
 
 template <class T>
 TpxStatus unpack(const Tpx8u* src, int srcStep, int bitOffset, T* dst, int dstStep, TpxiSize roi, T low,
@@ -59,8 +75,18 @@ TpxStatus unpack(const Tpx8u* src, int srcStep, int bitOffset, T* dst, int dstSt
     const int offset = bitOffset % kByteBits;
     ptrdiff_t len = roi.width, height = roi.height;
     joinBitRows(len, height, offset, srcStep, sizeof(T), dstStep);
-    walkRows(src, srcStep, dst, dstStep, height,
-             [=](const Tpx8u* s, T* d) { unpackRow(s, offset, d, len, low, high); });
+    using B = typename Unpack<T>::B;
+    const B lowBits = bitsAs<B>(splat<Vec<T>>(low));
+    const Unpack<T> values{lowBits, lowBits ^ bitsAs<B>(splat<Vec<T>>(high))};
+    const uint64_t samples = uint64_t(len) * uint64_t(height);
+    if (exceedsCache(samples * sizeof(T) + samples / kByteBits, kUnpackFloor)) {
+        walkRows(src, srcStep, dst, dstStep, height,
+                 [=](const Tpx8u* s, T* d) { values.rowStreaming(s, offset, d, len); });
+        streamFence();
+    } else {
+        walkRows(src, srcStep, dst, dstStep, height,
+                 [=](const Tpx8u* s, T* d) { values.row(s, offset, d, len); });
+    }
     return tpxOk;
 }
 
@@ -110,10 +136,21 @@ void packRow(const T* src, Tpx8u* dst, int offset, ptrdiff_t len, T threshold) {
         src += head;
         len -= head;
     }
-    for (; len >= kGroup; src += kGroup, dst += 2, len -= kGroup) {
-        const Tpx16u both = Tpx16u(above(src));
-        __builtin_memcpy(dst, &both, sizeof both);
-    }
+    const auto groups = [=](const T* from, Tpx8u* to, int count) {
+        for (int i = 0; i < count; i++) {
+            const Tpx16u both = Tpx16u(above(from + i * kGroup));
+            __builtin_memcpy(to + i * int(sizeof both), &both, sizeof both);
+        }
+    };
+    // Memory serves four pages side by side faster than one.
+    constexpr ptrdiff_t kPage = 4096 / sizeof(T), kLine = kLineBytes / sizeof(T);
+    for (; len >= 4 * kPage; src += 4 * kPage, dst += 4 * kPage / kByteBits, len -= 4 * kPage)
+        for (ptrdiff_t i = 0; i < kPage; i += kLine)
+            for (ptrdiff_t at = i; at < i + 4 * kPage; at += kPage) {
+                fetchAhead(src + at, kLineBytes);
+                groups(src + at, dst + at / kByteBits, kLine / kGroup);
+            }
+    for (; len >= kGroup; src += kGroup, dst += kGroup / kByteBits, len -= kGroup) groups(src, dst, 1);
     if (len == 0) return;
     // The group that ends where the row ends; a padded one goes on behind it.
     Tpx32u rest = isShort ? above(padded) >> (src - padded) : above(src + len - kGroup) >> (kGroup - len);
