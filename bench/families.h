@@ -5,6 +5,7 @@ namespace bench {
 
 void addBorders();
 void addCopies();
+void addChannels();
 void addUnary();
 void addResizes();
 

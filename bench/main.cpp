@@ -105,6 +105,7 @@ int run(int argc, char** argv) {
         }
     }
     addCopies();
+    addChannels();
     addBorders();
     addUnary();
     addResizes();

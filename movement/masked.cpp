@@ -11,9 +11,8 @@ template <int N, class T>
 struct MaskPlaces {
     alignas(16) Tpx8u pixel[N][kBlockBytes];
     constexpr MaskPlaces() : pixel{} {
-        for (int i = 0; i < N * kBlockBytes; i++) {
+        for (int i = 0; i < N * kBlockBytes; i++)
             pixel[i / kBlockBytes][i % kBlockBytes] = Tpx8u(i / (N * int(sizeof(T))));
-        }
     }
 };
 template <int N, class T>
