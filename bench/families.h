@@ -3,7 +3,9 @@
 
 namespace bench {
 
+void addBorders();
 void addCopies();
+void addChannels();
 void addUnary();
 void addBinary();
 void addThresholds();

@@ -105,6 +105,8 @@ int run(int argc, char** argv) {
         }
     }
     addCopies();
+    addChannels();
+    addBorders();
     addUnary();
     addBinary();
     addThresholds();

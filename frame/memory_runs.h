@@ -18,50 +18,68 @@ void copyRowBackward(void* dst, const void* src, int64_t bytes);
 // Past the caches, line by line. The ranges do not overlap. The caller fences once, after its last row.
 void copyRowStreaming(void* dst, const void* src, int64_t bytes);
 
-// dst[i] = rule(src[i], ...) past the caches, from one source or more, none of them the destination. The caller
-// fences once, after its last row.
+// Asks for the lines that will be read some turns after these bytes.
+inline void fetchAhead(const void* p, int bytes) {
+    const ptrdiff_t ahead = bytes > 128 ? 4 * bytes : 512;
+    for (int line = 0; line < bytes; line += kLineBytes)
+        _mm_prefetch(static_cast<const char*>(p) + ahead + line, _MM_HINT_T0);
+}
+
+// writeRun (frame/runs.h) past the caches: dst[i...] = at(i, k), where k is the register's place in its group
+// of G, as in mapGroups. fetch(i, n) asks for what n samples from i on will need, plain(i, n) writes them into
+// the caches. The destination is no source. The caller fences once, after its last row.
 //
 // Stores past the caches leave the processor as whole lines if nothing else comes between the parts of a line,
 // so results are gathered in a small block and moved out in one go. Four pages are worked on side by side and
 // their sources fetched ahead, since memory serves several streams faster than one.
-//
-// rule(k, x...) is told the register's place in its group of G, as in mapGroups; rest(dst, len, src...) writes
-// what does not fill a turn, into the caches.
-template <int G, class T, class Rule, class Rest, class... Src>
-inline void streamGroups(T* dst, ptrdiff_t len, Rule&& rule, Rest&& rest, const Src*... src) {
-    constexpr ptrdiff_t L = kLanes<T>, kTurn = G * 128 / sizeof(T), kPage = G * 4096 / sizeof(T), kAhead = 512;
-    const auto fetch = [](const auto* p) {
-        for (int line = 0; line < kTurn * int(sizeof(T)); line += kLineBytes)
-            _mm_prefetch(reinterpret_cast<const char*>(p) + kAhead + line, _MM_HINT_T0);
-    };
-    const auto turns = [&]<int Pages>(std::integral_constant<int, Pages>, ptrdiff_t at) {
-        alignas(kLineBytes) T block[Pages * kTurn];
-        for (int page = 0; page < Pages; page++) (fetch(src + at + page * kPage), ...);
+template <int G = 1, class D, class At, class Fetch, class Plain>
+inline void writeRunStreaming(D* dst, ptrdiff_t len, At at, Fetch fetch, Plain plain) {
+    constexpr ptrdiff_t L = kLanes<D>, kTurn = G * 128 / sizeof(D), kPage = G * 4096 / sizeof(D);
+    const auto turns = [&]<int Pages>(std::integral_constant<int, Pages>, ptrdiff_t begin) {
+        alignas(kLineBytes) D block[Pages * kTurn];
+        for (int page = 0; page < Pages; page++) fetch(begin + page * kPage, kTurn);
         for (int page = 0; page < Pages; page++)
-            for (int i = 0; i < kTurn / L; i++)
-                store(block + page * kTurn + i * L, rule(i % G, load(src + at + page * kPage + i * L)...));
+            for (int k = 0; k < kTurn / L; k++)
+                store(block + page * kTurn + k * L, at(begin + page * kPage + k * L, k % G));
         for (int page = 0; page < Pages; page++)
             for (int i = 0; i < kTurn; i += L)
-                streamStore(dst + at + page * kPage + i, load(block + page * kTurn + i));
+                streamStore(dst + begin + page * kPage + i, load(block + page * kTurn + i));
     };
 
     // The bulk begins on a line of the destination and with a group: a line's samples and G have no common
     // divisor.
-    ptrdiff_t head = bytesToLine(dst) / ptrdiff_t(sizeof(T));
-    while (head % G) head += kLineBytes / ptrdiff_t(sizeof(T));
-    if (len < head + kTurn || bytesToLine(dst + head) != 0) return rest(dst, len, src...);
-    if (head) rest(dst, head, src...);
+    ptrdiff_t head = bytesToLine(dst) / ptrdiff_t(sizeof(D));
+    while (head % G) head += kLineBytes / ptrdiff_t(sizeof(D));
+    if (len < head + kTurn || bytesToLine(dst + head) != 0) return plain(0, len);
+    if (head) plain(0, head);
     ptrdiff_t i = head;
     for (; i + 4 * kPage <= len; i += 4 * kPage)
         for (ptrdiff_t j = 0; j < kPage; j += kTurn) turns(std::integral_constant<int, 4>{}, i + j);
     for (; i + kTurn <= len; i += kTurn) turns(std::integral_constant<int, 1>{}, i);
-    if (i < len) rest(dst + i, len - i, (src + i)...);
+    if (i < len) plain(i, len - i);
+}
+
+// convertRun, mapGroups (its rest by rest(dst, len, src)), applyRun and mapRun past the caches.
+template <class S, class D, class Rule>
+inline void convertRunStreaming(const S* src, D* dst, ptrdiff_t len, Rule&& rule) {
+    writeRunStreaming(
+        dst, len, [&](ptrdiff_t i, int) { return rule(src + i); },
+        [&](ptrdiff_t i, int n) { fetchAhead(src + i, n * int(sizeof(S))); },
+        [&](ptrdiff_t i, ptrdiff_t n) { convertRun(src + i, dst + i, n, rule); });
+}
+template <int G, class T, class Rule, class Rest>
+inline void streamGroups(const T* src, T* dst, ptrdiff_t len, Rule&& rule, Rest&& rest) {
+    writeRunStreaming<G>(
+        dst, len, [&](ptrdiff_t i, int k) { return rule(load(src + i), k); },
+        [&](ptrdiff_t i, int n) { fetchAhead(src + i, n * int(sizeof(T))); },
+        [&](ptrdiff_t i, ptrdiff_t n) { rest(dst + i, n, src + i); });
 }
 template <class T, class Rule, class... Src>
 inline void streamRun(T* dst, ptrdiff_t len, Rule&& rule, const Src*... src) {
-    streamGroups<1>(
-        dst, len, [&](int, auto... x) { return rule(x...); },
-        [&](T* d, ptrdiff_t n, const Src*... s) { applyRun(d, n, rule, s...); }, src...);
+    writeRunStreaming(
+        dst, len, [&](ptrdiff_t i, int) { return rule(load(src + i)...); },
+        [&](ptrdiff_t i, int n) { (fetchAhead(src + i, n * int(sizeof(Src))), ...); },
+        [&](ptrdiff_t i, ptrdiff_t n) { applyRun(dst + i, n, rule, (src + i)...); });
 }
 template <class T, class Rule>
 inline void mapRunStreaming(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {

@@ -36,7 +36,7 @@ inline void copyShort(void* dst, const void* src, ptrdiff_t bytes) {
         ends(Tpx8u{});
 }
 
-// Copies fewer than 96 bytes, which do not overlap.
+// Copies a few registers, which do not overlap.
 inline void copyBlock(void* dst, const void* src, ptrdiff_t bytes) {
     auto d = static_cast<char*>(dst);
     auto s = static_cast<const char*>(src);
@@ -142,6 +142,35 @@ template <int G, class T, class Rule>
     ptrdiff_t i = 0;
     for (; i + G * L <= len; i += G * L) group(src + i, dst + i);
     if (i < len) __builtin_memcpy(dst + len - G * L, tail, sizeof tail);
+}
+
+// N samples from fewer; the others repeat the last.
+template <int N, class T>
+inline void padRun(T (&padded)[N], const T* src, ptrdiff_t len) {
+    for (ptrdiff_t i = 0; i < N; i++) __builtin_memcpy(padded + i, src + (i < len ? i : len - 1), sizeof(T));
+}
+
+// dst[i...] = rule(src + i), where both have samples of their own types: rule(p) makes a register of results
+// from as many samples at p.
+template <class D, class S, class Rule>
+inline Vec<D> convertShort(const S* src, ptrdiff_t len, Rule&& rule) {
+    S padded[kLanes<D>];
+    padRun(padded, src, len);
+    return rule(padded);
+}
+template <class S, class D, class Rule>
+inline void convertRun(const S* src, D* dst, ptrdiff_t len, Rule&& rule) {
+    writeRun(
+        dst, len, samplesToBoundary(dst), [&](ptrdiff_t i) { return rule(src + i); },
+        [&] { return convertShort<D>(src, len, rule); });
+}
+
+// The same on pixels of four samples, whose fourth is left as it was; the length is in samples.
+template <class S, class D, class Rule>
+inline void convertColours(const S* src, D* dst, ptrdiff_t len, Rule&& rule) {
+    writeRun(
+        dst, len, 0, [&](ptrdiff_t i) { return keepAlpha<D>(load(dst + i), rule(src + i)); },
+        [&] { return keepAlpha<D>(loadShort(dst, len), convertShort<D>(src, len, rule)); });
 }
 
 // The index of the first sample whose lane of test(x) is set, or -1.

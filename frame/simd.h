@@ -48,6 +48,12 @@ struct Pair {
     V low, high;
 };
 
+// N registers.
+template <class V, int N>
+struct Several {
+    V at[N];
+};
+
 // The integer with the width of a floating-point sample, and its register (32 bytes, unlike Vec<Tpx32s>):
 // what a comparison of Vec<T> gives, and how the bits of a float are worked on.
 template <class T>
@@ -236,6 +242,132 @@ inline V32f reverseLanes(V32f a) {
     return V32f(_mm256_shuffle_ps(halves, halves, _MM_SHUFFLE(0, 1, 2, 3)));
 }
 
+// ---- Channels: pixels of three or four samples to registers of one channel each, and back -------------------
+
+// Byte i becomes byte control[i], or 0 where the control's top bit is set.
+inline V8u shuffleBytes(V8u a, V8u control) { return V8u(_mm_shuffle_epi8(__m128i(a), __m128i(control))); }
+
+// Units of so many bytes of `a` and `b` in turn, from the lower half of both or from the upper.
+template <int Bytes, bool High>
+inline V8u interleaveUnits(V8u a8, V8u b8) {
+    const __m128i a = __m128i(a8), b = __m128i(b8);
+    if constexpr (Bytes == 1)
+        return V8u(High ? _mm_unpackhi_epi8(a, b) : _mm_unpacklo_epi8(a, b));
+    else if constexpr (Bytes == 2)
+        return V8u(High ? _mm_unpackhi_epi16(a, b) : _mm_unpacklo_epi16(a, b));
+    else if constexpr (Bytes == 4)
+        return V8u(High ? _mm_unpackhi_epi32(a, b) : _mm_unpacklo_epi32(a, b));
+    else
+        return V8u(High ? _mm_unpackhi_epi64(a, b) : _mm_unpacklo_epi64(a, b));
+}
+
+// Of the samples of `Bytes` bytes in three registers of pixels of three: where each comes from and goes to.
+template <int Bytes>
+struct TripleControls {
+    static constexpr int kLanes = 16 / Bytes;
+    // Planes: byte i of channel c from register k of pixels, and the reverse; 0x80 where it is in another.
+    alignas(16) Tpx8u toPlane[3][3][16], toPixels[3][3][16];
+    // The same without regard to the register: the three places are different ones.
+    alignas(16) Tpx8u toPlaneAny[3][16], toPixelsAny[3][16];
+    constexpr TripleControls() : toPlane{}, toPixels{}, toPlaneAny{}, toPixelsAny{} {
+        for (int c = 0; c < 3; c++)
+            for (int i = 0; i < 16; i++) {
+                const int sample = 3 * (i / Bytes) + c, place = sample % kLanes * Bytes + i % Bytes;
+                for (int k = 0; k < 3; k++) {
+                    toPlane[c][k][i] = Tpx8u(sample / kLanes == k ? place : 0x80);
+                    toPixels[k][c][i] = 0x80;
+                }
+                toPlaneAny[c][i] = Tpx8u(place);
+                toPixelsAny[c][place] = Tpx8u(i);
+            }
+        for (int c = 0; c < 3; c++)
+            for (int i = 0; i < 16; i++) {
+                const int sample = 3 * (i / Bytes) + c;
+                toPixels[sample / kLanes][c][sample % kLanes * Bytes + i % Bytes] = Tpx8u(i);
+            }
+    }
+    // Which 16-bit units of register k of pixels hold channel c.
+    static constexpr int units(int k, int c) {
+        int mask = 0;
+        for (int u = 0; u < 8; u++)
+            if ((k * kLanes + 2 * u / Bytes) % 3 == c) mask |= 1 << u;
+        return mask;
+    }
+};
+template <int Bytes>
+inline constexpr TripleControls<Bytes> kTripleControls;
+
+// Register `K` of what consists of `a`, `b` and `c` where `K`, as pixels or as planes, has them.
+template <int A, int B>
+inline V8u blendThree(V8u a, V8u b, V8u c) {
+    const __m128i ab = _mm_blend_epi16(__m128i(c), __m128i(a), A);
+    return V8u(_mm_blend_epi16(ab, __m128i(b), B));
+}
+
+// Pixels of three samples of `Bytes` bytes to channels.
+template <int Bytes>
+inline Several<V8u, 3> deinterleave(const Several<V8u, 3>& a) {
+    constexpr auto& controls = kTripleControls<Bytes>;
+    Several<V8u, 3> planes;
+    if constexpr (Bytes == 1) { // no cheap choice of bytes
+        for (int c = 0; c < 3; c++)
+            planes.at[c] = shuffleBytes(a.at[0], load(controls.toPlane[c][0])) |
+                           shuffleBytes(a.at[1], load(controls.toPlane[c][1])) |
+                           shuffleBytes(a.at[2], load(controls.toPlane[c][2]));
+    } else {
+        using C = TripleControls<Bytes>;
+        const V8u mixed[3] = {blendThree<C::units(0, 0), C::units(1, 0)>(a.at[0], a.at[1], a.at[2]),
+                              blendThree<C::units(0, 1), C::units(1, 1)>(a.at[0], a.at[1], a.at[2]),
+                              blendThree<C::units(0, 2), C::units(1, 2)>(a.at[0], a.at[1], a.at[2])};
+        for (int c = 0; c < 3; c++) planes.at[c] = shuffleBytes(mixed[c], load(controls.toPlaneAny[c]));
+    }
+    return planes;
+}
+
+// Channels to pixels.
+template <int Bytes>
+inline Several<V8u, 3> interleave(const Several<V8u, 3>& a) {
+    constexpr auto& controls = kTripleControls<Bytes>;
+    if constexpr (Bytes == 1) {
+        Several<V8u, 3> pixels;
+        for (int k = 0; k < 3; k++)
+            pixels.at[k] = shuffleBytes(a.at[0], load(controls.toPixels[k][0])) |
+                           shuffleBytes(a.at[1], load(controls.toPixels[k][1])) |
+                           shuffleBytes(a.at[2], load(controls.toPixels[k][2]));
+        return pixels;
+    } else {
+        using C = TripleControls<Bytes>;
+        V8u spread[3];
+        for (int c = 0; c < 3; c++) spread[c] = shuffleBytes(a.at[c], load(controls.toPixelsAny[c]));
+        return {{blendThree<C::units(0, 0), C::units(0, 1)>(spread[0], spread[1], spread[2]),
+                 blendThree<C::units(1, 0), C::units(1, 1)>(spread[0], spread[1], spread[2]),
+                 blendThree<C::units(2, 0), C::units(2, 1)>(spread[0], spread[1], spread[2])}};
+    }
+}
+
+// The same for pixels of four samples. Samples of less than four bytes are first collected within a register.
+template <int Bytes>
+inline Several<V8u, 4> deinterleave(const Several<V8u, 4>& a) {
+    const V8u collect = Bytes == 1 ? V8u{0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15}
+                                   : V8u{0, 1, 8, 9, 2, 3, 10, 11, 4, 5, 12, 13, 6, 7, 14, 15};
+    Several<V8u, 4> x = a;
+    if constexpr (Bytes < 4)
+        for (auto& v : x.at) v = shuffleBytes(v, collect);
+    const V8u p = interleaveUnits<4, false>(x.at[0], x.at[1]), q = interleaveUnits<4, false>(x.at[2], x.at[3]);
+    const V8u r = interleaveUnits<4, true>(x.at[0], x.at[1]), s = interleaveUnits<4, true>(x.at[2], x.at[3]);
+    return {{interleaveUnits<8, false>(p, q), interleaveUnits<8, true>(p, q), interleaveUnits<8, false>(r, s),
+             interleaveUnits<8, true>(r, s)}};
+}
+template <int Bytes>
+inline Several<V8u, 4> interleave(const Several<V8u, 4>& a) {
+    const V8u p = interleaveUnits<Bytes, false>(a.at[0], a.at[1]),
+              q = interleaveUnits<Bytes, false>(a.at[2], a.at[3]);
+    const V8u r = interleaveUnits<Bytes, true>(a.at[0], a.at[1]),
+              s = interleaveUnits<Bytes, true>(a.at[2], a.at[3]);
+    return {{interleaveUnits<2 * Bytes, false>(p, q), interleaveUnits<2 * Bytes, true>(p, q),
+             interleaveUnits<2 * Bytes, false>(r, s), interleaveUnits<2 * Bytes, true>(r, s)}};
+}
+
 // ---- Absolute value: the type's smallest integer gives its largest ----------------------------------------
 
 inline V16s absSat(V16s a) { return V16s(_mm_abs_epi16(__m128i(maxOf(a, splat<V16s>(-32767))))); }
@@ -243,10 +375,23 @@ inline V32f absSat(V32f a) {
     return V32f(_mm256_and_ps(a, _mm256_castsi256_ps(_mm256_set1_epi32(0x7FFFFFFF))));
 }
 
+// The magnitude with the sign of another sample, 0 where that is 0.
+inline V16s withSign(V16u a, V16s sign) { return V16s(_mm_sign_epi16(__m128i(a), __m128i(sign))); }
+inline V32s withSign(V32u a, V32s sign) { return V32s(_mm_sign_epi32(__m128i(a), __m128i(sign))); }
+
 // The magnitude as an unsigned integer.
 inline V8u magnitude(V8u a) { return a; }
 inline V16u magnitude(V16u a) { return a; }
+inline V32u magnitude(V32u a) { return a; }
 inline V16u magnitude(V16s a) { return V16u(_mm_abs_epi16(__m128i(a))); }
+inline V32u magnitude(V32s a) { return V32u(_mm_abs_epi32(__m128i(a))); }
+
+// A register of floating point from integers, rounded with the thread's rounding mode.
+inline V32f toFloat(Pair<V32s> a) {
+    return V32f(_mm256_cvtepi32_ps(
+        _mm256_insertf128_si256(_mm256_castsi128_si256(__m128i(a.low)), __m128i(a.high), 1)));
+}
+inline V64f toDouble(V32s a) { return V64f(_mm256_cvtepi32_pd(__m128i(a))); }
 
 // ---- Widening and narrowing -------------------------------------------------------------------------------
 
@@ -259,6 +404,35 @@ inline Pair<V32u> widen(V16u a) {
 inline Pair<V32s> widen(V16s a) {
     return {V32s(_mm_cvtepi16_epi32(__m128i(a))),
             V32s(_mm_srai_epi32(_mm_unpackhi_epi16(__m128i(a), __m128i(a)), 16))};
+}
+
+// A register of To from as many samples of a type that is no wider and whose values it holds.
+template <class To, class From>
+inline Vec<To> loadAs(const From* p) {
+    if constexpr (std::is_integral_v<To> && sizeof(To) == sizeof(From)) {
+        return bitsAs<Vec<To>>(load(p));
+    } else if constexpr (std::is_same_v<To, Tpx32f>) {
+        return toFloat(Pair<V32s>{loadAs<Tpx32s>(p), loadAs<Tpx32s>(p + 4)});
+    } else if constexpr (std::is_same_v<To, Tpx64f>) {
+        return toDouble(loadAs<Tpx32s>(p));
+    } else {
+        constexpr int kBytes = kLanes<To> * int(sizeof(From));
+        std::conditional_t<kBytes == 8, Tpx64s, Tpx32s> bits;
+        __builtin_memcpy(&bits, p, kBytes);
+        __m128i v;
+        if constexpr (kBytes == 8)
+            v = _mm_cvtsi64_si128(bits);
+        else
+            v = _mm_cvtsi32_si128(bits);
+        constexpr bool s = std::is_signed_v<From>;
+        if constexpr (sizeof(To) == 2)
+            v = s ? _mm_cvtepi8_epi16(v) : _mm_cvtepu8_epi16(v);
+        else if constexpr (sizeof(From) == 1)
+            v = s ? _mm_cvtepi8_epi32(v) : _mm_cvtepu8_epi32(v);
+        else
+            v = s ? _mm_cvtepi16_epi32(v) : _mm_cvtepu16_epi32(v);
+        return Vec<To>(v);
+    }
 }
 
 // Products of lanes in twice the width.
@@ -301,6 +475,37 @@ template <class T>
 inline Vec<T> narrow(Pair<V32u> a) {
     return narrow<T>(Pair<V32s>{V32s(a.low), V32s(a.high)});
 }
+
+// ---- Masks of bits: bit i stands for lane i
+// ---------------------------------------------------------------------
+
+// All bits set in the lanes whose bit is, as a comparison of Vec<T> gives it. Bits above the lanes are ignored.
+template <class T>
+inline auto laneMask(Tpx32u bits) {
+    const __m128i v = _mm_cvtsi32_si128(int(bits));
+    if constexpr (sizeof(T) == 1) {
+        const __m128i bit = _mm_set1_epi64x(Tpx64s(0x8040201008040201));
+        const __m128i spread = _mm_shuffle_epi8(v, _mm_set_epi64x(0x0101010101010101, 0));
+        return Vec<std::make_signed_t<T>>(_mm_cmpeq_epi8(_mm_and_si128(spread, bit), bit));
+    } else if constexpr (sizeof(T) == 2) {
+        const __m128i bit = _mm_set_epi16(128, 64, 32, 16, 8, 4, 2, 1);
+        const __m128i spread = _mm_shuffle_epi8(v, __m128i{});
+        return Vec<std::make_signed_t<T>>(_mm_cmpeq_epi16(_mm_and_si128(spread, bit), bit));
+    } else {
+        static_assert(std::is_same_v<T, Tpx32f>);
+        const __m128i low = _mm_set_epi32(8, 4, 2, 1), high = _mm_set_epi32(128, 64, 32, 16);
+        const __m128i spread = _mm_shuffle_epi8(v, __m128i{});
+        return B32f(
+            _mm256_insertf128_si256(_mm256_castsi128_si256(_mm_cmpeq_epi32(_mm_and_si128(spread, low), low)),
+                                    _mm_cmpeq_epi32(_mm_and_si128(spread, high), high), 1));
+    }
+}
+
+// The bits of a comparison's lanes.
+inline Tpx32u laneBits(V8s mask) { return Tpx32u(_mm_movemask_epi8(__m128i(mask))); }
+inline Tpx32u laneBits(B32f mask) { return Tpx32u(_mm256_movemask_ps(bitsAs<__m256>(mask))); }
+inline Tpx32u laneBits(Pair<V16s> masks) { return laneBits(narrow<Tpx8s>(masks)); }
+inline Tpx32u laneBits(Pair<B32f> masks) { return laneBits(masks.low) | laneBits(masks.high) << 8; }
 
 // ---- Tables of 16 entries, indexed by lanes from 0 to 15 ----------------------------------------------------
 
@@ -357,18 +562,12 @@ inline V64f roundNearest(V64f a) {
     return V64f(_mm256_round_pd(a, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC));
 }
 
-// A register of single precision from two registers of integers, and back. The way back rounds with the
-// thread's rounding mode; a value outside the integers gives the smallest one.
-inline V32f toFloat(Pair<V32s> a) {
-    return V32f(_mm256_cvtepi32_ps(
-        _mm256_insertf128_si256(_mm256_castsi128_si256(__m128i(a.low)), __m128i(a.high), 1)));
-}
+// Integers from a register of floating point (toFloat and toDouble stand above), rounded with the thread's
+// rounding mode; a value outside the integers gives the smallest one.
 inline Pair<V32s> toInteger(V32f a) {
     const __m256i i = _mm256_cvtps_epi32(a);
     return {V32s(_mm256_castsi256_si128(i)), V32s(_mm256_extractf128_si256(i, 1))};
 }
-// A register of double precision from one of integers, and back.
-inline V64f toDouble(V32s a) { return V64f(_mm256_cvtepi32_pd(__m128i(a))); }
 inline V32s toInteger(V64f a) { return V32s(_mm256_cvtpd_epi32(a)); }
 
 } // namespace tpx

@@ -40,6 +40,15 @@ inline void streamStore(T* p, Vec<T> v) {
         _mm_stream_si128(reinterpret_cast<__m128i*>(p), bitsAs<__m128i>(v));
 }
 
+// Moves whole lines past the caches; both addresses lie on lines.
+inline void streamLines(Tpx8u* dst, const Tpx8u* lines, ptrdiff_t bytes) {
+    for (ptrdiff_t i = 0; i < bytes; i += ptrdiff_t(sizeof(V32f))) {
+        V32f v;
+        __builtin_memcpy(&v, lines + i, sizeof v);
+        _mm256_stream_ps(reinterpret_cast<float*>(dst + i), v);
+    }
+}
+
 // Ends a call that has streamed, so that the result is visible to whoever synchronises with the caller.
 inline void streamFence() { _mm_sfence(); }
 

@@ -115,8 +115,7 @@ void mapImages(const Images<T>& images, Rule rule) {
         if constexpr (L == Layout::AC4)
             mapColours<T>(s, d, len, single);
         else if (stream && linesOfPixels)
-            streamGroups<kGroup<L>>(
-                d, len, [&](int k, auto x) { return rule(x, k); }, cached, s);
+            streamGroups<kGroup<L>>(s, d, len, rule, cached);
         else
             cached(d, len, s);
     });

@@ -76,6 +76,27 @@ void set(const T* pixel, size_t channels, T* dst, size_t length) {
         for (size_t channel = 0; channel < channels; ++channel) dst[i + channel] = pixel[channel];
 }
 
+template <typename T, size_t Channels>
+void moveFixed(const T* const* from, ptrdiff_t srcStride, T* const* to, ptrdiff_t dstStride, const Tpx8u* mask,
+               size_t pixels) {
+    const T* src[Channels];
+    T* dst[Channels];
+    for (size_t k = 0; k < Channels; ++k) src[k] = from[k], dst[k] = to[k];
+    for (size_t x = 0; x < pixels; ++x) {
+        if (mask && !mask[x]) continue;
+        const ptrdiff_t at = static_cast<ptrdiff_t>(x);
+        for (size_t k = 0; k < Channels; ++k) dst[k][at * dstStride] = src[k][at * srcStride];
+    }
+}
+
+template <typename T>
+void moveChannels(const T* const* src, ptrdiff_t srcStride, T* const* dst, ptrdiff_t dstStride, size_t channels,
+                  const Tpx8u* mask, size_t pixels) {
+    if (channels == 1) moveFixed<T, 1>(src, srcStride, dst, dstStride, mask, pixels);
+    if (channels == 3) moveFixed<T, 3>(src, srcStride, dst, dstStride, mask, pixels);
+    if (channels == 4) moveFixed<T, 4>(src, srcStride, dst, dstStride, mask, pixels);
+}
+
 template <typename T>
 void abs(const T* src, T* dst, size_t length) {
     for (size_t i = 0; i < length; ++i) {
@@ -159,7 +180,10 @@ void thresholdLtValGtVal(const T* src, T* dst, size_t length, const Thresholds<T
 #define MOVING(T)                                      \
     template void copy(const T*, T*, size_t);          \
     template void copyKeepAlpha(const T*, T*, size_t); \
-    template void set(const T*, size_t, T*, size_t);
+    template void set(const T*, size_t, T*, size_t);   \
+    CHANNELS(T)
+#define CHANNELS(T) \
+    template void moveChannels(const T* const*, ptrdiff_t, T* const*, ptrdiff_t, size_t, const Tpx8u*, size_t);
 #define UNARY(T)                                   \
     template void sqr(const T*, T*, size_t, int);  \
     template void sqrt(const T*, T*, size_t, int); \
@@ -179,6 +203,7 @@ void thresholdLtValGtVal(const T* src, T* dst, size_t length, const Thresholds<T
 MOVING(Tpx8u)
 MOVING(Tpx16s)
 MOVING(Tpx32f)
+CHANNELS(Tpx16u)
 UNARY(Tpx8u)
 UNARY(Tpx16u)
 UNARY(Tpx16s)

@@ -18,6 +18,12 @@ void copyKeepAlpha(const T* src, T* dst, size_t length);
 template <typename T>
 void set(const T* pixel, size_t channels, T* dst, size_t length);
 
+// dst[k][x * dstStride] = src[k][x * srcStride] for each of so many channels; under a mask, if there is one,
+// where it is not zero.
+template <typename T>
+void moveChannels(const T* const* src, ptrdiff_t srcStride, T* const* dst, ptrdiff_t dstStride, size_t channels,
+                  const Tpx8u* mask, size_t pixels);
+
 template <typename T>
 void abs(const T* src, T* dst, size_t length);
 // Integer samples are scaled, rounded and saturated; others take a scale factor of 0.

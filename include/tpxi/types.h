@@ -216,6 +216,10 @@ enum { tpxCmpLess = 0, tpxCmpLessEq = 1, tpxCmpEq = 2, tpxCmpGreaterEq = 3, tpxC
 typedef int TpxHintAlgorithm;
 enum { tpxHintFast = 1, tpxHintAccurate = 2 };
 
+/* How tpxiCopyManaged moves memory: a set of bits. */
+typedef int TpxCopyFlags;
+enum { tpxCopyNonTemporalStore = 1, tpxCopyNonTemporalLoad = 2 };
+
 /* Where an FFT divides by the number of samples. */
 typedef int TpxFftFlag;
 enum { tpxFftDivForward = 1, tpxFftDivInverse = 2, tpxFftDivBySqrt = 4, tpxFftNoDivide = 8 };

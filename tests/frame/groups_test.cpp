@@ -127,24 +127,23 @@ void checkStreaming() {
             std::memcpy(x.data(), a.data(), size_t(len) * sizeof(T));
             std::memcpy(y.data(), b.data(), size_t(len) * sizeof(T));
             const auto want = [&](ptrdiff_t i) {
-                return T(T(a[size_t(i)] - b[size_t(i)]) + (G == 1 ? T(0) : turns.sample(i)));
+                return G == 1 ? T(a[size_t(i)] - b[size_t(i)]) : T(a[size_t(i)] + turns.sample(i));
             };
             if constexpr (G == 1) {
                 streamRun(
                     dst.data(), len, [](auto p, auto q) { return p - q; }, (const T*)x.data(),
                     (const T*)y.data());
             } else {
-                streamGroups<G>(
-                    dst.data(), len, [&](int k, auto p, auto q) { return p - q + turns.of[k]; },
-                    // Each rest begins with a pixel, and with the group's first register.
-                    [&](T* d, ptrdiff_t n, const T* p, const T* q) {
-                        ASSERT_EQ(n % G, 0);
-                        for (ptrdiff_t i = 0; i < n; i++) {
-                            const T value = T(T(at(p, i) - at(q, i)) + turns.sample(i));
-                            std::memcpy(d + i, &value, sizeof value);
-                        }
-                    },
-                    (const T*)x.data(), (const T*)y.data());
+                streamGroups<G>((const T*)x.data(), dst.data(), len,
+                                [&](auto p, int k) { return p + turns.of[k]; },
+                                // Each rest begins with a pixel, and with the group's first register.
+                                [&](T* d, ptrdiff_t n, const T* p) {
+                                    ASSERT_EQ(n % G, 0);
+                                    for (ptrdiff_t i = 0; i < n; i++) {
+                                        const T value = T(at(p, i) + turns.sample(i));
+                                        std::memcpy(d + i, &value, sizeof value);
+                                    }
+                                });
             }
             streamFence();
             ASSERT_NO_FATAL_FAILURE(expectRun(dst, len, want)) << "misaligned by " << misalign;

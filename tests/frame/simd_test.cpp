@@ -273,9 +273,42 @@ TEST(Simd, AbsoluteValues) {
         [](float a) { return std::bit_cast<float>(std::bit_cast<uint32_t>(a) & 0x7FFFFFFF); });
     checkEach<Tpx16s>(
         "magnitude", [](auto a) { return magnitude(a); }, [](int a) { return std::abs(a); });
+    checkEach<Tpx32s>(
+        "magnitude", [](auto a) { return magnitude(a); }, [](Tpx64s a) { return std::abs(a); });
+    const auto signedBy = [](Tpx64s a, Tpx64s b) { return b < 0 ? -a : b > 0 ? a : 0; };
+    checkPairs<Tpx16s>(
+        "withSign", [](auto a, auto b) { return withSign(V16u(a), b); }, signedBy);
+    checkPairs<Tpx32s>(
+        "withSign", [](auto a, auto b) { return withSign(V32u(a), b); }, signedBy);
+}
+
+// Every sample of From as To, from memory that ends behind the last.
+template <class To, class From>
+void checkLoadAs() {
+    constexpr int L = kLanes<To>;
+    const auto values = allOf<From>();
+    test::GuardedImage<From> image(L, 1, 1, {0, test::Edge::End, 1});
+    for (size_t i = 0; i < values.size(); i += L) {
+        for (int k = 0; k < L; k++) image.set(k, 0, 0, values[(i + size_t(k)) % values.size()]);
+        const Vec<To> r = loadAs<To>(image.data());
+        for (int k = 0; k < L; k++) ASSERT_EQ(r[k], To(image.at(k, 0)));
+    }
 }
 
 TEST(Simd, WideningAndNarrowing) {
+    checkLoadAs<Tpx16u, Tpx8u>();
+    checkLoadAs<Tpx16s, Tpx8u>();
+    checkLoadAs<Tpx16s, Tpx8s>();
+    checkLoadAs<Tpx32u, Tpx8u>();
+    checkLoadAs<Tpx32s, Tpx8s>();
+    checkLoadAs<Tpx32s, Tpx16s>();
+    checkLoadAs<Tpx32u, Tpx16u>();
+    checkLoadAs<Tpx32u, Tpx32s>();
+    checkLoadAs<Tpx32f, Tpx8u>();
+    checkLoadAs<Tpx32f, Tpx8s>();
+    checkLoadAs<Tpx32f, Tpx16u>();
+    checkLoadAs<Tpx32f, Tpx16s>();
+    checkLoadAs<Tpx64f, Tpx8s>();
     checkWiden<Tpx8u>();
     checkWiden<Tpx16u>();
     checkWiden<Tpx16s>();
@@ -330,6 +363,50 @@ TEST(Simd, FloatsAndIntegers) {
             if (x[i] >= 0) ASSERT_EQ(root[i], std::sqrt(x[i])) << x[i];
         }
     });
+}
+
+// Bytes are only moved: if all are different, one arrangement and its complement show every path.
+template <int Bytes, int N>
+void checkChannels(Tpx8u flip) {
+    Several<V8u, N> pixels, planes;
+    const auto byteOf = [&](auto& registers, int i) -> Tpx8u { return registers.at[i / 16][i % 16]; };
+    for (int i = 0; i < N * 16; i++) pixels.at[i / 16][i % 16] = Tpx8u((i + 1) ^ flip);
+    planes = deinterleave<Bytes>(pixels);
+    for (int c = 0; c < N; c++)
+        for (int i = 0; i < 16; i++)
+            ASSERT_EQ(planes.at[c][i], byteOf(pixels, (i / Bytes * N + c) * Bytes + i % Bytes))
+                << Bytes << " bytes, channel " << c << " of " << N << ", byte " << i;
+    const auto back = interleave<Bytes>(planes);
+    for (int i = 0; i < N * 16; i++)
+        ASSERT_EQ(byteOf(back, i), byteOf(pixels, i)) << Bytes << " bytes of " << N;
+}
+
+template <class T>
+void checkMask(Tpx32u bits) {
+    const auto mask = laneMask<T>(bits);
+    for (int i = 0; i < kLanes<T>; i++) ASSERT_EQ(mask[i], bits >> i & 1 ? -1 : 0) << bits << ", lane " << i;
+}
+
+TEST(Simd, MasksOfBits) {
+    for (Tpx32u bits = 0; bits < 65536; bits++) {
+        checkMask<Tpx8u>(bits);
+        checkMask<Tpx16u>(bits);
+        checkMask<Tpx32f>(bits);
+        ASSERT_EQ(laneBits(laneMask<Tpx8u>(bits)), bits);
+        ASSERT_EQ(laneBits(Pair<V16s>{laneMask<Tpx16u>(bits), laneMask<Tpx16u>(bits >> 8)}), bits);
+        ASSERT_EQ(laneBits(Pair<B32f>{laneMask<Tpx32f>(bits), laneMask<Tpx32f>(bits >> 8)}), bits);
+    }
+}
+
+TEST(Simd, ChannelsOfPixels) {
+    for (Tpx8u flip : {0, 255}) {
+        checkChannels<1, 3>(flip);
+        checkChannels<2, 3>(flip);
+        checkChannels<4, 3>(flip);
+        checkChannels<1, 4>(flip);
+        checkChannels<2, 4>(flip);
+        checkChannels<4, 4>(flip);
+    }
 }
 
 TEST(Simd, Tables) {

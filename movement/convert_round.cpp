@@ -1,0 +1,169 @@
+// tpxiConvert of floating point to integers, with a rounding mode and a scale factor.
+//
+// The direction is installed in the control register for the call. Ties away from zero are a half added to the
+// magnitude and the sum truncated; the sum too is rounded toward zero, so the next number below a half does not
+// become 1.
+#include "frame/control.h"
+#include "movement/convert.h"
+
+namespace tpx {
+namespace {
+
+// ---- Rules: Half tells whether to add one before the conversion rounds as the control register says
+// -------------
+
+// The half has the sample's sign.
+template <class V>
+inline V addHalf(V x) {
+    using B = VecBits<LaneOf<V>>;
+    const B sign = bitsAs<B>(splat<V>(-0.0f));
+    return x + bitsAs<V>(bitsAs<B>(splat<V>(0.5f)) | (bitsAs<B>(x) & sign));
+}
+
+// To 8 and 16 bits. The limit from above comes first: with it NaN becomes the largest value. From below the
+// conversion and the narrowing saturate.
+template <class S, class D, bool Half>
+struct ToSmall {
+    S factor;
+    Vec<D> operator()(const S* p) const {
+        using V = Vec<S>;
+        Several<V32s, kLanes<D> / kLanes<Tpx32s>> parts;
+        for (int i = 0; i < kLanes<D> / kLanes<S>; i++) {
+            V x = minOf(load(p + i * kLanes<S>) * splat<V>(factor), splat<V>(S(kMax<D>)));
+            // A negative result is 0 in the end, so a positive half serves unsigned types.
+            if constexpr (Half) x = std::is_signed_v<D> ? addHalf(x) : x + splat<V>(S(0.5));
+            if constexpr (sizeof(S) == 4) {
+                const Pair<V32s> two = toInteger(x);
+                parts.at[2 * i] = two.low;
+                parts.at[2 * i + 1] = two.high;
+            } else {
+                parts.at[i] = toInteger(x);
+            }
+        }
+        return narrowAll<D>(parts);
+    }
+};
+
+// Registers of 32-bit integers as the bits of floats, which are wider.
+inline B32f toIntegerBits(V32f x) { return bitsAs<B32f>(_mm256_cvtps_epi32(x)); }
+
+// What is out of range converts to 0x80000000; that is inverted above the range, where the sample has no sign.
+template <bool Half>
+struct To32s {
+    Tpx32f factor;
+    V32f operator()(const Tpx32f* p) const {
+        const V32f x = load(p) * splat<V32f>(factor);
+        const B32f bits = toIntegerBits(Half ? addHalf(x) : x);
+        const B32f above = ~B32f(x < splat<V32f>(0x1p31f)); // NaN too
+        return select(bitsAs<B32f>(x), bitsAs<V32f>(bits), bitsAs<V32f>(bits ^ above));
+    }
+};
+
+// Above 2^32 and for NaN the largest value; exactly 2^32 is converted, and its low 32 bits are 0. From 2^31 on
+// 2^31 is taken off, which is exact, and put back as a bit.
+template <bool Half>
+struct To32u {
+    Tpx32f factor, again;
+    V32f operator()(const Tpx32f* p) const {
+        const V32f x = load(p) * splat<V32f>(factor) * splat<V32f>(again);
+        const B32f above = ~B32f(x <= splat<V32f>(0x1p32f)); // NaN too
+        const V32f positive = maxOf(x, V32f{});
+        const V32f half = splat<V32f>(0x1p31f);
+        const B32f upper = positive >= half;
+        const V32f low = positive - bitsAs<V32f>(upper & bitsAs<B32f>(half));
+        const B32f bits = toIntegerBits(Half ? low + splat<V32f>(0.5f) : low);
+        return bitsAs<V32f>((bits ^ (upper & bitsAs<B32f>(splat<V32f>(-0.0f)))) | above);
+    }
+};
+
+// ---- Factors
+// -------------------------------------------------------------------------------------------------
+
+// 1 halved n times or doubled -n times: 0 or infinite past the numbers that there are.
+template <class F>
+F scale(int n) {
+    if constexpr (sizeof(F) == 8) {
+        return powerOfTwo<F>(-clamp(n, -1008, 1022)); // numbers, all of them
+    } else {
+        if (n > 149) return 0;
+        if (n > 126) return __builtin_bit_cast(F, Tpx32u(1) << (149 - n)); // denormal
+        return n < -127 ? __builtin_inff() : powerOfTwo<F>(-n);
+    }
+}
+
+// ---- Calls
+// ---------------------------------------------------------------------------------------------------
+
+// body(whether to add a half), in the control that this needs.
+template <class Body>
+inline TpxStatus withRounding(TpxRoundMode mode, Body body) {
+    const FloatControl control(mode == tpxRoundNearestEven ? Rounding::Nearest : Rounding::TowardZero);
+    if (mode == tpxRoundNearestEven || mode == tpxRoundTowardZero) return body(std::false_type{});
+    return body(std::true_type{});
+}
+
+template <Steps K, Layout L, class S, class D>
+TpxStatus convertReal(const S* src, int srcStep, D* dst, int dstStep, TpxiSize roi, TpxRoundMode mode,
+                      int n = 0) {
+    return withRounding(mode, [=](auto half) {
+        constexpr bool kHalf = decltype(half)::value;
+        const auto run = [=](auto to, auto rule) {
+            return convert<K, L>(src, srcStep, to, dstStep, roi, rule);
+        };
+        const auto bits = reinterpret_cast<Tpx32f*>(dst);
+        if constexpr (sizeof(D) < 4) {
+            return run(dst, ToSmall<S, D, kHalf>{scale<S>(n)});
+        } else if constexpr (std::is_signed_v<D>) {
+            return run(bits, To32s<kHalf>{scale<S>(n)});
+        } else {
+            // Samples are scaled exactly, in two steps that no factor of a sample in range leaves: beyond these
+            // limits any number is less than a half, or denormals too are above 2^32. Zero stays 0.
+            const int m = clamp(n, -190, 160);
+            return run(bits, To32u<kHalf>{scale<S>(m / 2), scale<S>(m - m / 2)});
+        }
+    });
+}
+
+} // namespace
+} // namespace tpx
+
+#define TPX_CONVERT_REAL(S, D, L)                                                                            \
+    TPX_ENTRY(tpxiConvert_##S##D##_##L##R)                                                                   \
+    (const Tpx##S* pSrc, int srcStep, Tpx##D* pDst, int dstStep, TpxiSize roiSize, TpxRoundMode roundMode) { \
+        return tpx::convertReal<tpx::Steps::Tested, tpx::Layout::L>(pSrc, srcStep, pDst, dstStep, roiSize,   \
+                                                                    roundMode);                              \
+    }
+#define TPX_CONVERT_REAL_LAYOUTS(D) \
+    TPX_CONVERT_REAL(32f, D, C1)    \
+    TPX_CONVERT_REAL(32f, D, C3)    \
+    TPX_CONVERT_REAL(32f, D, C4)    \
+    TPX_CONVERT_REAL(32f, D, AC4)
+TPX_CONVERT_REAL_LAYOUTS(8u)
+TPX_CONVERT_REAL_LAYOUTS(8s)
+TPX_CONVERT_REAL_LAYOUTS(16u)
+TPX_CONVERT_REAL_LAYOUTS(16s)
+
+#define TPX_CONVERT_REAL_SFS(S, D)                                                                         \
+    TPX_ENTRY(tpxiConvert_##S##D##_C1RSfs)                                                                 \
+    (const Tpx##S* pSrc, int srcStep, Tpx##D* pDst, int dstStep, TpxiSize roiSize, TpxRoundMode roundMode, \
+     int scaleFactor) {                                                                                    \
+        return tpx::convertReal<tpx::Steps::Free, tpx::Layout::C1>(pSrc, srcStep, pDst, dstStep, roiSize,  \
+                                                                   roundMode, scaleFactor);                \
+    }
+TPX_CONVERT_REAL_SFS(32f, 8s)
+TPX_CONVERT_REAL_SFS(32f, 8u)
+TPX_CONVERT_REAL_SFS(32f, 16s)
+TPX_CONVERT_REAL_SFS(32f, 16u)
+TPX_CONVERT_REAL_SFS(32f, 32s)
+TPX_CONVERT_REAL_SFS(32f, 32u)
+TPX_CONVERT_REAL_SFS(64f, 8s)
+TPX_CONVERT_REAL_SFS(64f, 8u)
+TPX_CONVERT_REAL_SFS(64f, 16s)
+TPX_CONVERT_REAL_SFS(64f, 16u)
+
+TPX_ENTRY(tpxiConvert_32f32u_C1IRSfs)
+(Tpx32u* pSrcDst, int srcDstStep, TpxiSize roiSize, TpxRoundMode roundMode, int scaleFactor) {
+    return tpx::convertReal<tpx::Steps::Free, tpx::Layout::C1>(reinterpret_cast<const Tpx32f*>(pSrcDst),
+                                                               srcDstStep, pSrcDst, srcDstStep, roiSize,
+                                                               roundMode, scaleFactor);
+}

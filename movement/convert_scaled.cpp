@@ -1,0 +1,96 @@
+// tpxiConvert of integers with a scale factor.
+#include "movement/convert.h"
+
+namespace tpx {
+namespace {
+
+// The lanes that samples of S are scaled in: their own, but for 8 bits, which no shift serves.
+template <class S>
+using Work = std::conditional_t<sizeof(S) == 1, Tpx16u, S>;
+
+// scale(register of work lanes) for as many registers as fill one of D, saturated. Unsigned results may use all
+// bits.
+template <class D, class S, class Scale>
+inline Vec<D> throughWork(const S* p, Scale scale) {
+    using W = Work<S>;
+    return narrowAll<D>(makeSeveral<kLanes<D> / kLanes<W>>([&](int i) {
+        const Vec<W> x = scale(loadAs<W>(p + i * kLanes<W>));
+        return std::is_signed_v<W> ? x : minOf(x, splat<Vec<W>>(W(kMax<D>)));
+    }));
+}
+
+// n > 0: the magnitude shifted right, the sign restored. Rounding is by half of what is shifted out, added
+// where it cannot overflow: behind a shift by n - 1. With ties to even, 1 is first taken off where the quotient
+// is even, which makes a tie less than half and changes no other quotient.
+template <class S, class D, TpxRoundMode Mode>
+struct Shrink {
+    int n;
+    Vec<D> operator()(const S* p) const {
+        return throughWork<D>(p, [n = n](auto x) {
+            auto m = magnitude(x);
+            using M = decltype(m);
+            if constexpr (Mode == tpxRoundTowardZero) {
+                m = shiftRight(m, n);
+            } else {
+                if constexpr (Mode == tpxRoundNearestEven) m = subSat(m, ~shiftRight(m, n) & splat<M>(1));
+                m = average(shiftRight(m, n - 1), M{});
+            }
+            if constexpr (std::is_same_v<M, decltype(x)>)
+                return m;
+            else
+                return withSign(m, x);
+        });
+    }
+};
+
+// k = -n > 0: shifted left. The sample is first limited to the last that does not saturate and the next above.
+template <class S, class D>
+struct Grow {
+    int k;
+    Vec<D> operator()(const S* p) const {
+        return throughWork<D>(p, [k = k](auto x) {
+            using X = decltype(x);
+            x = minOf(x, splat<X>(LaneOf<X>((kMax<D> >> k) + 1)));
+            if constexpr (std::is_signed_v<LaneOf<X>>) x = maxOf(x, splat<X>(LaneOf<X>(kMin<D> >> k)));
+            return X(shiftLeft(bitsAs<decltype(magnitude(x))>(x), k));
+        });
+    }
+};
+
+// Above the factor `zeroAbove` all samples give 0 in every mode, though wide ones need not come to that.
+template <int ZeroAbove, class S, class D>
+TpxStatus convertScaled(const S* src, int srcStep, D* dst, int dstStep, TpxiSize roi, TpxRoundMode mode,
+                        int n) {
+    const auto run = [&](auto rule) {
+        return convert<Steps::Free, Layout::C1>(src, srcStep, dst, dstStep, roi, rule);
+    };
+    constexpr int kShiftedOut = 64, kValueBits = kBits<D> - std::is_signed_v<D>;
+    if (n > ZeroAbove) return run(Shrink<S, D, tpxRoundTowardZero>{kShiftedOut});
+    if (n == 0) return run(Narrow<S, D>{});
+    // From the number of value bits on, whatever is not 0 saturates.
+    if (n < 0) return run(Grow<S, D>{-clamp(n, -kValueBits, 0)});
+    if (mode == tpxRoundTowardZero) return run(Shrink<S, D, tpxRoundTowardZero>{n});
+    if (mode == tpxRoundNearestEven) return run(Shrink<S, D, tpxRoundNearestEven>{n});
+    return run(Shrink<S, D, tpxRoundHalfAway>{n});
+}
+
+} // namespace
+} // namespace tpx
+
+#define TPX_CONVERT_SCALED(S, D, ZeroAbove)                                                                  \
+    TPX_ENTRY(tpxiConvert_##S##D##_C1RSfs)                                                                   \
+    (const Tpx##S* pSrc, int srcStep, Tpx##D* pDst, int dstStep, TpxiSize roiSize, TpxRoundMode roundMode,   \
+     int scaleFactor) {                                                                                      \
+        return tpx::convertScaled<ZeroAbove>(pSrc, srcStep, pDst, dstStep, roiSize, roundMode, scaleFactor); \
+    }
+TPX_CONVERT_SCALED(8u, 8s, 8)
+TPX_CONVERT_SCALED(16s, 8s, 17)
+TPX_CONVERT_SCALED(16u, 8s, 15)
+TPX_CONVERT_SCALED(16u, 16s, 16)
+TPX_CONVERT_SCALED(32s, 16s, 31)
+TPX_CONVERT_SCALED(32s, 16u, 31)
+TPX_CONVERT_SCALED(32u, 8s, 15)
+TPX_CONVERT_SCALED(32u, 8u, 15)
+TPX_CONVERT_SCALED(32u, 16s, 31)
+TPX_CONVERT_SCALED(32u, 16u, 33)
+TPX_CONVERT_SCALED(32u, 32s, 32)
