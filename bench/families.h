@@ -6,6 +6,7 @@ namespace bench {
 void addBorders();
 void addCopies();
 void addChannels();
+void addConversions();
 void addUnary();
 void addBinary();
 void addThresholds();

@@ -105,8 +105,9 @@ int run(int argc, char** argv) {
         }
     }
     addCopies();
-    addChannels();
     addBorders();
+    addChannels();
+    addConversions();
     addUnary();
     addBinary();
     addThresholds();

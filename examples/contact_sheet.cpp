@@ -82,6 +82,8 @@ void makeSheet(const Options& options) {
     sheet.add(source.view(), {"Original", "", text(source.size()), ""}, 2);
     resizes(gallery, source);
     toneCurves(gallery, source);
+    channels(gallery, source);
+    borders(gallery, source);
     twoImages(gallery, source);
     thresholds(gallery, source);
 

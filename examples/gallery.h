@@ -71,4 +71,6 @@ class Gallery {
 void resizes(Gallery& gallery, const Image8u& source);
 void toneCurves(Gallery& gallery, const Image8u& source);
 void twoImages(Gallery& gallery, const Image8u& source);
+void channels(Gallery& gallery, const Image8u& source);
+void borders(Gallery& gallery, const Image8u& source);
 void thresholds(Gallery& gallery, const Image8u& source);

@@ -24,6 +24,18 @@ template <typename T>
 void moveChannels(const T* const* src, ptrdiff_t srcStride, T* const* dst, ptrdiff_t dstStride, size_t channels,
                   const Tpx8u* mask, size_t pixels);
 
+// Integers are cast, and saturated where they do not fit. The other has a rounding mode and a scale factor;
+// from integers the mode is nearest and the factor above 0.
+template <typename S, typename D>
+void convertInteger(const S* src, D* dst, size_t length);
+template <typename S, typename D>
+void convertRounded(const S* src, D* dst, size_t length, int mode, int scaleFactor);
+// Bits to two values, and samples above a threshold to bits.
+template <typename T>
+void unpackBits(const Tpx8u* src, T* dst, size_t length, T low, T high);
+template <typename T>
+void packBits(const T* src, Tpx8u* dst, size_t length, T threshold);
+
 template <typename T>
 void abs(const T* src, T* dst, size_t length);
 // Integer samples are scaled, rounded and saturated; others take a scale factor of 0.
