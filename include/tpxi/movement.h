@@ -73,6 +73,8 @@ TPX_API TpxStatus tpxiCopy_32f_AC4R_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx3
  * One channel of interest: on the interleaved side the pointer addresses the sample of that channel in the
  * first pixel. C3C and C4C: one channel of an interleaved image to one of another; C3C1, C4C1: to a plane;
  * C1C3, C1C4: from a plane; the destination's other channels are not touched.
+ * Where channels of the destination are kept, in these forms and the masked and AC4 ones, they may be read and
+ * written back: calls for different channels of one image must not run at the same time.
  *
  * Statuses, in order: tpxErrNullPointer; tpxErrSize (width or height below 1); tpxOk. */
 TPX_API TpxStatus tpxiCopy_8u_AC4C3R(const Tpx8u* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
