@@ -13,8 +13,7 @@
 
 namespace tpx {
 
-// ---- The rule of the scale factor: s * 2^-n, rounded to nearest with ties to even, saturated
-// ------------------
+// ---- The rule of the scale factor: s * 2^-n, rounded to nearest with ties to even, saturated ------------
 
 // n > 0. Halves go up, after 1 has been taken off the sums whose result would be even: a tie lands on the even
 // side. Unsigned lanes of any value; n up to their width.
@@ -95,8 +94,7 @@ inline void withScaledRule(int n, Body body) {
     }
 }
 
-// ---- Runs and images
-// -------------------------------------------------------------------------------------------
+// ---- Runs and images ------------------------------------------------------------------------------------
 
 // Above this traffic in bytes (reads and writes) the cache's size is asked for.
 inline constexpr uint64_t kBinaryFloor = 4194304;
@@ -169,8 +167,7 @@ TpxStatus binary(const BinaryArgs<T>& a, TpxiSize roi, int n = 0) {
     return binaryRows<Op, L == Layout::AC4>(a, ptrdiff_t(roi.width) * channelsOf(L), roi.height, n);
 }
 
-// ---- 64-bit forms
-// ----------------------------------------------------------------------------------------------
+// ---- 64-bit forms ---------------------------------------------------------------------------------------
 
 // A call fits the short form if every step and the image's bytes have a magnitude below 2^31 - 1. Products
 // wrap.

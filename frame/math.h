@@ -106,7 +106,7 @@ inline V masked(M mask, V value) {
     return bitsAs<V>(bitsAs<VecBits<LaneOf<V>>>(mask) & bitsAs<VecBits<LaneOf<V>>>(value));
 }
 
-// ---- The functions -----------------------------------------------------------------------------------------
+// ---- The functions --------------------------------------------------------------------------------------
 
 // Natural logarithm. -infinity at zeros of either sign, NaN for negative arguments.
 template <class V>

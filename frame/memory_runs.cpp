@@ -157,7 +157,7 @@ void fillRowStreaming(void* dst, int64_t bytes, const Pattern& pattern) {
 
 namespace {
 
-// ---- String instructions -----------------------------------------------------------------------------------
+// ---- String instructions --------------------------------------------------------------------------------
 
 // Runs string instructions upwards, and leaves the direction flag as the caller had it.
 template <class Body>
@@ -202,7 +202,7 @@ void zeroRowByString(void* d, int64_t bytes) {
     upwards([&] { asm volatile("rep stosb" : "+D"(d), "+c"(bytes) : "a"(0) : "memory"); });
 }
 
-// ---- The switches ------------------------------------------------------------------------------------------
+// ---- The switches ---------------------------------------------------------------------------------------
 
 constexpr Pattern kZeros{};
 

@@ -7,7 +7,7 @@
 
 namespace tpx {
 
-// ---- Copies (frame/memory_runs.cpp) ------------------------------------------------------------------------
+// ---- Copies (frame/memory_runs.cpp) ---------------------------------------------------------------------
 
 // Forwards. The ranges may overlap if the destination lies below the source.
 void copyRow(void* dst, const void* src, int64_t bytes);
@@ -86,7 +86,7 @@ inline void mapRunStreaming(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
     streamRun(dst, len, rule, src);
 }
 
-// ---- Fills -------------------------------------------------------------------------------------------------
+// ---- Fills ----------------------------------------------------------------------------------------------
 
 // A sample or pixel repeated. Every pixel of one, three or four samples of up to 4 bytes divides the period,
 // and three registers more than the period may be read from any phase of it.

@@ -29,7 +29,7 @@ inline void fetchAhead(const Tpx8u* p) {
     _mm_prefetch(reinterpret_cast<const char*>(reinterpret_cast<uintptr_t>(p) + kAhead), _MM_HINT_T0);
 }
 
-// ---- Sides of a run: an image as a source or a destination of blocks ----------------------------------------
+// ---- Sides of a run: an image as a source or a destination of blocks ------------------------------------
 
 // Pixels of N samples; a block is Pixels of them. Of a single channel of theirs, which the pointer addresses,
 // a run ends with the last pixel's sample. The last register of a block ends with the block, and so may overlap
@@ -174,8 +174,7 @@ struct Planes {
     }
 };
 
-// ---- Runs
-// ----------------------------------------------------------------------------------------------------
+// ---- Runs -----------------------------------------------------------------------------------------------
 
 // dst[i...] = rule(src[i...], ...), a block each. A rule that keeps parts of the destination takes it as a
 // source.

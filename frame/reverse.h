@@ -35,7 +35,7 @@ inline void reverseRun(T* srcDst, ptrdiff_t len) {
     if (low < high) reverseShort(low, low, high - low);
 }
 
-// ---- Pixels of several samples: their samples keep their order ---------------------------------------------
+// ---- Pixels of several samples: their samples keep their order ------------------------------------------
 
 // A register of whole pixels, as many as fit, and what it takes to turn their order around.
 template <int PixelBytes>

@@ -17,7 +17,7 @@ inline TpxStatus check(const T* p, const T* q, int len) {
     return anyNull(p, q) ? tpxErrNullPointer : check(p, len);
 }
 
-// ---- Slopes ------------------------------------------------------------------------------------------------
+// ---- Slopes ---------------------------------------------------------------------------------------------
 
 // The product and the sum are rounded one by one; an index beyond 2^24 is rounded first.
 struct Slope {

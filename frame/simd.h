@@ -67,7 +67,7 @@ using VecBits = typename VecBitsOf<T>::type;
 using B32f = VecBits<Tpx32f>;
 using B64f = VecBits<Tpx64f>;
 
-// ---- Memory and constants: addresses need no alignment ----------------------------------------------------
+// ---- Memory and constants: addresses need no alignment --------------------------------------------------
 
 template <class T>
 inline Vec<T> load(const T* p) {
@@ -242,7 +242,7 @@ inline V32f reverseLanes(V32f a) {
     return V32f(_mm256_shuffle_ps(halves, halves, _MM_SHUFFLE(0, 1, 2, 3)));
 }
 
-// ---- Channels: pixels of three or four samples to registers of one channel each, and back -------------------
+// ---- Channels: pixels of three or four samples to registers of one channel each, and back ---------------
 
 // Byte i becomes byte control[i], or 0 where the control's top bit is set.
 inline V8u shuffleBytes(V8u a, V8u control) { return V8u(_mm_shuffle_epi8(__m128i(a), __m128i(control))); }
@@ -368,7 +368,7 @@ inline Several<V8u, 4> interleave(const Several<V8u, 4>& a) {
              interleaveUnits<2 * Bytes, false>(r, s), interleaveUnits<2 * Bytes, true>(r, s)}};
 }
 
-// ---- Absolute value: the type's smallest integer gives its largest ----------------------------------------
+// ---- Absolute value: the type's smallest integer gives its largest --------------------------------------
 
 inline V16s absSat(V16s a) { return V16s(_mm_abs_epi16(__m128i(maxOf(a, splat<V16s>(-32767))))); }
 inline V32f absSat(V32f a) {
@@ -393,7 +393,7 @@ inline V32f toFloat(Pair<V32s> a) {
 }
 inline V64f toDouble(V32s a) { return V64f(_mm256_cvtepi32_pd(__m128i(a))); }
 
-// ---- Widening and narrowing -------------------------------------------------------------------------------
+// ---- Widening and narrowing -----------------------------------------------------------------------------
 
 inline Pair<V16u> widen(V8u a) {
     return {V16u(_mm_cvtepu8_epi16(__m128i(a))), V16u(_mm_unpackhi_epi8(__m128i(a), __m128i{}))};
@@ -476,8 +476,7 @@ inline Vec<T> narrow(Pair<V32u> a) {
     return narrow<T>(Pair<V32s>{V32s(a.low), V32s(a.high)});
 }
 
-// ---- Masks of bits: bit i stands for lane i
-// ---------------------------------------------------------------------
+// ---- Masks of bits: bit i stands for lane i -------------------------------------------------------------
 
 // All bits set in the lanes whose bit is, as a comparison of Vec<T> gives it. Bits above the lanes are ignored.
 template <class T>
@@ -507,7 +506,7 @@ inline Tpx32u laneBits(B32f mask) { return Tpx32u(_mm256_movemask_ps(bitsAs<__m2
 inline Tpx32u laneBits(Pair<V16s> masks) { return laneBits(narrow<Tpx8s>(masks)); }
 inline Tpx32u laneBits(Pair<B32f> masks) { return laneBits(masks.low) | laneBits(masks.high) << 8; }
 
-// ---- Tables of 16 entries, indexed by lanes from 0 to 15 ----------------------------------------------------
+// ---- Tables of 16 entries, indexed by lanes from 0 to 15 ------------------------------------------------
 
 template <class T>
 struct Table16;
@@ -549,7 +548,7 @@ inline Vec<T> lookup(const Table16<T>& table, Vec<T> index) {
     return bitsAs<Vec<T>>(_mm_or_si128(low, high));
 }
 
-// ---- Floating point ---------------------------------------------------------------------------------------
+// ---- Floating point -------------------------------------------------------------------------------------
 
 inline V32f squareRoot(V32f a) { return V32f(_mm256_sqrt_ps(a)); }
 inline V64f squareRoot(V64f a) { return V64f(_mm256_sqrt_pd(a)); }

@@ -22,8 +22,7 @@ void joinBitRows(ptrdiff_t& len, ptrdiff_t& height, int bitOffset, int bitStep, 
         joinRows(len, height, sampleBytes, step);
 }
 
-// ---- From bits
-// -----------------------------------------------------------------------------------------------
+// ---- From bits ------------------------------------------------------------------------------------------
 
 // `Count` bits from bit `at` on; no byte is read that has none of them.
 template <int Count>
@@ -90,8 +89,7 @@ TpxStatus unpack(const Tpx8u* src, int srcStep, int bitOffset, T* dst, int dstSt
     return tpxOk;
 }
 
-// ---- To bits
-// -------------------------------------------------------------------------------------------------
+// ---- To bits --------------------------------------------------------------------------------------------
 
 constexpr int kGroup = 16;
 

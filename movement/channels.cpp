@@ -5,8 +5,7 @@
 namespace tpx {
 namespace {
 
-// ---- One channel of interest
-// ---------------------------------------------------------------------------------
+// ---- One channel of interest ----------------------------------------------------------------------------
 
 // The bytes of a channel's samples in a block that begins with the first and ends with the last of them.
 template <class T, int N>
@@ -88,8 +87,7 @@ TpxStatus setChannel(T value, T* pDst, int dstStep, TpxiSize roi) {
     return tpxOk;
 }
 
-// ---- Planes
-// --------------------------------------------------------------------------------------------------
+// ---- Planes ---------------------------------------------------------------------------------------------
 
 // When results go past the caches: by the traffic in bytes (reads and writes), and for the narrow samples also
 // by how the rows lie.
@@ -138,8 +136,7 @@ TpxStatus planesToPixels(const T* const pSrc[], int srcStep, T* pDst, int dstSte
     return status;
 }
 
-// ---- Duplicates
-// ----------------------------------------------------------------------------------------------
+// ---- Duplicates -----------------------------------------------------------------------------------------
 
 // Above this traffic in bytes (reads and writes) the cache's size is asked for.
 constexpr uint64_t kDuplicateFloor = 4194304;

@@ -9,7 +9,7 @@
 
 namespace tpx {
 
-// ---- Words -------------------------------------------------------------------------------------------------
+// ---- Words ----------------------------------------------------------------------------------------------
 
 // rule(i) for each of N registers.
 template <int N, class Rule>
@@ -34,7 +34,7 @@ inline Vec<T> narrowAll(const Several<V, 4>& a) {
         Pair<V16s>{narrow<Tpx16s>(Pair<V>{a.at[0], a.at[1]}), narrow<Tpx16s>(Pair<V>{a.at[2], a.at[3]})});
 }
 
-// ---- Rows --------------------------------------------------------------------------------------------------
+// ---- Rows -----------------------------------------------------------------------------------------------
 
 // Above this traffic in bytes (reads and writes) the cache's size is asked for.
 inline constexpr uint64_t kConvertFloor = 524288;
@@ -84,8 +84,7 @@ inline TpxStatus convert(const S* src, int srcStep, D* dst, int dstStep, TpxiSiz
     return status;
 }
 
-// ---- The rule of a narrowing without a factor
-// ----------------------------------------------------------------
+// ---- The rule of a narrowing without a factor -----------------------------------------------------------
 
 template <class S, class D>
 struct Narrow {

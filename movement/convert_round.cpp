@@ -9,8 +9,7 @@
 namespace tpx {
 namespace {
 
-// ---- Rules: Half tells whether to add one before the conversion rounds as the control register says
-// -------------
+// ---- Rules: Half tells whether to add one before the conversion rounds as the control register says -----
 
 // The half has the sample's sign.
 template <class V>
@@ -76,8 +75,7 @@ struct To32u {
     }
 };
 
-// ---- Factors
-// -------------------------------------------------------------------------------------------------
+// ---- Factors --------------------------------------------------------------------------------------------
 
 // 1 halved n times or doubled -n times: 0 or infinite past the numbers that there are.
 template <class F>
@@ -91,8 +89,7 @@ F scale(int n) {
     }
 }
 
-// ---- Calls
-// ---------------------------------------------------------------------------------------------------
+// ---- Calls ----------------------------------------------------------------------------------------------
 
 // body(whether to add a half), in the control that this needs.
 template <class Body>

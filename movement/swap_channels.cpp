@@ -5,8 +5,7 @@
 namespace tpx {
 namespace {
 
-// ---- Checks: three orders of the same ones
-// -------------------------------------------------------------------
+// ---- Checks: three orders of the same ones --------------------------------------------------------------
 
 enum class SwapChecks { SizeThenStep, StepThenSize, StepThenSizeThenOrder };
 
@@ -25,8 +24,7 @@ TpxStatus check(const void* src, int srcStep, const void* dst, int dstStep, Tpxi
     return tpxOk;
 }
 
-// ---- Layouts
-// -------------------------------------------------------------------------------------------------
+// ---- Layouts --------------------------------------------------------------------------------------------
 
 template <SwapChecks C, int From, int To, class T>
 TpxStatus swap(const T* pSrc, int srcStep, T* pDst, int dstStep, TpxiSize roi, const int* order) {

@@ -5,7 +5,7 @@
 namespace tpx {
 namespace {
 
-// ---- Rules: what happens on either side of a threshold. Operand order decides what NaN gives ----------------
+// ---- Rules: what happens on either side of a threshold. Operand order decides what NaN gives ------------
 
 // Integers: where clamping changed a sample it left the threshold, which is exchanged for the value.
 template <class V>

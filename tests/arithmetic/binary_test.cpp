@@ -12,8 +12,7 @@ namespace {
 
 using namespace tpx::test;
 
-// ---- The functions as data
-// -----------------------------------------------------------------------------------
+// ---- The functions as data ------------------------------------------------------------------------------
 
 template <class T>
 struct Binary {
@@ -62,8 +61,7 @@ FUNCTIONS(SCALED, 16u)
 FUNCTIONS(SCALED, 16s)
 FUNCTIONS(PLAIN, 32f)
 
-// ---- The mathematical result
-// ----------------------------------------------------------------------------------
+// ---- The mathematical result ----------------------------------------------------------------------------
 
 // first and second source; the difference is the second less the first.
 template <class T>
@@ -131,8 +129,7 @@ std::vector<T> edges() {
 TEST(BinaryIntegers, EdgesUnderEveryFactor16u) { everyPair(edges<Tpx16u>()); }
 TEST(BinaryIntegers, EdgesUnderEveryFactor16s) { everyPair(edges<Tpx16s>()); }
 
-// ---- Shapes, alignments, layouts, in place, both widths of the interface
-// ---------------------------------------
+// ---- Shapes, alignments, layouts, in place, both widths of the interface --------------------------------
 
 template <class T>
 void everyShape() {
@@ -174,8 +171,7 @@ TEST(BinaryShapes, EveryShape16u) { everyShape<Tpx16u>(); }
 TEST(BinaryShapes, EveryShape16s) { everyShape<Tpx16s>(); }
 TEST(BinaryShapes, EveryShape32f) { everyShape<Tpx32f>(); }
 
-// ---- Steps and factors beyond the limits
-// -------------------------------------------------------------------------
+// ---- Steps and factors beyond the limits ----------------------------------------------------------------
 
 TEST(BinarySteps, ZeroNegativeAndOddStepsWalkTheMemoryAsGiven) {
     const Tpx8u a[] = {1, 2, 3, 4}, b[] = {10, 20, 30, 40};
@@ -217,8 +213,7 @@ TEST(BinaryFactors, AboveTheLimitNoSourceIsRead) {
     zeroFill<Tpx16s>({17, 17, 31});
 }
 
-// ---- Statuses
-// -----------------------------------------------------------------------------------------------------
+// ---- Statuses -------------------------------------------------------------------------------------------
 
 template <class T>
 void checkOrder() {

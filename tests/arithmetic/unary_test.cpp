@@ -14,8 +14,7 @@ namespace {
 
 using namespace tpx::test;
 
-// ---- The functions as data
-// -----------------------------------------------------------------------------------
+// ---- The functions as data ------------------------------------------------------------------------------
 
 template <class T>
 struct Unary {
@@ -91,8 +90,7 @@ std::vector<Unary<Tpx32f>> functions() {
 
 std::string operationOf(const char* name) { return std::string(name).substr(0, std::string(name).find('_')); }
 
-// ---- The mathematical results
-// --------------------------------------------------------------------------------
+// ---- The mathematical results ---------------------------------------------------------------------------
 
 template <class T>
 T saturate(long double x) {
@@ -134,8 +132,7 @@ double ulps(float got, float want) {
     return std::fabs(order(got) - order(want));
 }
 
-// ---- Integers: every sample, every scale factor
-// ----------------------------------------------------------------
+// ---- Integers: every sample, every scale factor ---------------------------------------------------------
 
 template <class T>
 void everySampleAndFactor() {
@@ -170,7 +167,7 @@ TEST(UnaryIntegers, EverySampleAndFactor8u) { everySampleAndFactor<Tpx8u>(); }
 TEST(UnaryIntegers, EverySampleAndFactor16u) { everySampleAndFactor<Tpx16u>(); }
 TEST(UnaryIntegers, EverySampleAndFactor16s) { everySampleAndFactor<Tpx16s>(); }
 
-// ---- Floats -------------------------------------------------------------------------------------------------
+// ---- Floats ---------------------------------------------------------------------------------------------
 
 TEST(UnaryFloats, StrideOfAllBitPatterns) {
     std::vector<float> src;
@@ -211,8 +208,7 @@ TEST(UnaryFloats, StrideOfAllBitPatterns) {
     EXPECT_FALSE(std::signbit(y));
 }
 
-// ---- Shapes, alignments, layouts, in place
-// ---------------------------------------------------------------------
+// ---- Shapes, alignments, layouts, in place --------------------------------------------------------------
 
 template <class T>
 void everyShape() {
@@ -255,8 +251,7 @@ TEST(UnaryShapes, EveryShape16u) { everyShape<Tpx16u>(); }
 TEST(UnaryShapes, EveryShape16s) { everyShape<Tpx16s>(); }
 TEST(UnaryShapes, EveryShape32f) { everyShape<Tpx32f>(); }
 
-// ---- Steps
-// ----------------------------------------------------------------------------------------------------
+// ---- Steps ----------------------------------------------------------------------------------------------
 
 TEST(UnarySteps, OddStepIsRoundedDownInAbsSqrSqrtAndUsedAsItIsInLnExp) {
     const Tpx16s src[] = {-5, -6, -7, -8};
@@ -280,8 +275,7 @@ TEST(UnarySteps, OddStepIsRoundedDownInAbsSqrSqrtAndUsedAsItIsInLnExp) {
     EXPECT_EQ(second, 7);
 }
 
-// ---- Statuses
-// --------------------------------------------------------------------------------------------------
+// ---- Statuses -------------------------------------------------------------------------------------------
 
 template <class T>
 void checkOrder() {

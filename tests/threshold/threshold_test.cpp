@@ -22,7 +22,7 @@ namespace {
 
 using namespace tpx::test;
 
-// ---- The functions as data ---------------------------------------------------------------------------------
+// ---- The functions as data ------------------------------------------------------------------------------
 
 template <class T>
 struct Values {
@@ -145,7 +145,7 @@ class Threshold : public testing::Test {};
 using Types = testing::Types<Tpx8u, Tpx16u, Tpx16s, Tpx32f>;
 TYPED_TEST_SUITE(Threshold, Types);
 
-// ---- Samples -----------------------------------------------------------------------------------------------
+// ---- Samples --------------------------------------------------------------------------------------------
 
 template <class T>
 void checkImage(const Form<T>& form, int width, int height, Lie srcLie, Lie dstLie) {
@@ -258,7 +258,7 @@ TEST(ThresholdFloats, NaNInSamplesAndThresholds) {
                 }
 }
 
-// ---- Statuses ----------------------------------------------------------------------------------------------
+// ---- Statuses -------------------------------------------------------------------------------------------
 
 template <class T>
 struct Call {
