@@ -131,7 +131,8 @@ template <class T>
 void fill(GuardedImage<T>& image, const Values<T>& v, int constants) {
     std::mt19937 random(unsigned(image.width()));
     image.fill([&](int, int, int c) {
-        const T near = (random() % 2 ? v.low : v.high)[c % constants];
+        const int channel = c % constants;
+        const T near = random() % 2 ? v.low[channel] : v.high[channel];
         const unsigned kind = random() % 4;
         if (kind < 2) return T(near + T(int(random() % 5) - 2));
         if (std::is_integral_v<T>) return T(random());
