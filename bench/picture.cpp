@@ -42,8 +42,8 @@ constexpr double kTop = 62;  // title of the picture
 constexpr double kWidth = 1240;
 constexpr int kFirstKeyTag = 10; // of gnuplot's labels
 constexpr int kLastKeyTag = 40;
-constexpr double kLeft[kPanels] = {0.185, 0.605}; // of the width
-constexpr double kRight[kPanels] = {0.575, 0.985};
+constexpr double kLeft[kPanels] = {0.21, 0.62}; // of the width
+constexpr double kRight[kPanels] = {0.585, 0.985};
 
 double height(const Line& line) {
     return line.depth() ? kBar * static_cast<double>(line.depth()) + kGap : kHeading;
@@ -61,8 +61,7 @@ Section bySize(const std::string& group, const std::vector<Row>& rows) {
     const std::vector<Series> sizes = {
         {"64x64", "#9ecae1"}, {"1920x1080", "#3182bd"}, {"beyond the cache", "#08306b"}};
     const char* yardsticks[kPanels] = {kCopy, kScalar};
-    Section section{{group + ": speed relative to copying the same bytes",
-                     group + ": speed relative to the plain scalar form"},
+    Section section{{group + ": beside copying the same bytes", group + ": beside the plain scalar form"},
                     {sizes, sizes},
                     {}};
     for (const Row& row : rows) {
@@ -85,10 +84,10 @@ Section bySize(const std::string& group, const std::vector<Row>& rows) {
 Section byYardstick(const std::string& group, const std::vector<Row>& rows,
                     const std::vector<std::string>& others) {
     constexpr const char* kColours[] = {"#e6842a", "#b35806", "#f5c08b", "#5a9a6a", "#a6cf9f", "#2f6040"};
-    Section section{{group + ": speed relative to other libraries",
-                     group + ": beside a copy of the result and the scalar form"},
-                    {{}, {{kCopy, "#9a9a9a"}, {kScalar, "#3182bd"}}},
-                    {}};
+    Section section{
+        {group + ": beside other libraries", group + ": beside a copy of the result and the scalar form"},
+        {{}, {{kCopy, "#9a9a9a"}, {kScalar, "#3182bd"}}},
+        {}};
     for (const std::string& name : others)
         section.series[0].push_back({name, kColours[section.series[0].size() % std::size(kColours)]});
     std::string function;

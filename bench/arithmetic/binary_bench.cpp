@@ -9,45 +9,49 @@ constexpr const char* kGroup = "Arithmetic of two images";
 
 // Samples of the sources lie in low..high, so that the results spread over the range of the type.
 template <typename T, typename F, typename G>
-void addScaled(const char* name, F ours, G scalar, int scaleFactor, double low, double high, int channels = 1) {
-    addCombining<T>({.group = kGroup, .function = name, .channels = channels, .low = low, .high = high},
-                    withLast(ours, scaleFactor), withLast(scalar, scaleFactor));
+void addScaled(const char* name, F ours, G scalar, int scaleFactor, double low, double high, Sizes sizes,
+               int channels = 1) {
+    addCombining<T>(
+        {.group = kGroup, .function = name, .channels = channels, .low = low, .high = high, .sizes = sizes},
+        withLast(ours, scaleFactor), withLast(scalar, scaleFactor));
 }
 
 template <typename G>
-void addFloat(const char* function, Combine<Tpx32f> ours, G scalar) {
-    addCombining<Tpx32f>({.group = kGroup, .function = function, .low = -100, .high = 100}, ours,
-                         withLast(scalar, 0));
+void addFloat(const char* function, Combine<Tpx32f> ours, G scalar, Sizes sizes = Sizes::middle) {
+    addCombining<Tpx32f>({.group = kGroup, .function = function, .low = -100, .high = 100, .sizes = sizes},
+                         ours, withLast(scalar, 0));
 }
 
 } // namespace
 
-#define SCALED(Op, rule, T, factor, low, high)                                                              \
+#define SCALED(Op, rule, T, factor, low, high, sizes)                                                       \
     addScaled<Tpx##T>("tpxi" #Op "_" #T "_C1RSfs, " #factor, tpxi##Op##_##T##_C1RSfs, scalar::rule<Tpx##T>, \
-                      factor, low, high)
+                      factor, low, high, Sizes::sizes)
 
 void addBinary() {
-    SCALED(Add, add, 8u, 0, 0, 255);
-    SCALED(Add, add, 8u, 1, 0, 255);
-    SCALED(Add, add, 8u, -1, 0, 60);
-    SCALED(Add, add, 16s, 0, -32768, 32767);
-    SCALED(Add, add, 16s, 1, -32768, 32767);
-    SCALED(Add, add, 16u, 0, 0, 65535);
-    SCALED(Sub, sub, 8u, 0, 0, 255);
-    SCALED(Sub, sub, 8u, 1, 0, 255);
-    SCALED(Sub, sub, 8u, -1, 0, 120);
-    SCALED(Sub, sub, 16s, 0, -32768, 32767);
-    SCALED(Sub, sub, 16s, 1, -32768, 32767);
-    SCALED(Sub, sub, 16u, 0, 0, 65535);
-    SCALED(Mul, mul, 8u, 0, 0, 20);
-    SCALED(Mul, mul, 8u, 1, 0, 25);
-    SCALED(Mul, mul, 8u, 8, 0, 255);
-    SCALED(Mul, mul, 16s, 0, -200, 200);
-    SCALED(Mul, mul, 16s, 1, -250, 250);
-    SCALED(Mul, mul, 16u, 0, 0, 300);
-    addScaled<Tpx8u>("tpxiAdd_8u_C3RSfs, 0", tpxiAdd_8u_C3RSfs, scalar::add<Tpx8u>, 0, 0, 255, 3);
-    addScaled<Tpx8u>("tpxiAdd_8u_AC4RSfs, 0", tpxiAdd_8u_AC4RSfs, scalar::addKeepAlpha<Tpx8u>, 0, 0, 255, 4);
-    addFloat("tpxiAdd_32f_C1R", tpxiAdd_32f_C1R, scalar::add<Tpx32f>);
+    SCALED(Add, add, 8u, 0, 0, 255, all);
+    SCALED(Add, add, 8u, 1, 0, 255, all);
+    SCALED(Add, add, 8u, -1, 0, 60, middle);
+    SCALED(Add, add, 16s, 0, -32768, 32767, all);
+    SCALED(Add, add, 16s, 1, -32768, 32767, middle);
+    SCALED(Add, add, 16u, 0, 0, 65535, middle);
+    SCALED(Sub, sub, 8u, 0, 0, 255, middle);
+    SCALED(Sub, sub, 8u, 1, 0, 255, middle);
+    SCALED(Sub, sub, 8u, -1, 0, 120, middle);
+    SCALED(Sub, sub, 16s, 0, -32768, 32767, middle);
+    SCALED(Sub, sub, 16s, 1, -32768, 32767, middle);
+    SCALED(Sub, sub, 16u, 0, 0, 65535, middle);
+    SCALED(Mul, mul, 8u, 0, 0, 20, all);
+    SCALED(Mul, mul, 8u, 1, 0, 25, middle);
+    SCALED(Mul, mul, 8u, 8, 0, 255, middle);
+    SCALED(Mul, mul, 16s, 0, -200, 200, all);
+    SCALED(Mul, mul, 16s, 1, -250, 250, middle);
+    SCALED(Mul, mul, 16u, 0, 0, 300, middle);
+    addScaled<Tpx8u>("tpxiAdd_8u_C3RSfs, 0", tpxiAdd_8u_C3RSfs, scalar::add<Tpx8u>, 0, 0, 255, Sizes::middle,
+                     3);
+    addScaled<Tpx8u>("tpxiAdd_8u_AC4RSfs, 0", tpxiAdd_8u_AC4RSfs, scalar::addKeepAlpha<Tpx8u>, 0, 0, 255,
+                     Sizes::middle, 4);
+    addFloat("tpxiAdd_32f_C1R", tpxiAdd_32f_C1R, scalar::add<Tpx32f>, Sizes::all);
     addFloat("tpxiSub_32f_C1R", tpxiSub_32f_C1R, scalar::sub<Tpx32f>);
     addFloat("tpxiMul_32f_C1R", tpxiMul_32f_C1R, scalar::mul<Tpx32f>);
 }

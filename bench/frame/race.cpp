@@ -14,8 +14,8 @@ using Clock = std::chrono::steady_clock;
 
 constexpr double kBatchSeconds = 100e-6; // far above the clock's resolution
 constexpr double kWarmSeconds = 5e-3;    // shorter calls find their images in the cache they fit in
-constexpr auto kBudget = std::chrono::milliseconds(400); // of a job, once it has had the rounds it needs
-constexpr size_t kMinRounds = 5;
+constexpr auto kBudget = std::chrono::milliseconds(150); // of a job, once it has had the rounds it needs
+constexpr size_t kMinRounds = 3;
 constexpr size_t kMaxRounds = 201;
 
 std::vector<Row> done;

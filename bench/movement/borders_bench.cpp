@@ -23,7 +23,8 @@ int wrapped(int c, int length) { return (c + length) % length; }
 // copy beside it moves an image of the destination's size.
 template <typename T, typename F, typename Scalar>
 void addBorder(const char* name, int channels, F ours, Scalar scalar) {
-    for (const TpxiSize size : sizes(Sizes::withinCache, channels * sizeof(T))) {
+    for (const TpxiSize size :
+         sizes(channels == 1 ? Sizes::withinCache : Sizes::middle, channels * sizeof(T))) {
         const TpxiSize whole = {size.width + 2 * kMargin, size.height + 2 * kMargin};
         const double samples = static_cast<double>(whole.width) * whole.height * channels;
         addJob({"Borders", name, text(size), samples, 2 * samples * sizeof(T)}, [=] {

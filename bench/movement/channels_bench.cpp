@@ -47,6 +47,7 @@ struct Move {
     Form from, to;
     Feeds feeds;
     bool masked = false;
+    Sizes sizes = Sizes::middle;
 };
 
 template <typename T>
@@ -69,7 +70,7 @@ void moveScalar(const Move& what, const Picture<T>& src, const Picture<T>& dst, 
 template <typename T>
 void addMove(const Move& what, Call<T> ours) {
     const int most = std::max(what.from.channels, what.to.channels);
-    for (const TpxiSize size : sizes(Sizes::all, most * sizeof(T))) {
+    for (const TpxiSize size : sizes(what.sizes, most * sizeof(T))) {
         const double pixels = static_cast<double>(size.width) * size.height;
         const Job job{"Channels", what.function, text(size), pixels * most,
                       pixels * (what.from.channels + what.to.channels) * sizeof(T)};
@@ -106,16 +107,16 @@ void addPixels(const Move& what, F function, Last... last) {
 }
 
 template <typename T, typename F>
-void addOrder(const char* name, int channels, F function) {
+void addOrder(const char* name, int channels, F function, Sizes sizes = Sizes::middle) {
     static constexpr int kOrder[] = {2, 1, 0, 3};
     Feeds feeds = {{2, 0}, {1, 1}, {0, 2}};
     if (channels == 4) feeds.push_back({3, 3});
-    addPixels<T>({name, {channels}, {channels}, feeds}, function, kOrder);
+    addPixels<T>({name, {channels}, {channels}, feeds, false, sizes}, function, kOrder);
 }
 
 template <typename T, typename F>
-void addSplit(const char* name, int channels, F function) {
-    addMove<T>({name, {channels}, {channels, true}, kStraight[channels]},
+void addSplit(const char* name, int channels, F function, Sizes sizes = Sizes::middle) {
+    addMove<T>({name, {channels}, {channels, true}, kStraight[channels], false, sizes},
                [=](const Picture<T>& src, const Picture<T>& dst, const Image<Tpx8u>&) {
                    return function(src.image.data(), src.image.step(), dst.planes().data(), dst.image.step(),
                                    src.size);
@@ -123,8 +124,8 @@ void addSplit(const char* name, int channels, F function) {
 }
 
 template <typename T, typename F>
-void addJoin(const char* name, int channels, F function) {
-    addMove<T>({name, {channels, true}, {channels}, kStraight[channels]},
+void addJoin(const char* name, int channels, F function, Sizes sizes = Sizes::middle) {
+    addMove<T>({name, {channels, true}, {channels}, kStraight[channels], false, sizes},
                [=](const Picture<T>& src, const Picture<T>& dst, const Image<Tpx8u>&) {
                    const auto planes = src.planes();
                    const std::array<const T*, 4> from = {planes[0], planes[1], planes[2], planes[3]};
@@ -133,8 +134,8 @@ void addJoin(const char* name, int channels, F function) {
 }
 
 template <typename T, typename F>
-void addMasked(const char* name, int channels, int changed, F function) {
-    addMove<T>({name, {channels}, {channels}, kStraight[changed], true},
+void addMasked(const char* name, int channels, int changed, F function, Sizes sizes = Sizes::middle) {
+    addMove<T>({name, {channels}, {channels}, kStraight[changed], true, sizes},
                [=](const Picture<T>& src, const Picture<T>& dst, const Image<Tpx8u>& mask) {
                    return function(src.image.data(), src.image.step(), dst.image.data(), dst.image.step(),
                                    src.size, mask.data(), mask.step());
@@ -144,27 +145,28 @@ void addMasked(const char* name, int channels, int changed, F function) {
 } // namespace
 
 void addChannels() {
-    addSplit<Tpx8u>("tpxiCopy_8u_C3P3R", 3, tpxiCopy_8u_C3P3R);
+    addSplit<Tpx8u>("tpxiCopy_8u_C3P3R", 3, tpxiCopy_8u_C3P3R, Sizes::all);
     addSplit<Tpx8u>("tpxiCopy_8u_C4P4R", 4, tpxiCopy_8u_C4P4R);
     addSplit<Tpx16u>("tpxiCopy_16u_C3P3R", 3, tpxiCopy_16u_C3P3R);
     addSplit<Tpx16u>("tpxiCopy_16u_C4P4R", 4, tpxiCopy_16u_C4P4R);
     addSplit<Tpx32f>("tpxiCopy_32f_C3P3R", 3, tpxiCopy_32f_C3P3R);
-    addJoin<Tpx8u>("tpxiCopy_8u_P3C3R", 3, tpxiCopy_8u_P3C3R);
+    addJoin<Tpx8u>("tpxiCopy_8u_P3C3R", 3, tpxiCopy_8u_P3C3R, Sizes::all);
     addJoin<Tpx8u>("tpxiCopy_8u_P4C4R", 4, tpxiCopy_8u_P4C4R);
     addJoin<Tpx16u>("tpxiCopy_16u_P3C3R", 3, tpxiCopy_16u_P3C3R);
     addJoin<Tpx32f>("tpxiCopy_32f_P3C3R", 3, tpxiCopy_32f_P3C3R);
-    addOrder<Tpx8u>("tpxiSwapChannels_8u_C3R", 3, tpxiSwapChannels_8u_C3R);
+    addOrder<Tpx8u>("tpxiSwapChannels_8u_C3R", 3, tpxiSwapChannels_8u_C3R, Sizes::all);
     addOrder<Tpx8u>("tpxiSwapChannels_8u_C4R", 4, tpxiSwapChannels_8u_C4R);
     addOrder<Tpx16u>("tpxiSwapChannels_16u_C3R", 3, tpxiSwapChannels_16u_C3R);
-    addPixels<Tpx8u>({"tpxiCopy_8u_AC4C3R", {4}, {3}, kStraight[3]}, tpxiCopy_8u_AC4C3R);
-    addPixels<Tpx8u>({"tpxiCopy_8u_C3AC4R", {3}, {4}, kStraight[3]}, tpxiCopy_8u_C3AC4R);
-    addPixels<Tpx8u>({"tpxiDup_8u_C1C3R", {1}, {3}, {{0, 0}, {0, 1}, {0, 2}}}, tpxiDup_8u_C1C3R);
+    addPixels<Tpx8u>({"tpxiCopy_8u_AC4C3R", {4}, {3}, kStraight[3], false, Sizes::all}, tpxiCopy_8u_AC4C3R);
+    addPixels<Tpx8u>({"tpxiCopy_8u_C3AC4R", {3}, {4}, kStraight[3], false, Sizes::all}, tpxiCopy_8u_C3AC4R);
+    addPixels<Tpx8u>({"tpxiDup_8u_C1C3R", {1}, {3}, {{0, 0}, {0, 1}, {0, 2}}, false, Sizes::all},
+                     tpxiDup_8u_C1C3R);
     addPixels<Tpx8u>({"tpxiCopy_8u_C3C1R", {3}, {1}, kStraight[1]}, tpxiCopy_8u_C3C1R);
     addPixels<Tpx8u>({"tpxiCopy_8u_C1C3R", {1}, {3}, kStraight[1]}, tpxiCopy_8u_C1C3R);
     addPixels<Tpx8u>({"tpxiCopy_8u_C3CR", {3}, {3}, kStraight[1]}, tpxiCopy_8u_C3CR);
     addPixels<Tpx32f>({"tpxiCopy_32f_C4C1R", {4}, {1}, kStraight[1]}, tpxiCopy_32f_C4C1R);
     addMasked<Tpx8u>("tpxiCopy_8u_C1MR", 1, 1, tpxiCopy_8u_C1MR);
-    addMasked<Tpx8u>("tpxiCopy_8u_C3MR", 3, 3, tpxiCopy_8u_C3MR);
+    addMasked<Tpx8u>("tpxiCopy_8u_C3MR", 3, 3, tpxiCopy_8u_C3MR, Sizes::all);
     addMasked<Tpx8u>("tpxiCopy_8u_AC4MR", 4, 3, tpxiCopy_8u_AC4MR);
     addMasked<Tpx32f>("tpxiCopy_32f_C1MR", 1, 1, tpxiCopy_32f_C1MR);
 }

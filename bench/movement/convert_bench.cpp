@@ -14,6 +14,7 @@ constexpr const char* kGroup = "Conversion";
 struct Pixels {
     double low, high;
     int channels = 1, perSource = 1, perDestination = 1;
+    Sizes sizes = Sizes::middle;
 };
 
 // `ours` is called with (source, its step, destination, its step, size), `scalar` with (source, destination,
@@ -24,7 +25,7 @@ void addConversion(const char* name, Pixels pixels, Ours ours, Scalar scalar) {
     const int channels = pixels.channels;
     const double pixelBytes =
         channels * (double{sizeof(S)} / pixels.perSource + double{sizeof(D)} / pixels.perDestination);
-    for (const TpxiSize size : sizes(Sizes::all, static_cast<size_t>(std::ceil(pixelBytes / 2)))) {
+    for (const TpxiSize size : sizes(pixels.sizes, static_cast<size_t>(std::ceil(pixelBytes / 2)))) {
         const double count = static_cast<double>(size.width) * size.height;
         addJob({kGroup, name, text(size), count * channels, count * pixelBytes}, [=] {
             const TpxiSize srcSize = {size.width / pixels.perSource, size.height};
@@ -54,21 +55,23 @@ void addConversion(const char* name, Pixels pixels, Ours ours, Scalar scalar) {
 }
 
 template <typename S, typename D, typename F>
-void addCast(const char* name, F function, int channels = 1) {
-    addConversion<S, D>(name, {std::is_signed_v<S> ? -300.0 : 0.0, sizeof(S) == 1 ? 255.0 : 300.0, channels},
-                        function, scalar::convertInteger<S, D>);
+void addCast(const char* name, F function, int channels = 1, Sizes sizes = Sizes::middle) {
+    addConversion<S, D>(
+        name, {std::is_signed_v<S> ? -300.0 : 0.0, sizeof(S) == 1 ? 255.0 : 300.0, channels, 1, 1, sizes},
+        function, scalar::convertInteger<S, D>);
 }
 
 // Extra arguments are the rounding mode, or it and the scale factor.
 template <typename S, typename D, typename F, typename... Factor>
-void addRounded(const char* name, F function, int mode, Factor... n) {
+void addRounded(const char* name, F function, Sizes sizes, int mode, Factor... n) {
     const auto ours = [=](const S* src, int srcStep, D* dst, int dstStep, TpxiSize size) {
         return function(src, srcStep, dst, dstStep, size, mode, n...);
     };
-    addConversion<S, D>(name, {std::is_signed_v<S> ? -300.0 : 0.0, sizeof(S) == 2 ? 65535.0 : 70000.0}, ours,
-                        [=](const S* src, D* dst, size_t length) {
-                            scalar::convertRounded<S, D>(src, dst, length, mode, (0 + ... + n));
-                        });
+    addConversion<S, D>(
+        name, {std::is_signed_v<S> ? -300.0 : 0.0, sizeof(S) == 2 ? 65535.0 : 70000.0, 1, 1, 1, sizes}, ours,
+        [=](const S* src, D* dst, size_t length) {
+            scalar::convertRounded<S, D>(src, dst, length, mode, (0 + ... + n));
+        });
 }
 
 template <typename T, typename F>
@@ -94,19 +97,23 @@ void addPack(const char* name, F function) {
 } // namespace
 
 void addConversions() {
-    addCast<Tpx8u, Tpx16s>("tpxiConvert_8u16s_C1R", tpxiConvert_8u16s_C1R);
+    addCast<Tpx8u, Tpx16s>("tpxiConvert_8u16s_C1R", tpxiConvert_8u16s_C1R, 1, Sizes::all);
     addCast<Tpx8u, Tpx32s>("tpxiConvert_8u32s_C1R", tpxiConvert_8u32s_C1R);
     addCast<Tpx8u, Tpx32f>("tpxiConvert_8u32f_C3R", tpxiConvert_8u32f_C3R, 3);
     addCast<Tpx16s, Tpx32f>("tpxiConvert_16s32f_C3R", tpxiConvert_16s32f_C3R, 3);
     addCast<Tpx32u, Tpx32f>("tpxiConvert_32u32f_C1R", tpxiConvert_32u32f_C1R);
-    addCast<Tpx16u, Tpx8u>("tpxiConvert_16u8u_C1R", tpxiConvert_16u8u_C1R);
+    addCast<Tpx16u, Tpx8u>("tpxiConvert_16u8u_C1R", tpxiConvert_16u8u_C1R, 1, Sizes::all);
     addCast<Tpx32s, Tpx8u>("tpxiConvert_32s8u_C1R", tpxiConvert_32s8u_C1R);
-    addRounded<Tpx32f, Tpx8u>("tpxiConvert_32f8u_C1R nearest", tpxiConvert_32f8u_C1R, 1);
-    addRounded<Tpx32f, Tpx16s>("tpxiConvert_32f16s_C1R away", tpxiConvert_32f16s_C1R, 2);
-    addRounded<Tpx32f, Tpx32u>("tpxiConvert_32f32u_C1RSfs nearest, 1", tpxiConvert_32f32u_C1RSfs, 1, 1);
-    addRounded<Tpx64f, Tpx16u>("tpxiConvert_64f16u_C1RSfs nearest, 1", tpxiConvert_64f16u_C1RSfs, 1, 1);
-    addRounded<Tpx32s, Tpx16s>("tpxiConvert_32s16s_C1RSfs nearest, 3", tpxiConvert_32s16s_C1RSfs, 1, 3);
-    addRounded<Tpx16u, Tpx8s>("tpxiConvert_16u8s_C1RSfs nearest, 3", tpxiConvert_16u8s_C1RSfs, 1, 3);
+    addRounded<Tpx32f, Tpx8u>("tpxiConvert_32f8u_C1R nearest", tpxiConvert_32f8u_C1R, Sizes::all, 1);
+    addRounded<Tpx32f, Tpx16s>("tpxiConvert_32f16s_C1R away", tpxiConvert_32f16s_C1R, Sizes::middle, 2);
+    addRounded<Tpx32f, Tpx32u>("tpxiConvert_32f32u_C1RSfs nearest, 1", tpxiConvert_32f32u_C1RSfs, Sizes::middle,
+                               1, 1);
+    addRounded<Tpx64f, Tpx16u>("tpxiConvert_64f16u_C1RSfs nearest, 1", tpxiConvert_64f16u_C1RSfs, Sizes::middle,
+                               1, 1);
+    addRounded<Tpx32s, Tpx16s>("tpxiConvert_32s16s_C1RSfs nearest, 3", tpxiConvert_32s16s_C1RSfs, Sizes::all, 1,
+                               3);
+    addRounded<Tpx16u, Tpx8s>("tpxiConvert_16u8s_C1RSfs nearest, 3", tpxiConvert_16u8s_C1RSfs, Sizes::middle, 1,
+                              3);
     addUnpack<Tpx8u>("tpxiBinToGray_1u8u_C1R", tpxiBinToGray_1u8u_C1R);
     addUnpack<Tpx32f>("tpxiBinToGray_1u32f_C1R", tpxiBinToGray_1u32f_C1R);
     addPack<Tpx8u>("tpxiGrayToBin_8u1u_C1R", tpxiGrayToBin_8u1u_C1R);

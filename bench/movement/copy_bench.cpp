@@ -8,16 +8,24 @@ namespace bench {
 namespace {
 
 template <typename T>
-void addCopy(const char* name, Process<T> ours, int channels, ScalarRow<T> scalar) {
-    addPointwise<T>({.group = "Copy and set", .function = name, .channels = channels, .high = 100}, ours,
-                    scalar);
+void addCopy(const char* name, Process<T> ours, int channels, ScalarRow<T> scalar,
+             Sizes sizes = Sizes::middle) {
+    addPointwise<T>(
+        {.group = "Copy and set", .function = name, .channels = channels, .high = 100, .sizes = sizes}, ours,
+        scalar);
 }
 
 // The copy beside it reads as well as writes; std::memset is shown where it can do the job.
 template <typename T, typename F, typename Value>
-void addSet(const char* name, F function, int channels, const Value& value, std::vector<Other<T>> others = {}) {
+void addSet(const char* name, F function, int channels, const Value& value, Sizes sizes = Sizes::middle,
+            std::vector<Other<T>> others = {}) {
     addPointwise<T>(
-        {.group = "Copy and set", .function = name, .channels = channels, .high = 100, .reads = false},
+        {.group = "Copy and set",
+         .function = name,
+         .channels = channels,
+         .high = 100,
+         .sizes = sizes,
+         .reads = false},
         [=](const T*, int, T* dst, int step, TpxiSize size) {
             if constexpr (std::is_arithmetic_v<Value>)
                 return function(value, dst, step, size);
@@ -36,11 +44,11 @@ void addSet(const char* name, F function, int channels, const Value& value, std:
 } // namespace
 
 void addCopies() {
-    addCopy<Tpx8u>("tpxiCopy_8u_C1R", tpxiCopy_8u_C1R, 1, scalar::copy<Tpx8u>);
+    addCopy<Tpx8u>("tpxiCopy_8u_C1R", tpxiCopy_8u_C1R, 1, scalar::copy<Tpx8u>, Sizes::all);
     addCopy<Tpx8u>("tpxiCopy_8u_C3R", tpxiCopy_8u_C3R, 3, scalar::copy<Tpx8u>);
     addCopy<Tpx8u>("tpxiCopy_8u_AC4R", tpxiCopy_8u_AC4R, 4, scalar::copyKeepAlpha<Tpx8u>);
     addCopy<Tpx16s>("tpxiCopy_16s_C1R", tpxiCopy_16s_C1R, 1, scalar::copy<Tpx16s>);
-    addCopy<Tpx32f>("tpxiCopy_32f_C1R", tpxiCopy_32f_C1R, 1, scalar::copy<Tpx32f>);
+    addCopy<Tpx32f>("tpxiCopy_32f_C1R", tpxiCopy_32f_C1R, 1, scalar::copy<Tpx32f>, Sizes::all);
 
     const Other<Tpx8u> memset = {kMemset, [](const Image<Tpx8u>&, const Image<Tpx8u>& dst) {
                                      if (dst.rowBytes() == static_cast<size_t>(dst.step())) {
@@ -50,9 +58,9 @@ void addCopies() {
                                      for (int y = 0; y < dst.size().height; ++y)
                                          std::memset(dst.row(y), 7, dst.rowBytes());
                                  }};
-    addSet<Tpx8u>("tpxiSet_8u_C1R", tpxiSet_8u_C1R, 1, Tpx8u{7}, {memset});
+    addSet<Tpx8u>("tpxiSet_8u_C1R", tpxiSet_8u_C1R, 1, Tpx8u{7}, Sizes::all, {memset});
     addSet<Tpx8u>("tpxiSet_8u_C3R", tpxiSet_8u_C3R, 3, std::array<Tpx8u, 3>{7, 8, 9});
-    addSet<Tpx32f>("tpxiSet_32f_C1R", tpxiSet_32f_C1R, 1, Tpx32f{7});
+    addSet<Tpx32f>("tpxiSet_32f_C1R", tpxiSet_32f_C1R, 1, Tpx32f{7}, Sizes::all);
     addSet<Tpx32f>("tpxiSet_32f_C3R", tpxiSet_32f_C3R, 3, std::array<Tpx32f, 3>{7, 8, 9});
 }
 
