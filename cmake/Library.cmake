@@ -4,6 +4,7 @@ file(GLOB TPX_SOURCES CONFIGURE_DEPENDS
      ${PROJECT_SOURCE_DIR}/arithmetic/*.cpp
      ${PROJECT_SOURCE_DIR}/movement/*.cpp
      ${PROJECT_SOURCE_DIR}/geometry/*.cpp
+     ${PROJECT_SOURCE_DIR}/statistics/*.cpp
      ${PROJECT_SOURCE_DIR}/threshold/*.cpp)
 list(FILTER TPX_SOURCES EXCLUDE REGEX "frame/builtins\\.cpp$")
 file(GLOB TPX_PUBLIC_HEADERS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/tpxi/*.h)

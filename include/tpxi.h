@@ -24,6 +24,7 @@
 #include "tpxi/arithmetic.h"
 #include "tpxi/geometry.h"
 #include "tpxi/movement.h"
+#include "tpxi/statistics.h"
 #include "tpxi/threshold.h"
 
 #endif
