@@ -1,0 +1,146 @@
+// Between which levels a sample lies.
+//
+// The rank of a sample among levels is how many of them are not above it, so that rank k + 1 means
+// levels[k] <= x < levels[k + 1], 0 below all levels, their count at or above the last. NaN has rank 0. That
+// needs levels which rise; among others the rank is k + 1 for the first interval k that holds the sample, 0 if
+// none does. Levels may lie at any address.
+#pragma once
+
+#include "frame/simd.h"
+#include "frame/walk.h"
+
+namespace tpx {
+
+template <class T>
+inline T levelAt(const T* levels, ptrdiff_t k) {
+    T level;
+    __builtin_memcpy(&level, levels + k, sizeof level);
+    return level;
+}
+
+// Whether no level is below the one before it, and none is NaN.
+template <class T>
+inline bool levelsRise(const T* levels, ptrdiff_t count) {
+    bool rise = true;
+    for (ptrdiff_t k = 1; k < count; k++) rise &= levelAt(levels, k - 1) <= levelAt(levels, k);
+    return rise;
+}
+
+// The rank among levels that rise, of which there is at least one; for single samples.
+template <class T>
+inline ptrdiff_t rankAmong(const T* levels, ptrdiff_t count, T x) {
+    ptrdiff_t at = 0;
+    while (count > 1) {
+        const ptrdiff_t half = count / 2;
+        at += levelAt(levels, at + half) <= x ? half : 0;
+        count -= half;
+    }
+    return at + (levelAt(levels, at) <= x);
+}
+
+// ---- Ways to rank a register of samples ------------------------------------------------------------------
+
+// Levels at even distances: the distance from the first tells the rank but for one comparison. With 0.5 added,
+// a level of index j comes to about j + 0.5. If it truly lies in j..j + 1, then a sample from there to the next
+// level comes to j or j + 1, since every operation keeps the order of samples, and is compared with that level.
+struct EvenRanks {
+    const Tpx32f* levels;
+    ptrdiff_t count;
+    Tpx32f first, scale;
+
+    EvenRanks(const Tpx32f* levels_, ptrdiff_t count_) : levels(levels_), count(count_) {
+        first = levelAt(levels, 0);
+        scale = Tpx32f(count - 1) / (levelAt(levels, count - 1) - first);
+    }
+    // The comparison turns what NaN gives to 0.
+    V32f estimate(V32f x) const {
+        const V32f even = (x - splat<V32f>(first)) * splat<V32f>(scale) + splat<V32f>(0.5f);
+        return minOf(maxOf(even, V32f{}), splat<V32f>(Tpx32f(count - 1)));
+    }
+    Pair<V32s> operator()(V32f x) const {
+        Tpx32s index[8], rank[8];
+        const __m256i truncated = _mm256_cvttps_epi32(estimate(x));
+        __builtin_memcpy(index, &truncated, sizeof index);
+        for (int i = 0; i < 8; i++) rank[i] = index[i] + (levelAt(levels, index[i]) <= x[i]);
+        return {load(rank), load(rank + 4)};
+    }
+    bool holds() const {
+        if (count < kLanes<Tpx32f> || count > 1 << 22) return false; // more are beyond single precision
+        const auto holdsFrom = [&](ptrdiff_t k) {
+            const V32f index = V32f{0, 1, 2, 3, 4, 5, 6, 7} + splat<V32f>(Tpx32f(k));
+            const V32f estimated = estimate(load(levels + k));
+            return !any((estimated < index) | (estimated >= index + splat<V32f>(1)));
+        };
+        bool all = holdsFrom(count - kLanes<Tpx32f>);
+        for (ptrdiff_t k = 0; all && k + kLanes<Tpx32f> <= count; k += kLanes<Tpx32f>) all = holdsFrom(k);
+        return all;
+    }
+};
+
+// A few levels that rise: every one is compared.
+struct CountedRanks {
+    const Tpx32f* levels;
+    ptrdiff_t count;
+
+    Pair<V32s> operator()(V32f x) const {
+        V32f rank{};
+        for (ptrdiff_t k = 0; k < count; k++)
+            rank +=
+                _mm256_and_ps(_mm256_cmp_ps(splat<V32f>(levelAt(levels, k)), x, _CMP_LE_OQ), splat<V32f>(1.0f));
+        return toInteger(rank);
+    }
+};
+
+// Many levels that rise: eight searches by halves side by side.
+struct HalvedRanks {
+    const Tpx32f* levels;
+    ptrdiff_t count;
+
+    Pair<V32s> operator()(V32f x) const {
+        Tpx32s at[8] = {};
+        Tpx32s left = Tpx32s(count);
+        while (left > 1) {
+            const Tpx32s half = left / 2;
+            for (int i = 0; i < 8; i++) at[i] += levelAt(levels, at[i] + half) <= x[i] ? half : 0;
+            left -= half;
+        }
+        for (int i = 0; i < 8; i++) at[i] += levelAt(levels, at[i]) <= x[i];
+        return {load(at), load(at + 4)};
+    }
+};
+
+// Any levels: the first interval that holds the sample.
+struct FirstRanks {
+    const Tpx32f* levels;
+    ptrdiff_t count;
+
+    Pair<V32s> operator()(V32f x) const {
+        V32f rank{};
+        for (ptrdiff_t k = count - 2; k >= 0; k--) {
+            const B32f within =
+                (splat<V32f>(levelAt(levels, k)) <= x) & (x < splat<V32f>(levelAt(levels, k + 1)));
+            rank = select(within, bitsAs<V32f>(B32f{} + Tpx32s(k + 1)), rank);
+        }
+        const B32f bits = bitsAs<B32f>(rank);
+        return {__builtin_shufflevector(bits, bits, 0, 1, 2, 3),
+                __builtin_shufflevector(bits, bits, 4, 5, 6, 7)};
+    }
+};
+
+// Picks a way for at least two levels once a call, of `samples` to be ranked, and hands it to body(rank), where
+// rank(x) gives the ranks of a register of samples.
+template <class Body>
+inline void withRanks(const Tpx32f* levels, ptrdiff_t count, uint64_t samples, Body body) {
+    constexpr ptrdiff_t kFew = 8;
+    const EvenRanks even(levels, count);
+    if (count > kFew && uint64_t(count) < samples && even.holds())
+        body(even);
+    else if (!levelsRise(levels, count))
+        body(FirstRanks{levels, count});
+    else if (count <= kFew)
+        body(CountedRanks{levels, count});
+    else
+        body(HalvedRanks{levels, count});
+}
+
+} // namespace tpx
