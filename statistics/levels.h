@@ -57,12 +57,10 @@ struct EvenRanks {
         const V32f even = (x - splat<V32f>(first)) * splat<V32f>(scale) + splat<V32f>(0.5f);
         return minOf(maxOf(even, V32f{}), splat<V32f>(Tpx32f(count - 1)));
     }
-    Pair<V32s> operator()(V32f x) const {
-        Tpx32s index[8], rank[8];
+    void operator()(V32f x, Tpx32s* ranks) const {
         const __m256i truncated = _mm256_cvttps_epi32(estimate(x));
-        __builtin_memcpy(index, &truncated, sizeof index);
-        for (int i = 0; i < 8; i++) rank[i] = index[i] + (levelAt(levels, index[i]) <= x[i]);
-        return {load(rank), load(rank + 4)};
+        __builtin_memcpy(ranks, &truncated, sizeof truncated);
+        for (int i = 0; i < 8; i++) ranks[i] += levelAt(levels, ranks[i]) <= x[i];
     }
     bool holds() const {
         if (count < kLanes<Tpx32f> || count > 1 << 22) return false; // more are beyond single precision
@@ -77,17 +75,22 @@ struct EvenRanks {
     }
 };
 
+inline void storeRanks(Pair<V32s> from, Tpx32s* ranks) {
+    store(ranks, from.low);
+    store(ranks + 4, from.high);
+}
+
 // A few levels that rise: every one is compared.
 struct CountedRanks {
     const Tpx32f* levels;
     ptrdiff_t count;
 
-    Pair<V32s> operator()(V32f x) const {
+    void operator()(V32f x, Tpx32s* ranks) const {
         V32f rank{};
         for (ptrdiff_t k = 0; k < count; k++)
             rank +=
                 _mm256_and_ps(_mm256_cmp_ps(splat<V32f>(levelAt(levels, k)), x, _CMP_LE_OQ), splat<V32f>(1.0f));
-        return toInteger(rank);
+        storeRanks(toInteger(rank), ranks);
     }
 };
 
@@ -96,7 +99,7 @@ struct HalvedRanks {
     const Tpx32f* levels;
     ptrdiff_t count;
 
-    Pair<V32s> operator()(V32f x) const {
+    void operator()(V32f x, Tpx32s* ranks) const {
         Tpx32s at[8] = {};
         Tpx32s left = Tpx32s(count);
         while (left > 1) {
@@ -104,8 +107,7 @@ struct HalvedRanks {
             for (int i = 0; i < 8; i++) at[i] += levelAt(levels, at[i] + half) <= x[i] ? half : 0;
             left -= half;
         }
-        for (int i = 0; i < 8; i++) at[i] += levelAt(levels, at[i]) <= x[i];
-        return {load(at), load(at + 4)};
+        for (int i = 0; i < 8; i++) ranks[i] = at[i] + (levelAt(levels, at[i]) <= x[i]);
     }
 };
 
@@ -114,21 +116,19 @@ struct FirstRanks {
     const Tpx32f* levels;
     ptrdiff_t count;
 
-    Pair<V32s> operator()(V32f x) const {
+    void operator()(V32f x, Tpx32s* ranks) const {
         V32f rank{};
         for (ptrdiff_t k = count - 2; k >= 0; k--) {
             const B32f within =
                 (splat<V32f>(levelAt(levels, k)) <= x) & (x < splat<V32f>(levelAt(levels, k + 1)));
             rank = select(within, bitsAs<V32f>(B32f{} + Tpx32s(k + 1)), rank);
         }
-        const B32f bits = bitsAs<B32f>(rank);
-        return {__builtin_shufflevector(bits, bits, 0, 1, 2, 3),
-                __builtin_shufflevector(bits, bits, 4, 5, 6, 7)};
+        __builtin_memcpy(ranks, &rank, sizeof rank);
     }
 };
 
 // Picks a way for at least two levels once a call, of `samples` to be ranked, and hands it to body(rank), where
-// rank(x) gives the ranks of a register of samples.
+// rank(x, ranks) stores the ranks of a register of samples.
 template <class Body>
 inline void withRanks(const Tpx32f* levels, ptrdiff_t count, uint64_t samples, Body body) {
     constexpr ptrdiff_t kFew = 8;
