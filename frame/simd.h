@@ -224,6 +224,14 @@ inline V16s multiplyRounded(V16s a, V16s b) { return V16s(_mm_mulhrs_epi16(__m12
 // Sums of the products of neighbouring lanes: a0*b0 + a1*b1, a2*b2 + a3*b3, ...
 inline V32s multiplyAddPairs(V16s a, V16s b) { return V32s(_mm_madd_epi16(__m128i(a), __m128i(b))); }
 
+// Sums of neighbouring lanes: a0 + a1, a2 + a3, ...
+inline V16s addPairs(V8u a) { return V16s(_mm_maddubs_epi16(__m128i(a), _mm_set1_epi8(1))); }
+inline V32s addPairs(V16s a) { return V32s(_mm_madd_epi16(__m128i(a), _mm_set1_epi16(1))); }
+
+// The upper halves of the products, whose lower halves a * b has.
+inline V16u multiplyHigh(V16u a, V16u b) { return V16u(_mm_mulhi_epu16(__m128i(a), __m128i(b))); }
+inline V16s multiplyHigh(V16s a, V16s b) { return V16s(_mm_mulhi_epi16(__m128i(a), __m128i(b))); }
+
 // The lanes of `a` and `b` in turn: a0 b0 a1 b1 ... from the lower half of both, or from the upper.
 inline V16s interleaveLow(V16s a, V16s b) { return V16s(_mm_unpacklo_epi16(__m128i(a), __m128i(b))); }
 inline V16s interleaveHigh(V16s a, V16s b) { return V16s(_mm_unpackhi_epi16(__m128i(a), __m128i(b))); }
@@ -374,6 +382,9 @@ inline V16s absSat(V16s a) { return V16s(_mm_abs_epi16(__m128i(maxOf(a, splat<V1
 inline V32f absSat(V32f a) {
     return V32f(_mm256_and_ps(a, _mm256_castsi256_ps(_mm256_set1_epi32(0x7FFFFFFF))));
 }
+inline V64f absSat(V64f a) {
+    return V64f(_mm256_and_pd(a, _mm256_castsi256_pd(_mm256_set1_epi64x(0x7FFFFFFFFFFFFFFF))));
+}
 
 // The magnitude with the sign of another sample, 0 where that is 0.
 inline V16s withSign(V16u a, V16s sign) { return V16s(_mm_sign_epi16(__m128i(a), __m128i(sign))); }
@@ -392,6 +403,9 @@ inline V32f toFloat(Pair<V32s> a) {
         _mm256_insertf128_si256(_mm256_castsi128_si256(__m128i(a.low)), __m128i(a.high), 1)));
 }
 inline V64f toDouble(V32s a) { return V64f(_mm256_cvtepi32_pd(__m128i(a))); }
+inline V64f toDouble(V32u a) { // exact: half of the range lower, as signed
+    return toDouble(V32s(a ^ splat<V32u>(0x80000000))) + splat<V64f>(0x1p31);
+}
 
 // ---- Widening and narrowing -----------------------------------------------------------------------------
 
@@ -404,6 +418,10 @@ inline Pair<V32u> widen(V16u a) {
 inline Pair<V32s> widen(V16s a) {
     return {V32s(_mm_cvtepi16_epi32(__m128i(a))),
             V32s(_mm_srai_epi32(_mm_unpackhi_epi16(__m128i(a), __m128i(a)), 16))};
+}
+
+inline Pair<V64f> widen(V32f a) {
+    return {V64f(_mm256_cvtps_pd(_mm256_castps256_ps128(a))), V64f(_mm256_cvtps_pd(_mm256_extractf128_ps(a, 1)))};
 }
 
 // A register of To from as many samples of a type that is no wider and whose values it holds.
