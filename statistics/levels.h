@@ -127,20 +127,33 @@ struct FirstRanks {
     }
 };
 
-// Picks a way for at least two levels once a call, of `samples` to be ranked, and hands it to body(rank), where
-// rank(x, ranks) stores the ranks of a register of samples.
+enum class Ranking { Even, First, Counted, Halved };
+
+// The way for at least two levels, of `samples` to be ranked: the even one costs a look at every level.
+inline Ranking rankingOf(const Tpx32f* levels, ptrdiff_t count, uint64_t samples) {
+    constexpr ptrdiff_t kFew = 8;
+    if (count > kFew && uint64_t(count) < samples && EvenRanks(levels, count).holds()) return Ranking::Even;
+    if (!levelsRise(levels, count)) return Ranking::First;
+    return count <= kFew ? Ranking::Counted : Ranking::Halved;
+}
+
+// Hands the way to body(rank), where rank(x, ranks) stores the ranks of a register of samples.
+template <class Body>
+inline void withRanks(Ranking ranking, const Tpx32f* levels, ptrdiff_t count, Body body) {
+    switch (ranking) {
+        case Ranking::Even:
+            return body(EvenRanks(levels, count));
+        case Ranking::First:
+            return body(FirstRanks{levels, count});
+        case Ranking::Counted:
+            return body(CountedRanks{levels, count});
+        case Ranking::Halved:
+            return body(HalvedRanks{levels, count});
+    }
+}
 template <class Body>
 inline void withRanks(const Tpx32f* levels, ptrdiff_t count, uint64_t samples, Body body) {
-    constexpr ptrdiff_t kFew = 8;
-    const EvenRanks even(levels, count);
-    if (count > kFew && uint64_t(count) < samples && even.holds())
-        body(even);
-    else if (!levelsRise(levels, count))
-        body(FirstRanks{levels, count});
-    else if (count <= kFew)
-        body(CountedRanks{levels, count});
-    else
-        body(HalvedRanks{levels, count});
+    withRanks(rankingOf(levels, count, samples), levels, count, body);
 }
 
 } // namespace tpx
