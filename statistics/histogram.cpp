@@ -1,0 +1,486 @@
+// tpxiHistogram: samples counted between levels.
+//
+// 8-bit samples, and 16-bit samples of images that are not small, are counted in a table with an entry for each
+// value, whose sections are the bins. Other samples go as floats, in blocks of one channel, to a search among
+// the levels.
+#include "frame/entry.h"
+#include "frame/real.h"
+#include "frame/runs.h"
+#include "statistics/levels.h"
+
+namespace tpx {
+namespace {
+
+// ---- The spec --------------------------------------------------------------------------------------------
+
+constexpr int kIdentity = 0x74736968; // "hist"
+
+// The levels of all channels follow, back to back. Fields of absent channels are 0.
+struct Spec {
+    TpxDataType dataType;
+    int nChannels, uniform, identity;
+    int nLevels[4];
+    Tpx8u* levels[4]; // integers of 32 bits or floats, at any address
+    Tpx32f step[4];
+};
+static_assert(sizeof(Spec) == 80);
+
+bool isDataType(TpxDataType type) {
+    return type == tpxDataType8u || type == tpxDataType16u || type == tpxDataType16s || type == tpxDataType32f;
+}
+bool isChannelCount(int n) { return n == 1 || n == 3 || n == 4; }
+
+// A level as an integer, limited to the type; NaN gives the smallest.
+Tpx32s truncated(Tpx32f x) {
+    constexpr Tpx32f kBeyond = 2147483648.0f;
+    return x >= kBeyond ? kMax<Tpx32s> : x >= -kBeyond ? Tpx32s(x) : kMin<Tpx32s>;
+}
+Tpx32s ceiling(Tpx32f x) {
+    const Tpx32s level = truncated(x);
+    return level + (level != kMax<Tpx32s> && Tpx32f(level) < x);
+}
+
+// level(k) is the level to be stored.
+template <class L, class Level>
+void storeLevels(Tpx8u* storage, ptrdiff_t count, Level level) {
+    for (ptrdiff_t k = 0; k < count; k++) {
+        const L value = level(k);
+        __builtin_memcpy(storage + k * ptrdiff_t(sizeof value), &value, sizeof value);
+    }
+}
+
+// Checks, and stores the spec. channel(c, storage, &step) does so for the levels of a channel. The identity is
+// 0 until all is done.
+template <class Channel, class... Arrays>
+TpxStatus initSpec(TpxHistogramSpec* pSpec, TpxDataType dataType, int nChannels, bool uniform,
+                   const int* nLevels, Channel channel, const Arrays*... arrays) {
+    Spec spec = {dataType, nChannels, uniform, 0, {}, {}, {}};
+    auto at = reinterpret_cast<Tpx8u*>(pSpec);
+    if (pSpec) __builtin_memset(at + offsetof(Spec, identity), 0, sizeof spec.identity);
+    if (!isDataType(dataType)) return tpxErrDataType;
+    if (anyNull(pSpec, nLevels, arrays...)) return tpxErrNullPointer;
+    if (!isChannelCount(nChannels)) return tpxErrChannelCount;
+    TpxStatus warning = tpxOk;
+    Tpx8u* storage = at + sizeof spec;
+    for (int c = 0; c < nChannels; c++) {
+        const TpxStatus status = channel(c, storage, spec.step[c]);
+        if (status < tpxOk) return status;
+        if (status > tpxOk) warning = status;
+        spec.nLevels[c] = nLevels[c];
+        spec.levels[c] = storage;
+        storage += 4 * ptrdiff_t(nLevels[c]);
+    }
+    spec.identity = kIdentity;
+    __builtin_memcpy(at, &spec, sizeof spec);
+    return warning;
+}
+
+TpxStatus initLevels(TpxDataType dataType, const Tpx32f* const* pLevels, const int* nLevels, int nChannels,
+                     TpxHistogramSpec* pSpec) {
+    const auto channel = [=](int c, Tpx8u* storage, Tpx32f&) -> TpxStatus {
+        const Tpx32f* levels = pLevels[c];
+        if (!levels) return tpxErrNullPointer;
+        if (nLevels[c] < 2) return tpxErrHistogramLevels;
+        for (ptrdiff_t k = 1; k < nLevels[c]; k++)
+            if (!(levelAt(levels, k - 1) < levelAt(levels, k))) return tpxErrRange;
+        if (dataType == tpxDataType32f)
+            storeLevels<Tpx32f>(storage, nLevels[c], [=](ptrdiff_t k) { return levelAt(levels, k); });
+        else
+            storeLevels<Tpx32s>(storage, nLevels[c], [=](ptrdiff_t k) { return ceiling(levelAt(levels, k)); });
+        return tpxOk;
+    };
+    return initSpec(pSpec, dataType, nChannels, false, nLevels, channel, pLevels);
+}
+
+TpxStatus initUniform(TpxDataType dataType, const Tpx32f* lowerLevel, const Tpx32f* upperLevel,
+                      const int* nLevels, int nChannels, TpxHistogramSpec* pSpec) {
+    const auto channel = [=](int c, Tpx8u* storage, Tpx32f& step) -> TpxStatus {
+        const Tpx32f lower = levelAt(lowerLevel, c), upper = levelAt(upperLevel, c);
+        const ptrdiff_t last = ptrdiff_t(nLevels[c]) - 1;
+        if (last < 1) return tpxErrHistogramLevels;
+        if (!(lower < upper)) return tpxErrRange;
+        const Tpx32f distance = (upper - lower) / Tpx32f(last);
+        const auto level = [=](ptrdiff_t k) {
+            return k == 0 ? lower : k == last ? upper : lower + distance * Tpx32f(k);
+        };
+        step = distance;
+        if (dataType == tpxDataType32f) {
+            storeLevels<Tpx32f>(storage, last + 1, level);
+            return tpxOk;
+        }
+        storeLevels<Tpx32s>(storage, last + 1, [=](ptrdiff_t k) { return truncated(level(k)); });
+        return distance < 1 ? tpxWarnValueAdjusted : tpxOk;
+    };
+    return initSpec(pSpec, dataType, nChannels, true, nLevels, channel, lowerLevel, upperLevel);
+}
+
+// False if it is not ready.
+bool readSpec(Spec& spec, const TpxHistogramSpec* pSpec) {
+    __builtin_memcpy(&spec, pSpec, sizeof spec);
+    return spec.identity == kIdentity;
+}
+
+// ---- What is counted -------------------------------------------------------------------------------------
+
+// A counter at any address.
+typedef Tpx32u Counter __attribute__((aligned(1), may_alias));
+
+template <class T>
+inline constexpr TpxDataType kDataType = std::is_same_v<T, Tpx8u>    ? tpxDataType8u
+                                         : std::is_same_v<T, Tpx16u> ? tpxDataType16u
+                                         : std::is_same_v<T, Tpx16s> ? tpxDataType16s
+                                                                     : tpxDataType32f;
+
+// An image, and the place of the next block in it.
+template <class T, int C>
+struct Source {
+    const T* src;
+    ptrdiff_t step, width, height; // in pixels
+    ptrdiff_t x = 0;
+
+    Source(const T* src_, int step_, TpxiSize roi)
+        : src(src_), step(step_), width(roi.width), height(roi.height) {
+        joinRows(width, height, ptrdiff_t(sizeof(T)) * C, step);
+    }
+};
+
+// ---- Tables of all values --------------------------------------------------------------------------------
+
+// Equal samples must not wait for each other's count: neighbours are counted in tables of their own. These
+// begin at different places within a page, lest their addresses be mistaken for each other's.
+template <int C>
+struct ByteTables {
+    static constexpr int kTables = C == 1 ? 4 : 2 * C, kBlock = C == 3 ? 24 : 8;
+    Tpx32u counts[kTables][256 + 16] = {};
+
+    void run(const Tpx8u* src, ptrdiff_t len) {
+        ptrdiff_t i = 0;
+        for (; i + kBlock <= len; i += kBlock)
+            for (int w = 0; w < kBlock; w += 8) {
+                Tpx64u word;
+                __builtin_memcpy(&word, src + i + w, sizeof word);
+#pragma GCC unroll 8
+                for (int j = 0; j < 8; j++) counts[(w + j) % kTables][Tpx8u(word >> 8 * j)]++;
+            }
+        for (int table = 0; i < len; i++, table = (table + 1) % kTables) counts[table][src[i]]++;
+    }
+    // One table of a channel.
+    const Tpx32u* merge(int channel) {
+        for (int t = channel + C; t < kTables; t += C)
+            for (int v = 0; v < 256; v += kLanes<Tpx32u>)
+                store(&counts[channel][v], load(&counts[channel][v]) + load(&counts[t][v]));
+        return counts[channel];
+    }
+};
+
+template <class T>
+constexpr Tpx32s entryOf(Tpx32s level) {
+    return clamp(level, kMin<T>, kMax<T> + 1) - kMin<T>;
+}
+
+Tpx32u sumEntries(const Counter* table, ptrdiff_t begin, ptrdiff_t end) {
+    Tpx32u sum = 0;
+    if (end - begin >= 16) {
+        V32u sums[2] = {};
+        for (; begin + 8 <= end; begin += 8)
+            for (int j = 0; j < 2; j++) {
+                V32u entries;
+                __builtin_memcpy(&entries, table + begin + 4 * j, sizeof entries);
+                sums[j] += entries;
+            }
+        sums[0] += sums[1];
+        for (int j = 0; j < 4; j++) sum += sums[0][j];
+    }
+    for (; begin < end; begin++) sum += table[begin];
+    return sum;
+}
+
+// The bins of levels that are integers.
+template <class T>
+void sumBins(const Counter* table, const Tpx32s* levels, ptrdiff_t count, Counter* hist) {
+    for (ptrdiff_t k = 0; k + 1 < count; k++)
+        hist[k] = sumEntries(table, entryOf<T>(levelAt(levels, k)), entryOf<T>(levelAt(levels, k + 1)));
+}
+
+// Counts 16-bit samples in a table for each channel. Where they are alike, a register of them is one count.
+template <int C, class T>
+void countSamples(const T* src, ptrdiff_t len, Counter* const* tables) {
+    constexpr ptrdiff_t L = kLanes<T>;
+    ptrdiff_t i = 0;
+    if constexpr (C == 1)
+        for (; i + L <= len; i += L) {
+            const Vec<T> x = load(src + i);
+            const T first = x[0];
+            if (!any(x != splat<Vec<T>>(first))) {
+                tables[0][first - kMin<T>] += L;
+                continue;
+            }
+#pragma GCC unroll 8
+            for (int j = 0; j < L; j++) tables[0][x[j] - kMin<T>]++;
+        }
+    for (; i < len; i += C)
+#pragma GCC unroll 4
+        for (int c = 0; c < C; c++) tables[c][levelAt(src, i + c) - kMin<T>]++;
+}
+
+// ---- Blocks of floats ------------------------------------------------------------------------------------
+
+constexpr ptrdiff_t kBlock = 256;
+
+// The next block of a channel's samples, filled up to whole registers by NaN, which no level is below. Gives
+// how many there are; 0 at the end.
+template <class T, int C>
+[[gnu::noinline]] ptrdiff_t nextBlock(Source<T, C>& source, int channel, Tpx32f* block) {
+    if (source.x == source.width) {
+        if (--source.height == 0) return 0;
+        source.x = 0;
+        source.src = addBytes(source.src, source.step);
+    }
+    constexpr ptrdiff_t kPixels = 16 / sizeof(T);
+    const ptrdiff_t left = source.width - source.x, len = left < kBlock ? left : kBlock;
+    const T* src = source.src + source.x * C;
+    for (ptrdiff_t i = 0; i < len; i += kPixels) {
+        Several<V8u, C> pixels = {}, planes;
+        const ptrdiff_t some = len - i < kPixels ? len - i : kPixels;
+        if (some == kPixels)
+            __builtin_memcpy(&pixels, src + i * C, sizeof pixels);
+        else
+            copyBlock(&pixels, src + i * C, some * C * ptrdiff_t(sizeof(T)));
+        if constexpr (C == 1)
+            planes = pixels;
+        else
+            planes = deinterleave<int(sizeof(T))>(pixels);
+        if constexpr (std::is_same_v<T, Tpx32f>) {
+            __builtin_memcpy(block + i, &planes.at[channel], 16);
+        } else {
+            T samples[kPixels];
+            __builtin_memcpy(samples, &planes.at[channel], 16);
+            store(block + i, loadAs<Tpx32f>(samples));
+        }
+    }
+    store(block + len, splat<V32f>(__builtin_nanf("")));
+    source.x += len;
+    return len;
+}
+
+// Uniform levels of integers at an exact distance: the distance from the first by division. A quotient may be
+// rounded up to the number of bins.
+struct DividedRanks {
+    Tpx32f first, last, step;
+    Tpx32s bins;
+
+    void operator()(V32f x, Tpx32s* ranks) const {
+        const V32f quotient = (x - splat<V32f>(first)) / splat<V32f>(step);
+        const __m256i bin = _mm256_cvttps_epi32(minOf(quotient, splat<V32f>(2147483520.0f)));
+        const B32f inside = (splat<V32f>(first) <= x) & (x < splat<V32f>(last));
+        const auto half = [&](__m128i b, __m128i mask) {
+            return (minOf(V32s(b), splat<V32s>(bins - 1)) + splat<V32s>(1)) & V32s(mask);
+        };
+        storeRanks({half(_mm256_castsi256_si128(bin), _mm256_castsi256_si128(__m256i(inside))),
+                    half(_mm256_extractf128_si256(bin, 1), _mm256_extractf128_si256(__m256i(inside), 1))},
+                   ranks);
+    }
+};
+
+// Counts blocks by the ranks of their samples: next(block) gives the next one. As with bytes, neighbours are
+// counted in tables of their own; these have an entry for each rank. Beside too many levels for that, samples
+// go straight to their bins.
+template <class Rank, class Next>
+void countRanks(Next next, Rank rank, ptrdiff_t nLevels, Counter* hist) {
+    constexpr ptrdiff_t kEntries = 512;
+    constexpr int kTables = 4;
+    const ptrdiff_t bins = nLevels - 1;
+    Tpx32f block[kBlock + 8];
+    Tpx32s ranks[8];
+    if (nLevels < kEntries) {
+        Tpx32u counts[kTables][kEntries + 16];
+        for (auto& table : counts)
+            for (ptrdiff_t r = 0; r <= nLevels; r++) table[r] = 0;
+        while (const ptrdiff_t len = next(block))
+            for (ptrdiff_t i = 0; i < len; i += 8) {
+                rank(load(block + i), ranks);
+#pragma GCC unroll 8
+                for (int j = 0; j < 8; j++) counts[j % kTables][ranks[j]]++;
+            }
+        for (ptrdiff_t k = 0; k < bins; k++)
+            hist[k] = counts[0][k + 1] + counts[1][k + 1] + counts[2][k + 1] + counts[3][k + 1];
+        return;
+    }
+    for (ptrdiff_t k = 0; k < bins; k++) hist[k] = 0;
+    while (const ptrdiff_t len = next(block))
+        for (ptrdiff_t i = 0; i < len; i += 8) {
+            rank(load(block + i), ranks);
+            for (int j = 0; j < 8; j++) {
+                const ptrdiff_t bin = ptrdiff_t(ranks[j]) - 1;
+                const bool inside = bin >= 0 && bin < bins;
+                hist[inside ? bin : 0] += inside;
+            }
+        }
+}
+
+// ---- Histograms ------------------------------------------------------------------------------------------
+
+template <int C>
+void countImage(Source<Tpx8u, C> source, const Spec& spec, Counter* const* hist, Tpx8u*, uint64_t) {
+    ByteTables<C> tables;
+    for (const Tpx8u* src = source.src; source.height > 0; source.height--, src = addBytes(src, source.step))
+        tables.run(src, source.width * C);
+    for (int c = 0; c < C; c++)
+        sumBins<Tpx8u>(tables.merge(c), reinterpret_cast<const Tpx32s*>(spec.levels[c]), spec.nLevels[c],
+                       hist[c]);
+}
+
+template <int C>
+void countImage(const Source<Tpx32f, C>& source, const Spec& spec, Counter* const* hist, Tpx8u*,
+                uint64_t pixels) {
+    for (int c = 0; c < C; c++) {
+        const auto levels = reinterpret_cast<const Tpx32f*>(spec.levels[c]);
+        withRanks(levels, spec.nLevels[c], pixels, [&](auto rank) {
+            countRanks([&, s = source](Tpx32f* block) mutable { return nextBlock(s, c, block); }, rank,
+                       spec.nLevels[c], hist[c]);
+        });
+    }
+}
+
+// A channel of a small image of 16-bit samples; false if it is better counted in a table.
+template <class T, int C>
+bool countSmall(const Source<T, C>& source, int c, const Spec& spec, Counter* hist, Tpx8u* buffer,
+                uint64_t pixels) {
+    constexpr uint64_t kSmall = 65536;
+    if (pixels >= kSmall) return false;
+    const auto levels = reinterpret_cast<const Tpx32s*>(spec.levels[c]);
+    const ptrdiff_t last = ptrdiff_t(spec.nLevels[c]) - 1;
+    const Tpx32s lowest = levelAt(levels, 0), highest = levelAt(levels, last);
+    const auto next = [&, s = source](Tpx32f* block) mutable { return nextBlock(s, c, block); };
+    if (spec.uniform && (Tpx64s(highest) - lowest) % last == 0) {
+        const DividedRanks rank = {Tpx32f(lowest), Tpx32f(highest), spec.step[c], Tpx32s(last)};
+        countRanks(next, rank, last + 1, hist);
+        return true;
+    }
+    // The table would cost the time of so many pixels.
+    const auto range = uint64_t(entryOf<T>(highest) - entryOf<T>(lowest));
+    if (pixels > range / 16 || last >= ptrdiff_t(kSmall)) return false;
+    const auto real = reinterpret_cast<Tpx32f*>(buffer);
+    storeLevels<Tpx32f>(buffer, last + 1,
+                        [=](ptrdiff_t k) { return Tpx32f(entryOf<T>(levelAt(levels, k)) + kMin<T>); });
+    withRanks(real, last + 1, pixels, [&](auto rank) { countRanks(next, rank, last + 1, hist); });
+    return true;
+}
+
+template <class T, int C>
+void countImage(Source<T, C> source, const Spec& spec, Counter* const* hist, Tpx8u* buffer, uint64_t pixels) {
+    constexpr ptrdiff_t kEntries = 65536;
+    Counter* tables[C];
+    bool done[C], allDone = true;
+    for (int c = 0; c < C; c++) {
+        tables[c] = reinterpret_cast<Counter*>(buffer) + c * kEntries;
+        done[c] = countSmall(source, c, spec, hist[c], buffer, pixels);
+        allDone &= done[c];
+    }
+    if (allDone) return;
+    // What lies beyond the levels is counted into entries that nobody clears or reads.
+    for (int c = 0; c < C; c++) {
+        const auto levels = reinterpret_cast<const Tpx32s*>(spec.levels[c]);
+        Tpx32s begin = kEntries, end = 0;
+        for (ptrdiff_t k = 0; k < spec.nLevels[c]; k++) {
+            const Tpx32s entry = entryOf<T>(levelAt(levels, k));
+            begin = minOf(begin, entry);
+            end = maxOf(end, entry);
+        }
+        if (begin < end) __builtin_memset(tables[c] + begin, 0, size_t(end - begin) * sizeof(Counter));
+    }
+    for (; source.height > 0; source.height--, source.src = addBytes(source.src, source.step))
+        countSamples<C>(source.src, source.width * C, tables);
+    for (int c = 0; c < C; c++)
+        if (!done[c])
+            sumBins<T>(tables[c], reinterpret_cast<const Tpx32s*>(spec.levels[c]), spec.nLevels[c], hist[c]);
+}
+
+template <int C, class T>
+TpxStatus histogram(const T* pSrc, int srcStep, TpxiSize roiSize, Tpx32u* const* pHist,
+                    const TpxHistogramSpec* pSpec, Tpx8u* pBuffer) {
+    if (anyNull(pSrc, pHist, pSpec) || (!std::is_same_v<T, Tpx32f> && !pBuffer)) return tpxErrNullPointer;
+    Counter* hist[C];
+    for (int c = 0; c < C; c++) {
+        hist[c] = pHist[c];
+        if (!hist[c]) return tpxErrNullPointer;
+    }
+    if (isEmpty(roiSize)) return tpxErrSize;
+    if (srcStep < Tpx64s(roiSize.width) * C * Tpx64s(sizeof(T))) return tpxErrStep;
+    Spec spec;
+    if (!readSpec(spec, pSpec) || spec.dataType != kDataType<T> || spec.nChannels != C)
+        return tpxErrBadArgument;
+    countImage(Source<T, C>(pSrc, srcStep, roiSize), spec, hist, pBuffer,
+               uint64_t(roiSize.width) * uint64_t(roiSize.height));
+    return tpxOk;
+}
+
+} // namespace
+} // namespace tpx
+
+using namespace tpx;
+
+TPX_ENTRY(tpxiHistogramGetBufferSize)
+(TpxDataType dataType, TpxiSize roiSize, const int nLevels[], int nChannels, int, int* pSpecSize,
+ int* pBufferSize) {
+    if (anyNull(nLevels, pSpecSize, pBufferSize)) return tpxErrNullPointer;
+    if (isEmpty(roiSize)) return tpxErrSize;
+    if (!isChannelCount(nChannels)) return tpxErrChannelCount;
+    Tpx64s size = sizeof(Spec);
+    for (int c = 0; c < nChannels; c++) {
+        if (nLevels[c] < 2) return tpxErrHistogramLevels;
+        size += 4 * Tpx64s(nLevels[c]);
+    }
+    if (size > kMax<Tpx32s>) return tpxErrSizeTooLarge;
+    *pSpecSize = int(size);
+    if (!isDataType(dataType)) return tpxErrDataType;
+    *pBufferSize = nChannels * (dataType == tpxDataType8u ? 1024 : dataType == tpxDataType32f ? 0 : 262144);
+    return tpxOk;
+}
+
+TPX_ENTRY(tpxiHistogramInit)
+(TpxDataType dataType, const Tpx32f* const pLevels[], const int nLevels[], int nChannels,
+ TpxHistogramSpec* pSpec) {
+    return initLevels(dataType, pLevels, nLevels, nChannels, pSpec);
+}
+
+TPX_ENTRY(tpxiHistogramUniformInit)
+(TpxDataType dataType, const Tpx32f lowerLevel[], const Tpx32f upperLevel[], const int nLevels[], int nChannels,
+ TpxHistogramSpec* pSpec) {
+    return initUniform(dataType, lowerLevel, upperLevel, nLevels, nChannels, pSpec);
+}
+
+TPX_ENTRY(tpxiHistogramGetLevels)(const TpxHistogramSpec* pSpec, Tpx32f* const pLevels[]) {
+    if (anyNull(pSpec, pLevels)) return tpxErrNullPointer;
+    Spec spec;
+    if (!readSpec(spec, pSpec)) return tpxErrBadArgument;
+    for (int c = 0; c < spec.nChannels; c++)
+        if (!pLevels[c]) return tpxErrNullPointer;
+    for (int c = 0; c < spec.nChannels; c++) {
+        auto levels = reinterpret_cast<Tpx8u*>(pLevels[c]);
+        if (spec.dataType == tpxDataType32f)
+            __builtin_memcpy(levels, spec.levels[c], 4 * size_t(spec.nLevels[c]));
+        else
+            storeLevels<Tpx32f>(levels, spec.nLevels[c], [&](ptrdiff_t k) {
+                return Tpx32f(levelAt(reinterpret_cast<const Tpx32s*>(spec.levels[c]), k));
+            });
+    }
+    return tpxOk;
+}
+
+// C1 takes its counters as an array, the others as arrays of such.
+#define ENTRY(T, L, channels, hist, bins)                                                    \
+    TPX_ENTRY(tpxiHistogram_##T##_##L##R)                                                    \
+    (const Tpx##T* pSrc, int srcStep, TpxiSize roiSize, hist, const TpxHistogramSpec* pSpec, \
+     [[maybe_unused]] Tpx8u* pBuffer) {                                                      \
+        return histogram<channels>(pSrc, srcStep, roiSize, bins, pSpec, pBuffer);            \
+    }
+#define TYPE(T)                                    \
+    ENTRY(T, C1, 1, Tpx32u* pHist, &pHist)         \
+    ENTRY(T, C3, 3, Tpx32u* const pHist[3], pHist) \
+    ENTRY(T, C4, 4, Tpx32u* const pHist[4], pHist)
+
+TYPE(8u)
+TYPE(16u)
+TYPE(16s)
+TYPE(32f)
