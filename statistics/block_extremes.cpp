@@ -1,0 +1,286 @@
+// tpxiBlockMinMax: the smallest and the largest sample of every block of an image.
+//
+// Rows of a band of blocks are folded into one row of running extremes, in pieces that stay in the first-level
+// cache; then the columns of each block are folded into one sample. A sample that is folded in twice changes
+// nothing, so cut rows, columns and registers overlap their neighbours.
+#include "frame/entry.h"
+#include "frame/memory_runs.h"
+#include "frame/real.h"
+
+namespace tpx {
+namespace {
+
+// ---- Rules: NaN is passed over, since what has been folded so far stays where samples do not compare -----
+
+template <class T>
+struct Smallest {
+    static Vec<T> none() {
+        if constexpr (std::is_same_v<T, Tpx32f>)
+            return splat<V32f>(__builtin_inff());
+        else
+            return splat<Vec<T>>(kMax<T>);
+    }
+    static Vec<T> fold(Vec<T> x, Vec<T> folded) { return minOf(x, folded); }
+};
+template <class T>
+struct Largest {
+    static Vec<T> none() {
+        if constexpr (std::is_same_v<T, Tpx32f>)
+            return splat<V32f>(-__builtin_inff());
+        else
+            return splat<Vec<T>>(kMin<T>);
+    }
+    static Vec<T> fold(Vec<T> x, Vec<T> folded) { return maxOf(x, folded); }
+};
+
+// ---- Pairs of registers to one, each of whose lanes is folded from two -----------------------------------
+
+// Of neighbours, in their order.
+template <class Side, class T>
+Vec<T> foldNeighbours(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, Tpx32f>) {
+        const __m256 low = _mm256_permute2f128_ps(a, b, 0x20), high = _mm256_permute2f128_ps(a, b, 0x31);
+        return Side::fold(V32f(_mm256_shuffle_ps(low, high, 0x88)), V32f(_mm256_shuffle_ps(low, high, 0xDD)));
+    } else if constexpr (sizeof(T) == 2) {
+        const V32u x = bitsAs<V32u>(a), y = bitsAs<V32u>(b);
+        return Side::fold(bitsAs<Vec<T>>(narrow<Tpx16u>(Pair<V32s>{V32s(x & 0xFFFF), V32s(y & 0xFFFF)})),
+                          bitsAs<Vec<T>>(narrow<Tpx16u>(Pair<V32s>{V32s(x >> 16), V32s(y >> 16)})));
+    } else {
+        const V16u x = V16u(a), y = V16u(b);
+        return Side::fold(narrow<Tpx8u>(Pair<V16s>{V16s(x & 0xFF), V16s(y & 0xFF)}),
+                          narrow<Tpx8u>(Pair<V16s>{V16s(x >> 8), V16s(y >> 8)}));
+    }
+}
+
+// Of lanes half a register apart, N lanes of either register in turn.
+template <class Side, int N, class T>
+Vec<T> foldHalves(Vec<T> a, Vec<T> b) {
+    if constexpr (!std::is_same_v<T, Tpx32f>) {
+        const V8u x = bitsAs<V8u>(a), y = bitsAs<V8u>(b);
+        return Side::fold(bitsAs<Vec<T>>(interleaveUnits<N* int(sizeof(T)), false>(x, y)),
+                          bitsAs<Vec<T>>(interleaveUnits<N* int(sizeof(T)), true>(x, y)));
+    } else if constexpr (N == 4) {
+        return Side::fold(V32f(_mm256_permute2f128_ps(a, b, 0x20)), V32f(_mm256_permute2f128_ps(a, b, 0x31)));
+    } else if constexpr (N == 2) {
+        return Side::fold(V32f(_mm256_shuffle_ps(a, b, 0x44)), V32f(_mm256_shuffle_ps(a, b, 0xEE)));
+    } else { // within the register's halves
+        return Side::fold(V32f(_mm256_unpacklo_ps(a, b)), V32f(_mm256_unpackhi_ps(a, b)));
+    }
+}
+
+// A register of results from N registers of blocks of `Lanes` samples.
+template <class Side, int Lanes, int N, class T>
+Vec<T> foldBlocks(const T* blocks) {
+    if constexpr (N == 1) {
+        return load(blocks);
+    } else {
+        const Vec<T> a = foldBlocks<Side, Lanes, N / 2>(blocks);
+        const Vec<T> b = foldBlocks<Side, Lanes, N / 2>(blocks + N / 2 * kLanes<T>);
+        if constexpr (Lanes == kLanes<T>)
+            return foldHalves<Side, N / 2, T>(a, b);
+        else
+            return foldNeighbours<Side, T>(a, b);
+    }
+}
+
+// ---- One row of extremes ---------------------------------------------------------------------------------
+
+template <class T>
+inline constexpr ptrdiff_t kPiece = 4096 / sizeof(T);
+
+// The extremes of one side: where they go to, those of the whole image, and the row that is folded.
+template <class T, class S>
+struct Extremes {
+    using Side = S;
+
+    T* dst;
+    ptrdiff_t dstStep;
+    T* global;
+    Vec<T> whole;
+    // A register of results is made from at most as many registers as it has lanes, and loads are whole.
+    alignas(32) T row[kPiece<T> + kLanes<T> * kLanes<T> + kLanes<T>];
+};
+
+// Folds G rows into columns of the row of extremes; the first ones begin it.
+template <int G, bool First, class T, class... E>
+[[gnu::noinline]] void foldGroup(const T* src, ptrdiff_t step, ptrdiff_t len, E&... extremes) {
+    constexpr ptrdiff_t L = kLanes<T>;
+    const auto foldColumns = [&](ptrdiff_t i) {
+        Vec<T> x[G];
+        for (int g = 0; g < G; g++) x[g] = load(addBytes(src, g * step) + i);
+        const auto into = [&]<class S>(Extremes<T, S>& e) {
+            Vec<T> folded = First ? S::none() : load(e.row + i);
+            for (int g = 0; g < G; g++) folded = S::fold(x[g], folded);
+            store(e.row + i, folded);
+        };
+        (into(extremes), ...);
+    };
+    for (ptrdiff_t i = 0; i + L <= len; i += L) foldColumns(i);
+    if (len % L != 0) foldColumns(len - L);
+}
+
+template <int G, class T, class... E>
+void foldGroups(const T* src, ptrdiff_t step, ptrdiff_t rows, ptrdiff_t len, bool first, E&... extremes) {
+    if (first)
+        foldGroup<G, true>(src, step, len, extremes...);
+    else
+        foldGroup<G, false>(src, step, len, extremes...);
+    for (ptrdiff_t y = G; y < rows; y += G)
+        foldGroup<G, false>(addBytes(src, (y + G <= rows ? y : rows - G) * step), step, len, extremes...);
+}
+
+// Rows that do not fill a register.
+template <class T, class... E>
+void foldShort(const T* src, ptrdiff_t step, ptrdiff_t rows, ptrdiff_t len, bool first, E&... extremes) {
+    for (ptrdiff_t y = 0; y < rows; y++) {
+        const Vec<T> x = loadShort(addBytes(src, y * step), len);
+        const auto into = [&]<class S>(Extremes<T, S>& e) {
+            store(e.row, S::fold(x, first && y == 0 ? S::none() : load(e.row)));
+        };
+        (into(extremes), ...);
+    }
+}
+
+template <class T, class... E>
+void foldRows(const T* src, ptrdiff_t step, ptrdiff_t rows, ptrdiff_t len, bool first, E&... extremes) {
+    if (len < kLanes<T>)
+        foldShort(src, step, rows, len, first, extremes...);
+    else if (rows >= 8)
+        foldGroups<8>(src, step, rows, len, first, extremes...);
+    else if (rows >= 4)
+        foldGroups<4>(src, step, rows, len, first, extremes...);
+    else if (rows >= 2)
+        foldGroups<2>(src, step, rows, len, first, extremes...);
+    else
+        foldGroups<1>(src, step, rows, len, first, extremes...);
+}
+
+// The row's blocks of `width` columns to one sample each, at the row's begin. Blocks are first folded to as
+// many lanes as fit, a power of two.
+template <class Side, int Lanes, class T>
+[[gnu::noinline]] void foldRowOfBlocks(T* row, ptrdiff_t blocks, ptrdiff_t width) {
+    constexpr ptrdiff_t L = kLanes<T>;
+    if constexpr (Lanes > 1)
+        if (width < Lanes) return foldRowOfBlocks<Side, Lanes / 2>(row, blocks, width);
+    if (width > Lanes) {
+        for (ptrdiff_t k = 0; k < blocks; k++) {
+            const T* const block = row + k * width;
+            Vec<T> folded = Side::fold(load(block + width - Lanes), load(block));
+            for (ptrdiff_t i = Lanes; i + Lanes < width; i += Lanes)
+                folded = Side::fold(load(block + i), folded);
+            __builtin_memcpy(row + k * Lanes, &folded, Lanes * sizeof(T));
+        }
+    }
+    if constexpr (Lanes > 1)
+        for (ptrdiff_t k = 0; k < blocks; k += L)
+            store(row + k, foldBlocks<Side, Lanes, Lanes>(row + k * Lanes));
+}
+
+// ---- Walk ------------------------------------------------------------------------------------------------
+
+// Of `len` columns, folded, the blocks from column `x` of the image on: to the destination and the whole
+// image's extremes.
+template <class T, class S>
+void finishBlocks(Extremes<T, S>& e, ptrdiff_t by, ptrdiff_t bx, ptrdiff_t blocks, ptrdiff_t width,
+                  ptrdiff_t len) {
+    constexpr ptrdiff_t L = kLanes<T>;
+    for (ptrdiff_t i = len; i < blocks * width; i += L) store(e.row + i, S::none());
+    foldRowOfBlocks<S, kLanes<T>>(e.row, blocks, width);
+    if (e.dst) copyRow(addBytes(e.dst, by * e.dstStep) + bx, e.row, blocks * ptrdiff_t(sizeof(T)));
+    store(e.row + blocks, S::none());
+    for (ptrdiff_t i = 0; i < blocks; i += L) e.whole = S::fold(load(e.row + i), e.whole);
+}
+
+template <class T, class S>
+void storeWhole(const Extremes<T, S>& e) {
+    if (!e.global) return;
+    T lanes[kLanes<T>];
+    store(lanes, e.whole);
+    T extreme = lanes[0];
+    for (T x : lanes) extreme = S::fold(splat<Vec<T>>(x), splat<Vec<T>>(extreme))[0];
+    __builtin_memcpy(e.global, &extreme, sizeof extreme);
+}
+
+template <class T, class... E>
+void walkBlocks(const T* src, ptrdiff_t srcStep, TpxiSize size, TpxiSize block, E&... extremes) {
+    // Blocks that are narrower than a piece are folded side by side, wider ones piece upon piece.
+    const ptrdiff_t width = block.width, span = width < kPiece<T> ? kPiece<T> / width * width : width;
+    const ptrdiff_t columns = width < kPiece<T> ? width : kPiece<T>;
+    for (ptrdiff_t y = 0, by = 0; y < size.height; y += block.height, by++) {
+        const ptrdiff_t rows = size.height - y < block.height ? size.height - y : block.height;
+        for (ptrdiff_t x = 0; x < size.width; x += span) {
+            const ptrdiff_t end = size.width - x < span ? size.width : x + span;
+            for (ptrdiff_t piece = x; piece < end; piece += kPiece<T>)
+                foldRows(addBytes(src, y * srcStep) + piece, srcStep, rows,
+                         end - piece < kPiece<T> ? end - piece : kPiece<T>, piece == x, extremes...);
+            const ptrdiff_t blocks = (end - x + width - 1) / width;
+            const ptrdiff_t len = end - x < kPiece<T> ? end - x : kPiece<T>;
+            (finishBlocks(extremes, by, x / width, blocks, columns, len), ...);
+        }
+    }
+    (storeWhole(extremes), ...);
+}
+
+// ---- Operation -------------------------------------------------------------------------------------------
+
+template <class T>
+struct Output {
+    T* dst;
+    int step;
+    T* global;
+
+    bool wanted() const { return dst || global; }
+    bool tooNarrow(ptrdiff_t samples) const { return dst && step < samples * ptrdiff_t(sizeof(T)); }
+    template <class S>
+    Extremes<T, S> extremes() const {
+        Extremes<T, S> e;
+        e.dst = dst;
+        e.dstStep = step;
+        e.global = global;
+        e.whole = S::none();
+        return e;
+    }
+};
+
+template <class T>
+TpxStatus blockMinMax(const T* src, int srcStep, TpxiSize size, TpxiSize block, const Output<T>& min,
+                      const Output<T>& max) {
+    if (!src || (!min.dst && !max.dst)) return tpxErrNullPointer;
+    if (isEmpty(size) || isEmpty(block)) return tpxErrSize;
+    // No block is larger than the image: the grid stays the same.
+    if (block.width > size.width) block.width = size.width;
+    if (block.height > size.height) block.height = size.height;
+    const ptrdiff_t blocks = (ptrdiff_t(size.width) + block.width - 1) / block.width;
+    if (srcStep < size.width * ptrdiff_t(sizeof(T)) || min.tooNarrow(blocks) || max.tooNarrow(blocks))
+        return tpxErrStep;
+    if (min.wanted() && max.wanted()) {
+        auto smallest = min.template extremes<Smallest<T>>();
+        auto largest = max.template extremes<Largest<T>>();
+        walkBlocks(src, srcStep, size, block, smallest, largest);
+    } else if (min.wanted()) {
+        auto smallest = min.template extremes<Smallest<T>>();
+        walkBlocks(src, srcStep, size, block, smallest);
+    } else {
+        auto largest = max.template extremes<Largest<T>>();
+        walkBlocks(src, srcStep, size, block, largest);
+    }
+    return tpxOk;
+}
+
+} // namespace
+} // namespace tpx
+
+// ---- Entries ---------------------------------------------------------------------------------------------
+
+#define TPX_BLOCK_MIN_MAX(T)                                                                                \
+    TPX_ENTRY(tpxiBlockMinMax_##T##_C1R)                                                                    \
+    (const Tpx##T* pSrc, int srcStep, TpxiSize srcSize, Tpx##T* pDstMin, int dstMinStep, Tpx##T* pDstMax,   \
+     int dstMaxStep, TpxiSize blockSize, Tpx##T* pDstGlobalMin, Tpx##T* pDstGlobalMax) {                    \
+        using namespace tpx;                                                                                \
+        return blockMinMax<Tpx##T>(pSrc, srcStep, srcSize, blockSize, {pDstMin, dstMinStep, pDstGlobalMin}, \
+                                   {pDstMax, dstMaxStep, pDstGlobalMax});                                   \
+    }
+TPX_BLOCK_MIN_MAX(8u)
+TPX_BLOCK_MIN_MAX(16u)
+TPX_BLOCK_MIN_MAX(16s)
+TPX_BLOCK_MIN_MAX(32f)
