@@ -138,9 +138,14 @@ TYPED_TEST(BlockMinMax, LongRows) {
                                2 * piece + 1, INT_MAX}) {
             GuardedImage<TypeParam> src(width, 3, 1, Lie{1, Edge::End, 1});
             fill(src, unsigned(width + blockWidth));
-            // An extreme in a place of its own: the last columns, where pieces are cut.
-            src.set(width - 1, 2, 0, TypeParam(1 - int(std::is_signed_v<TypeParam>) * 120));
-            src.set(width - 1, 0, 0, TypeParam(std::is_signed_v<TypeParam> ? 120 : 250));
+            // Extremes in places of their own: the first and the last columns of a row's pieces.
+            const auto low = TypeParam(std::is_signed_v<TypeParam> ? -120 : 1);
+            const auto high = TypeParam(std::is_signed_v<TypeParam> ? 120 : 250);
+            for (int y : {0, 2}) {
+                src.set(width - 1, y, 0, y ? low : high);
+                src.set(0, y, 0, y ? high : low);
+            }
+            checkImage(src, {blockWidth, 2});
             checkImage(src, {blockWidth, 2});
             if (this->HasFatalFailure()) return;
         }

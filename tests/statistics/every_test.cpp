@@ -6,6 +6,7 @@
 
 #include "tests/support/checks.h"
 #include "tests/support/guarded.h"
+#include "tpxcore.h"
 
 // Takes the place of the companion's function in this program: images of some megabytes are beyond this cache.
 [[gnu::weak]] TpxStatus tpxGetMaxCacheSizeB(int* pSizeByte) {
