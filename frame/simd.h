@@ -402,6 +402,9 @@ inline V32f toFloat(Pair<V32s> a) {
     return V32f(_mm256_cvtepi32_ps(
         _mm256_insertf128_si256(_mm256_castsi128_si256(__m128i(a.low)), __m128i(a.high), 1)));
 }
+inline V32f toFloat(Pair<V64f> a) {
+    return V32f(_mm256_insertf128_ps(_mm256_castps128_ps256(_mm256_cvtpd_ps(a.low)), _mm256_cvtpd_ps(a.high), 1));
+}
 inline V64f toDouble(V32s a) { return V64f(_mm256_cvtepi32_pd(__m128i(a))); }
 inline V64f toDouble(V32u a) { // exact: half of the range lower, as signed
     return toDouble(V32s(a ^ splat<V32u>(0x80000000))) + splat<V64f>(0x1p31);

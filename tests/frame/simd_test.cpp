@@ -356,11 +356,14 @@ TEST(Simd, FloatsAndIntegers) {
     eachRegister(allOf<Tpx32f>(), [&](V32f x) {
         const Pair<V32s> integer = toInteger(x);
         const V32f rounded = roundNearest(x), root = squareRoot(x);
+        const Pair<V64f> wide = widen(x);
+        const V32f thirds = toFloat(Pair<V64f>{wide.low / splat<V64f>(3), wide.high / splat<V64f>(3)});
         for (int i = 0; i < 8; i++) {
             ASSERT_EQ(lane(integer, i), nearest(x[i])) << x[i];
             if (std::isnan(x[i])) continue;
             ASSERT_TRUE(sameBits<float>(rounded[i], std::nearbyint(x[i]))) << x[i];
             if (x[i] >= 0) ASSERT_EQ(root[i], std::sqrt(x[i])) << x[i];
+            ASSERT_EQ(thirds[i], float(double(x[i]) / 3)) << x[i];
         }
     });
 }

@@ -1,0 +1,198 @@
+// tpxiLUT: samples through functions of levels, from the tables of a spec or by searches in its levels.
+#include "statistics/lookup.h"
+
+#include "frame/entry.h"
+#include "frame/pixel_runs.h"
+#include "frame/real.h"
+#include "statistics/lookup_spec.h"
+
+namespace tpx {
+namespace {
+
+// ---- Rules: what samples of given ranks become -----------------------------------------------------------
+
+// Doubles 0 and 1 at four addresses, as two registers.
+Pair<V64f> gatherPairs(const Tpx64f* a, const Tpx64f* b, const Tpx64f* c, const Tpx64f* d) {
+    const auto join = [](const Tpx64f* low, const Tpx64f* high) {
+        return _mm256_insertf128_pd(_mm256_castpd128_pd256(_mm_load_pd(low)), _mm_load_pd(high), 1);
+    };
+    const __m256d ac = join(a, c), bd = join(b, d);
+    return {V64f(_mm256_unpacklo_pd(ac, bd)), V64f(_mm256_unpackhi_pd(ac, bd))};
+}
+
+// Segments of interpolated curves, on four samples.
+template <class Segment>
+V64f onSegments(V64f x, const Segment* segments, const Tpx32s* ranks) {
+    const auto gather = [&](ptrdiff_t offset) {
+        const auto at = [&](int i) { return reinterpret_cast<const Tpx64f*>(segments + ranks[i]) + offset; };
+        return gatherPairs(at(0), at(1), at(2), at(3));
+    };
+    const Pair<V64f> start = gather(0), line = gather(2);
+    const V64f t = x - start.low;
+    V64f y = start.high + t * line.low;
+    if constexpr (std::is_same_v<Segment, CubicSegment>) {
+        const Pair<V64f> curve = gather(4);
+        const V64f square = t * t;
+        y = y + square * curve.low + square * t * curve.high;
+    }
+    return y;
+}
+template <class Segment>
+V32f valuesOf(V32f x, const Segment* segments, const Tpx32s* ranks) {
+    const Pair<V64f> wide = widen(x);
+    return toFloat(
+        Pair<V64f>{onSegments(wide.low, segments, ranks), onSegments(wide.high, segments, ranks + 4)});
+}
+V32f valuesOf(V32f, const Tpx32f* values, const Tpx32s* ranks) {
+    Tpx32f picked[8];
+    for (int i = 0; i < 8; i++) picked[i] = values[ranks[i]];
+    return load(picked);
+}
+
+// Samples outside all intervals stay. Whole registers are mapped in place.
+template <class Segment, class Rank>
+void mapRegisters(Tpx32f* samples, ptrdiff_t len, const LookupSearch& search, Rank rank) {
+    const auto* segments = static_cast<const Segment*>(search.segments);
+    const V32s last = splat<V32s>(Tpx32s(search.levelCount));
+    for (ptrdiff_t i = 0; i < len; i += kLanes<Tpx32f>) {
+        const V32f x = load(samples + i);
+        alignas(32) Tpx32s ranks[8];
+        rank(x, ranks);
+        const auto outside = [&](V32s r) { return (r == V32s{}) | (r == last); };
+        const Pair<V32s> stay{outside(load(ranks)), outside(load(ranks + 4))};
+        store(samples + i, select(bitsAs<B32f>(stay), x, valuesOf(x, segments, ranks)));
+    }
+}
+
+void mapSearched(Tpx32f* samples, ptrdiff_t len, const LookupSearch& search, Curve curve) {
+    withRanks(search.ranking, search.levels, search.levelCount, [&](auto rank) {
+        if (curve == Curve::Nearest)
+            mapRegisters<Tpx32f>(samples, len, search, rank);
+        else if (curve == Curve::Linear)
+            mapRegisters<LineSegment>(samples, len, search, rank);
+        else
+            mapRegisters<CubicSegment>(samples, len, search, rank);
+    });
+}
+
+// ---- Images by searches: some pixels at a time, taken apart into channels of floats ----------------------
+
+constexpr ptrdiff_t kChunk = 64; // pixels
+
+// Between samples and floats, whole registers.
+template <class T>
+void toFloats(const T* samples, Tpx32f* floats, ptrdiff_t len) {
+    for (ptrdiff_t i = 0; i < len; i += kLanes<Tpx32f>) store(floats + i, loadAs<Tpx32f>(samples + i));
+}
+void toFloats(const Tpx32f* samples, Tpx32f* floats, ptrdiff_t len) { copyBlock(floats, samples, len * 4); }
+void fromFloats(const Tpx32f* floats, Tpx16s* samples, ptrdiff_t len) {
+    for (ptrdiff_t i = 0; i < len; i += kLanes<Tpx16s>)
+        store(samples + i, narrow<Tpx16s>(toInteger(load(floats + i))));
+}
+void fromFloats(const Tpx32f* floats, Tpx32f* samples, ptrdiff_t len) { copyBlock(samples, floats, len * 4); }
+
+// Between pixels of C floats and channels.
+template <int C>
+void takeApart(const Tpx32f* pixels, Tpx32f* channels, ptrdiff_t len) {
+    for (ptrdiff_t i = 0; i < len; i += kBlockPixels<Tpx32f>) {
+        Block<C> block = Interleaved<const Tpx32f, C>(pixels, 0).load(i);
+        if constexpr (C > 1) block = deinterleave<sizeof(Tpx32f)>(block);
+        for (int c = 0; c < C; c++) __builtin_memcpy(channels + c * kChunk + i, &block.at[c], kBlockBytes);
+    }
+}
+template <int C>
+void putTogether(const Tpx32f* channels, Tpx32f* pixels, ptrdiff_t len) {
+    for (ptrdiff_t i = 0; i < len; i += kBlockPixels<Tpx32f>) {
+        Block<C> block;
+        for (int c = 0; c < C; c++) __builtin_memcpy(&block.at[c], channels + c * kChunk + i, kBlockBytes);
+        if constexpr (C > 1) block = interleave<sizeof(Tpx32f)>(block);
+        Interleaved<Tpx32f, C>(pixels, 0).store(i, block);
+    }
+}
+
+template <Layout L, class T>
+void searchImage(const T* src, int srcStep, T* dst, int dstStep, TpxiSize roi, const LookupSpec& spec) {
+    constexpr int C = channelsOf(L);
+    alignas(32) T samples[C * kChunk] = {}, kept[C * kChunk] = {};
+    alignas(32) Tpx32f pixels[C * kChunk], channels[C * kChunk];
+    ptrdiff_t width = roi.width, height = roi.height;
+    joinRows(width, height, C * sizeof(T), srcStep, dstStep);
+    walkRows(src, srcStep, dst, dstStep, height, [&](const T* s, T* d) {
+        for (ptrdiff_t x = 0; x < width; x += kChunk) {
+            // Whole registers of every channel: beyond the row's end lies what was there before.
+            const ptrdiff_t len = width - x < kChunk ? width - x : kChunk, whole = (len + 7) / 8 * 8;
+            const ptrdiff_t bytes = len * C * ptrdiff_t(sizeof(T));
+            copyBlock(samples, s + x * C, bytes);
+            if (L == Layout::AC4) copyBlock(kept, d + x * C, bytes);
+            toFloats(samples, pixels, whole * C);
+            takeApart<C>(pixels, channels, whole);
+            for (int c = 0; c < (L == Layout::AC4 ? 3 : C); c++)
+                mapSearched(channels + c * kChunk, whole, spec.searches[c], spec.curve);
+            putTogether<C>(channels, pixels, whole);
+            fromFloats(pixels, samples, whole * C);
+            for (ptrdiff_t i = 0; L == Layout::AC4 && i < whole * C; i += kLanes<T>)
+                store(samples + i, keepAlpha<T>(load(kept + i), load(samples + i)));
+            copyBlock(d + x * C, samples, bytes);
+        }
+    });
+}
+
+// ---- Images ----------------------------------------------------------------------------------------------
+
+// Small images of 16s are not worth reading a table of 128 KB. A search finds what the table holds if levels
+// rise.
+constexpr Tpx64s kSearchedPixels = 4096;
+template <Layout L>
+bool prefersSearch(TpxiSize roi, const LookupSpec& spec) {
+    bool rise = true;
+    for (int c = 0; c < (L == Layout::AC4 ? 3 : channelsOf(L)); c++)
+        rise &= spec.searches[c].ranking != Ranking::First;
+    return rise && spec.curve == Curve::Nearest && Tpx64s(roi.width) * roi.height <= kSearchedPixels;
+}
+
+template <Layout L, class T>
+TpxStatus lookup(const T* src, int srcStep, T* dst, int dstStep, TpxiSize roi, const TpxiLUT_Spec* memory) {
+    if (anyNull(src, dst, memory)) return tpxErrNullPointer;
+    if (srcStep < 1 || dstStep < 1) return tpxErrStep;
+    if (isEmpty(roi)) return tpxErrSize;
+    int code;
+    __builtin_memcpy(&code, memory, sizeof code);
+    constexpr int kCode = lookupCode<T>(L);
+    if (code != kCode && code != kCode + kLookupCodeStep && code != kCode + 2 * kLookupCodeStep)
+        return tpxErrBadArgument;
+    const LookupSpec& spec = *lookupSpecIn(memory);
+    if constexpr (hasSearch<T>(Curve::Nearest))
+        if (!kHasTable<T> || prefersSearch<L>(roi, spec)) {
+            searchImage<L>(src, srcStep, dst, dstStep, roi, spec);
+            return tpxOk;
+        }
+    if constexpr (kHasTable<T>) {
+        const Tables tables{{spec.tables[0], spec.tables[1], spec.tables[2], spec.tables[3]}, ~Tpx64u(0)};
+        lookupImage<L, sizeof(T)>(reinterpret_cast<const std::make_unsigned_t<T>*>(src), srcStep, dst, dstStep,
+                                  roi, tables);
+    }
+    return tpxOk;
+}
+
+} // namespace
+} // namespace tpx
+
+// ---- Entries ---------------------------------------------------------------------------------------------
+
+#define TPX_LUT(T, L)                                                                       \
+    TPX_ENTRY(tpxiLUT_##T##_##L##R)                                                         \
+    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize,          \
+     const TpxiLUT_Spec* pSpec) {                                                           \
+        using namespace tpx;                                                                \
+        return lookup<Layout::L>(pSrc, srcStep, pDst, dstStep, roiSize, pSpec);             \
+    }                                                                                       \
+    TPX_ENTRY(tpxiLUT_##T##_##L##IR)                                                        \
+    (Tpx##T * pSrcDst, int srcDstStep, TpxiSize roiSize, const TpxiLUT_Spec* pSpec) {       \
+        using namespace tpx;                                                                \
+        return lookup<Layout::L>(pSrcDst, srcDstStep, pSrcDst, srcDstStep, roiSize, pSpec); \
+    }
+#define TPX_TYPE(T) TPX_LUT(T, C1) TPX_LUT(T, C3) TPX_LUT(T, C4) TPX_LUT(T, AC4)
+TPX_TYPE(8u)
+TPX_TYPE(16u)
+TPX_TYPE(16s)
+TPX_TYPE(32f)
