@@ -10,6 +10,7 @@ void addConversions();
 void addUnary();
 void addBinary();
 void addThresholds();
+void addReductions();
 void addResizes();
 
 } // namespace bench

@@ -111,6 +111,7 @@ int run(int argc, char** argv) {
     addUnary();
     addBinary();
     addThresholds();
+    addReductions();
     addResizes();
     Progress progress;
     benchmark::RunSpecifiedBenchmarks(&progress);

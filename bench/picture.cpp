@@ -60,8 +60,10 @@ double height(const Section& section) {
 Section bySize(const std::string& group, const std::vector<Row>& rows) {
     const std::vector<Series> sizes = {
         {"64x64", "#9ecae1"}, {"1920x1080", "#3182bd"}, {"beyond the cache", "#08306b"}};
-    const char* yardsticks[kPanels] = {kCopy, kScalar};
-    Section section{{group + ": beside copying the same bytes", group + ": beside the plain scalar form"},
+    const bool written = !rows.empty() && rows.front().find(kCopy);
+    const char* yardsticks[kPanels] = {written ? kCopy : kRead, kScalar};
+    Section section{{group + (written ? ": beside copying the same bytes" : ": beside reading the same bytes"),
+                     group + ": beside the plain scalar form"},
                     {sizes, sizes},
                     {}};
     for (const Row& row : rows) {
@@ -191,7 +193,7 @@ void writeScript(std::ostream& out, const std::string& png, const std::string& s
         const std::vector<Row> some = inGroup(rows, group);
         std::vector<std::string> others = yardsticksOf(some);
         std::erase_if(others, [](const std::string& name) {
-            return name == kCopy || name == kScalar || name == kMemset;
+            return name == kCopy || name == kScalar || name == kMemset || name == kRead;
         });
         sections.push_back(others.empty() ? bySize(group, some) : byYardstick(group, some, others));
         total += kHead + height(sections.back()) + kFoot;

@@ -27,6 +27,7 @@ inline constexpr const char* kOurs = "tpxi";
 inline constexpr const char* kCopy = "copy";
 inline constexpr const char* kScalar = "scalar";
 inline constexpr const char* kMemset = "memset";
+inline constexpr const char* kRead = "read";
 
 struct Time {
     std::string name;

@@ -36,6 +36,19 @@ void unpackBits(const Tpx8u* src, T* dst, size_t length, T low, T high);
 template <typename T>
 void packBits(const T* src, Tpx8u* dst, size_t length, T threshold);
 
+// Of a row: the sums of samples, of products, of absolute values or differences; the place of the first
+// smallest sample, and the largest one.
+template <typename T>
+double sum(const T* src, size_t length);
+template <typename T>
+double sumOfProducts(const T* src1, const T* src2, size_t length);
+template <typename T>
+double sumOfMagnitudes(const T* src1, const T* src2, size_t length); // src2 may be null
+template <typename T>
+size_t least(const T* src, size_t length);
+template <typename T>
+T most(const T* src, size_t length);
+
 template <typename T>
 void abs(const T* src, T* dst, size_t length);
 // Integer samples are scaled, rounded and saturated; others take a scale factor of 0.
