@@ -58,6 +58,13 @@ class Gallery {
         for (const Operation& op : operations_)
             std::printf("%-30s %-32s %13s %13s %8d %10.3f\n", op.name.c_str(), op.function,
                         text(op.src).c_str(), text(op.dst).c_str(), op.threads, op.ms);
+        if (!notes_.empty()) std::printf("\n");
+        for (const std::string& line : notes_) std::printf("%s\n", line.c_str());
+    }
+
+    // Figures that are printed below the table, too.
+    void note(const std::vector<std::string>& lines) {
+        notes_.insert(notes_.end(), lines.begin(), lines.end());
     }
 
     Sheet& sheet() { return sheet_; }
@@ -65,6 +72,7 @@ class Gallery {
  private:
     Sheet& sheet_;
     std::vector<Operation> operations_;
+    std::vector<std::string> notes_;
 };
 
 // The sections of the sheet, by family.
@@ -74,3 +82,4 @@ void twoImages(Gallery& gallery, const Image8u& source);
 void channels(Gallery& gallery, const Image8u& source);
 void borders(Gallery& gallery, const Image8u& source);
 void thresholds(Gallery& gallery, const Image8u& source);
+void measuring(Gallery& gallery, const Image8u& source);
