@@ -70,7 +70,7 @@ TpxStatus placeOfExtreme(const T* src, int step, TpxiSize size, T* values, int* 
     for (int c = 0; c < kResults; c++) {
         values[c] = best[c];
         xs[c] = ys[c] = 0; // of a channel without numbers
-        for (ptrdiff_t y = strips[c]; y < size.height && y < strips[c] + strip; y++) {
+        for (ptrdiff_t y = strips[c]; y < size.height; y++) { // an infinite start may be met in a later strip
             const ptrdiff_t x = findInRow<C>(addBytes(src, y * step), size.width, c, best[c]);
             if (x < 0) continue;
             xs[c] = int(x);

@@ -1,0 +1,52 @@
+// What the tests of reductions share: images as calls are told of them, and the faults of calls.
+#pragma once
+
+#include <climits>
+
+#include "tests/support/checks.h"
+#include "tests/support/samples.h"
+
+namespace tpx::test {
+
+// An image as a call is told of it; the step may be zero, negative or odd.
+template <class T>
+struct View {
+    const T* data;
+    int step;
+
+    View(const T* samples, int stepInBytes) : data(samples), step(stepInBytes) {}
+    View(const GuardedImage<T>& image) : View(image.data(), image.step()) {}
+
+    const T* row(int y) const {
+        return reinterpret_cast<const T*>(reinterpret_cast<const char*>(data) + ptrdiff_t(y) * step);
+    }
+    T at(ptrdiff_t sample, int y) const {
+        T v;
+        std::memcpy(&v, reinterpret_cast<const char*>(row(y)) + sample * ptrdiff_t(sizeof v), sizeof v);
+        return v;
+    }
+    View fromBelow(int height) const { return {row(height - 1), -step}; }
+};
+
+// Results have more room than a call has values for; the rest has to keep this.
+inline constexpr int kRoom = 5, kUnwritten = 77;
+
+struct Call {
+    bool null[6] = {};
+    TpxiSize size = {2, 2};
+    int steps[2] = {32, 32};
+};
+
+inline std::vector<Fault<Call>> faultsOf(std::vector<int> pointers, bool zeroSteps) {
+    std::vector<Fault<Call>> list;
+    for (int i : pointers) list.push_back({"pointer", [=](Call& c) { c.null[i] = true; }, tpxErrNullPointer});
+    for (int bad : {0, -1, INT_MIN}) {
+        list.push_back({"width", [=](Call& c) { c.size.width = bad; }, tpxErrSize});
+        list.push_back({"height", [=](Call& c) { c.size.height = bad; }, tpxErrSize});
+    }
+    for (int i = 0; i < 2 && zeroSteps; i++)
+        list.push_back({"step", [=](Call& c) { c.steps[i] = 0; }, tpxErrSize});
+    return list;
+}
+
+} // namespace tpx::test
