@@ -100,8 +100,9 @@ TpxStatus initUniform(TpxDataType dataType, const Tpx32f* lowerLevel, const Tpx3
         if (last < 1) return tpxErrHistogramLevels;
         if (!(lower < upper)) return tpxErrRange;
         const Tpx32f distance = (upper - lower) / Tpx32f(last);
-        const auto level = [=](ptrdiff_t k) {
-            return k == 0 ? lower : k == last ? upper : lower + distance * Tpx32f(k);
+        const auto level = [=](ptrdiff_t k) { // rises, whatever is rounded; NaN comes of infinite bounds
+            const Tpx32f x = k == last ? upper : lower + distance * Tpx32f(k);
+            return x >= upper ? upper : x > lower ? x : lower;
         };
         step = distance;
         if (dataType == tpxDataType32f) {
@@ -120,6 +121,12 @@ bool readSpec(Spec& spec, const TpxHistogramSpec* pSpec) {
     return spec.identity == kIdentity;
 }
 
+// They rise, though they may repeat.
+template <class L>
+const L* levelsOf(const Spec& spec, int channel) {
+    return reinterpret_cast<const L*>(spec.levels[channel]);
+}
+
 // ---- What is counted -------------------------------------------------------------------------------------
 
 // A counter at any address.
@@ -131,16 +138,19 @@ inline constexpr TpxDataType kDataType = std::is_same_v<T, Tpx8u>    ? tpxDataTy
                                          : std::is_same_v<T, Tpx16s> ? tpxDataType16s
                                                                      : tpxDataType32f;
 
-// An image, and the place of the next block in it.
 template <class T, int C>
-struct Source {
+struct Image {
     const T* src;
-    ptrdiff_t step, width, height; // in pixels
-    ptrdiff_t x = 0;
+    ptrdiff_t step, width, height;
 
-    Source(const T* src_, int step_, TpxiSize roi)
+    Image(const T* src_, int step_, TpxiSize roi)
         : src(src_), step(step_), width(roi.width), height(roi.height) {
         joinRows(width, height, ptrdiff_t(sizeof(T)) * C, step);
+    }
+    // row(samples) for each row.
+    template <class Row>
+    void forRows(Row row) const {
+        for (ptrdiff_t y = 0; y < height; y++) row(addBytes(src, y * step));
     }
 };
 
@@ -198,8 +208,12 @@ Tpx32u sumEntries(const Counter* table, ptrdiff_t begin, ptrdiff_t end) {
 // The bins of levels that are integers.
 template <class T>
 void sumBins(const Counter* table, const Tpx32s* levels, ptrdiff_t count, Counter* hist) {
-    for (ptrdiff_t k = 0; k + 1 < count; k++)
-        hist[k] = sumEntries(table, entryOf<T>(levelAt(levels, k)), entryOf<T>(levelAt(levels, k + 1)));
+    Tpx32s begin = entryOf<T>(levelAt(levels, 0));
+    for (ptrdiff_t k = 0; k + 1 < count; k++) {
+        const Tpx32s end = entryOf<T>(levelAt(levels, k + 1));
+        hist[k] = end - begin == 1 ? table[begin] : sumEntries(table, begin, end);
+        begin = end;
+    }
 }
 
 // Counts 16-bit samples in a table for each channel. Where they are alike, a register of them is one count.
@@ -227,19 +241,29 @@ void countSamples(const T* src, ptrdiff_t len, Counter* const* tables) {
 
 constexpr ptrdiff_t kBlock = 256;
 
+// One channel of an image of any type: how far it has been read, and how the next block is.
+struct Channel {
+    const void* row;
+    ptrdiff_t step, width, height, x;
+    int channel;
+    ptrdiff_t (*next)(Channel&, Tpx32f* block);
+};
+
 // The next block of a channel's samples, filled up to whole registers by NaN, which no level is below. Gives
 // how many there are; 0 at the end.
 template <class T, int C>
-[[gnu::noinline]] ptrdiff_t nextBlock(Source<T, C>& source, int channel, Tpx32f* block) {
-    if (source.x == source.width) {
-        if (--source.height == 0) return 0;
-        source.x = 0;
-        source.src = addBytes(source.src, source.step);
+ptrdiff_t nextBlock(Channel& c, Tpx32f* block) {
+    if (c.x == c.width) {
+        if (--c.height == 0) return 0;
+        c.x = 0;
+        c.row = addBytes(static_cast<const T*>(c.row), c.step);
     }
     constexpr ptrdiff_t kPixels = 16 / sizeof(T);
-    const ptrdiff_t left = source.width - source.x, len = left < kBlock ? left : kBlock;
-    const T* src = source.src + source.x * C;
+    const ptrdiff_t left = c.width - c.x, len = left < kBlock ? left : kBlock;
+    const T* src = static_cast<const T*>(c.row) + c.x * C;
     for (ptrdiff_t i = 0; i < len; i += kPixels) {
+        _mm_prefetch(reinterpret_cast<const char*>(addBytes(src, (i + kBlock) * C * ptrdiff_t(sizeof(T)))),
+                     _MM_HINT_T0); // the next block's turn comes when this one has been counted
         Several<V8u, C> pixels = {}, planes;
         const ptrdiff_t some = len - i < kPixels ? len - i : kPixels;
         if (some == kPixels)
@@ -251,16 +275,21 @@ template <class T, int C>
         else
             planes = deinterleave<int(sizeof(T))>(pixels);
         if constexpr (std::is_same_v<T, Tpx32f>) {
-            __builtin_memcpy(block + i, &planes.at[channel], 16);
+            __builtin_memcpy(block + i, &planes.at[c.channel], 16);
         } else {
             T samples[kPixels];
-            __builtin_memcpy(samples, &planes.at[channel], 16);
+            __builtin_memcpy(samples, &planes.at[c.channel], 16);
             store(block + i, loadAs<Tpx32f>(samples));
         }
     }
     store(block + len, splat<V32f>(__builtin_nanf("")));
-    source.x += len;
+    c.x += len;
     return len;
+}
+
+template <class T, int C>
+Channel channelOf(const Image<T, C>& image, int channel) {
+    return {image.src, image.step, image.width, image.height, 0, channel, nextBlock<T, C>};
 }
 
 // Uniform levels of integers at an exact distance: the distance from the first by division. A quotient may be
@@ -282,11 +311,11 @@ struct DividedRanks {
     }
 };
 
-// Counts blocks by the ranks of their samples: next(block) gives the next one. As with bytes, neighbours are
-// counted in tables of their own; these have an entry for each rank. Beside too many levels for that, samples
-// go straight to their bins.
-template <class Rank, class Next>
-void countRanks(Next next, Rank rank, ptrdiff_t nLevels, Counter* hist) {
+// Counts a channel by the ranks of its samples. As with bytes, neighbours are counted in tables of their own;
+// these have an entry for each rank. Where there are too many levels for that, samples go straight to their
+// bins.
+template <class Rank>
+void countRanks(Channel channel, const Rank& rank, ptrdiff_t nLevels, Counter* hist) {
     constexpr ptrdiff_t kEntries = 512;
     constexpr int kTables = 4;
     const ptrdiff_t bins = nLevels - 1;
@@ -296,7 +325,7 @@ void countRanks(Next next, Rank rank, ptrdiff_t nLevels, Counter* hist) {
         Tpx32u counts[kTables][kEntries + 16];
         for (auto& table : counts)
             for (ptrdiff_t r = 0; r <= nLevels; r++) table[r] = 0;
-        while (const ptrdiff_t len = next(block))
+        while (const ptrdiff_t len = channel.next(channel, block))
             for (ptrdiff_t i = 0; i < len; i += 8) {
                 rank(load(block + i), ranks);
 #pragma GCC unroll 8
@@ -307,7 +336,7 @@ void countRanks(Next next, Rank rank, ptrdiff_t nLevels, Counter* hist) {
         return;
     }
     for (ptrdiff_t k = 0; k < bins; k++) hist[k] = 0;
-    while (const ptrdiff_t len = next(block))
+    while (const ptrdiff_t len = channel.next(channel, block))
         for (ptrdiff_t i = 0; i < len; i += 8) {
             rank(load(block + i), ranks);
             for (int j = 0; j < 8; j++) {
@@ -321,40 +350,35 @@ void countRanks(Next next, Rank rank, ptrdiff_t nLevels, Counter* hist) {
 // ---- Histograms ------------------------------------------------------------------------------------------
 
 template <int C>
-void countImage(Source<Tpx8u, C> source, const Spec& spec, Counter* const* hist, Tpx8u*, uint64_t) {
+void countImage(const Image<Tpx8u, C>& image, const Spec& spec, Counter* const* hist, Tpx8u*, uint64_t) {
     ByteTables<C> tables;
-    for (const Tpx8u* src = source.src; source.height > 0; source.height--, src = addBytes(src, source.step))
-        tables.run(src, source.width * C);
+    image.forRows([&](const Tpx8u* row) { tables.run(row, image.width * C); });
     for (int c = 0; c < C; c++)
-        sumBins<Tpx8u>(tables.merge(c), reinterpret_cast<const Tpx32s*>(spec.levels[c]), spec.nLevels[c],
-                       hist[c]);
+        sumBins<Tpx8u>(tables.merge(c), levelsOf<Tpx32s>(spec, c), spec.nLevels[c], hist[c]);
 }
 
 template <int C>
-void countImage(const Source<Tpx32f, C>& source, const Spec& spec, Counter* const* hist, Tpx8u*,
+void countImage(const Image<Tpx32f, C>& image, const Spec& spec, Counter* const* hist, Tpx8u*,
                 uint64_t pixels) {
     for (int c = 0; c < C; c++) {
-        const auto levels = reinterpret_cast<const Tpx32f*>(spec.levels[c]);
-        withRanks(levels, spec.nLevels[c], pixels, [&](auto rank) {
-            countRanks([&, s = source](Tpx32f* block) mutable { return nextBlock(s, c, block); }, rank,
-                       spec.nLevels[c], hist[c]);
-        });
+        const auto levels = levelsOf<Tpx32f>(spec, c);
+        withRanks(levels, spec.nLevels[c], pixels,
+                  [&](const auto& rank) { countRanks(channelOf(image, c), rank, spec.nLevels[c], hist[c]); });
     }
 }
 
 // A channel of a small image of 16-bit samples; false if it is better counted in a table.
 template <class T, int C>
-bool countSmall(const Source<T, C>& source, int c, const Spec& spec, Counter* hist, Tpx8u* buffer,
+bool countSmall(const Image<T, C>& image, int c, const Spec& spec, Counter* hist, Tpx8u* buffer,
                 uint64_t pixels) {
     constexpr uint64_t kSmall = 65536;
     if (pixels >= kSmall) return false;
-    const auto levels = reinterpret_cast<const Tpx32s*>(spec.levels[c]);
+    const auto levels = levelsOf<Tpx32s>(spec, c);
     const ptrdiff_t last = ptrdiff_t(spec.nLevels[c]) - 1;
     const Tpx32s lowest = levelAt(levels, 0), highest = levelAt(levels, last);
-    const auto next = [&, s = source](Tpx32f* block) mutable { return nextBlock(s, c, block); };
     if (spec.uniform && (Tpx64s(highest) - lowest) % last == 0) {
         const DividedRanks rank = {Tpx32f(lowest), Tpx32f(highest), spec.step[c], Tpx32s(last)};
-        countRanks(next, rank, last + 1, hist);
+        countRanks(channelOf(image, c), rank, last + 1, hist);
         return true;
     }
     // The table would cost the time of so many pixels.
@@ -363,37 +387,33 @@ bool countSmall(const Source<T, C>& source, int c, const Spec& spec, Counter* hi
     const auto real = reinterpret_cast<Tpx32f*>(buffer);
     storeLevels<Tpx32f>(buffer, last + 1,
                         [=](ptrdiff_t k) { return Tpx32f(entryOf<T>(levelAt(levels, k)) + kMin<T>); });
-    withRanks(real, last + 1, pixels, [&](auto rank) { countRanks(next, rank, last + 1, hist); });
+    withRanks(real, last + 1, pixels,
+              [&](const auto& rank) { countRanks(channelOf(image, c), rank, last + 1, hist); });
     return true;
 }
 
 template <class T, int C>
-void countImage(Source<T, C> source, const Spec& spec, Counter* const* hist, Tpx8u* buffer, uint64_t pixels) {
+void countImage(const Image<T, C>& image, const Spec& spec, Counter* const* hist, Tpx8u* buffer,
+                uint64_t pixels) {
     constexpr ptrdiff_t kEntries = 65536;
     Counter* tables[C];
     bool done[C], allDone = true;
     for (int c = 0; c < C; c++) {
         tables[c] = reinterpret_cast<Counter*>(buffer) + c * kEntries;
-        done[c] = countSmall(source, c, spec, hist[c], buffer, pixels);
+        done[c] = countSmall(image, c, spec, hist[c], buffer, pixels);
         allDone &= done[c];
     }
     if (allDone) return;
     // What lies beyond the levels is counted into entries that nobody clears or reads.
     for (int c = 0; c < C; c++) {
-        const auto levels = reinterpret_cast<const Tpx32s*>(spec.levels[c]);
-        Tpx32s begin = kEntries, end = 0;
-        for (ptrdiff_t k = 0; k < spec.nLevels[c]; k++) {
-            const Tpx32s entry = entryOf<T>(levelAt(levels, k));
-            begin = minOf(begin, entry);
-            end = maxOf(end, entry);
-        }
-        if (begin < end) __builtin_memset(tables[c] + begin, 0, size_t(end - begin) * sizeof(Counter));
+        const auto levels = levelsOf<Tpx32s>(spec, c);
+        const Tpx32s begin = entryOf<T>(levelAt(levels, 0)),
+                     end = entryOf<T>(levelAt(levels, spec.nLevels[c] - 1));
+        __builtin_memset(tables[c] + begin, 0, size_t(end - begin) * sizeof(Counter));
     }
-    for (; source.height > 0; source.height--, source.src = addBytes(source.src, source.step))
-        countSamples<C>(source.src, source.width * C, tables);
+    image.forRows([&](const T* row) { countSamples<C>(row, image.width * C, tables); });
     for (int c = 0; c < C; c++)
-        if (!done[c])
-            sumBins<T>(tables[c], reinterpret_cast<const Tpx32s*>(spec.levels[c]), spec.nLevels[c], hist[c]);
+        if (!done[c]) sumBins<T>(tables[c], levelsOf<Tpx32s>(spec, c), spec.nLevels[c], hist[c]);
 }
 
 template <int C, class T>
@@ -410,7 +430,7 @@ TpxStatus histogram(const T* pSrc, int srcStep, TpxiSize roiSize, Tpx32u* const*
     Spec spec;
     if (!readSpec(spec, pSpec) || spec.dataType != kDataType<T> || spec.nChannels != C)
         return tpxErrBadArgument;
-    countImage(Source<T, C>(pSrc, srcStep, roiSize), spec, hist, pBuffer,
+    countImage(Image<T, C>(pSrc, srcStep, roiSize), spec, hist, pBuffer,
                uint64_t(roiSize.width) * uint64_t(roiSize.height));
     return tpxOk;
 }
@@ -461,9 +481,8 @@ TPX_ENTRY(tpxiHistogramGetLevels)(const TpxHistogramSpec* pSpec, Tpx32f* const p
         if (spec.dataType == tpxDataType32f)
             __builtin_memcpy(levels, spec.levels[c], 4 * size_t(spec.nLevels[c]));
         else
-            storeLevels<Tpx32f>(levels, spec.nLevels[c], [&](ptrdiff_t k) {
-                return Tpx32f(levelAt(reinterpret_cast<const Tpx32s*>(spec.levels[c]), k));
-            });
+            storeLevels<Tpx32f>(levels, spec.nLevels[c],
+                                [&](ptrdiff_t k) { return Tpx32f(levelAt(levelsOf<Tpx32s>(spec, c), k)); });
     }
     return tpxOk;
 }

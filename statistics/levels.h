@@ -80,6 +80,10 @@ inline void storeRanks(Pair<V32s> from, Tpx32s* ranks) {
     store(ranks + 4, from.high);
 }
 
+inline V32f oneWhereNotAbove(Tpx32f level, V32f x) {
+    return _mm256_and_ps(_mm256_cmp_ps(splat<V32f>(level), x, _CMP_LE_OQ), splat<V32f>(1.0f));
+}
+
 // A few levels that rise: every one is compared.
 struct CountedRanks {
     const Tpx32f* levels;
@@ -87,21 +91,37 @@ struct CountedRanks {
 
     void operator()(V32f x, Tpx32s* ranks) const {
         V32f rank{};
-        for (ptrdiff_t k = 0; k < count; k++)
-            rank +=
-                _mm256_and_ps(_mm256_cmp_ps(splat<V32f>(levelAt(levels, k)), x, _CMP_LE_OQ), splat<V32f>(1.0f));
+        for (ptrdiff_t k = 0; k < count; k++) rank += oneWhereNotAbove(levelAt(levels, k), x);
         storeRanks(toInteger(rank), ranks);
     }
 };
 
-// Many levels that rise: eight searches by halves side by side.
+// Many levels that rise: comparisons with the first levels of sections, then, side by side, eight searches by
+// halves within a section.
 struct HalvedRanks {
+    static constexpr int kSections = 16;
     const Tpx32f* levels;
-    ptrdiff_t count;
+    Tpx32s section, lastBegin;    // levels of a section; where the last one begins, which may overlap others
+    Tpx32f begins[kSections - 1]; // NaN for sections that are not there
+
+    HalvedRanks(const Tpx32f* levels_, ptrdiff_t count)
+        : levels(levels_),
+          section(Tpx32s((count + kSections - 1) / kSections)),
+          lastBegin(Tpx32s(count) - section) {
+        for (ptrdiff_t k = 1; k < kSections; k++)
+            begins[k - 1] = k * section < count ? levelAt(levels, k * section) : __builtin_nanf("");
+    }
 
     void operator()(V32f x, Tpx32s* ranks) const {
-        Tpx32s at[8] = {};
-        Tpx32s left = Tpx32s(count);
+        V32f sums[3] = {}; // each has to wait for its additions one by one
+#pragma GCC unroll 16
+        for (int k = 0; k < kSections - 1; k++) sums[k % 3] += oneWhereNotAbove(begins[k], x);
+        const V32f passed = sums[0] + sums[1] + sums[2];
+        const Pair<V32s> index = toInteger(passed);
+        const auto begin = [&](V32s i) { return minOf(i * splat<V32s>(section), splat<V32s>(lastBegin)); };
+        Tpx32s at[8];
+        storeRanks({begin(index.low), begin(index.high)}, at);
+        Tpx32s left = section;
         while (left > 1) {
             const Tpx32s half = left / 2;
             for (int i = 0; i < 8; i++) at[i] += levelAt(levels, at[i] + half) <= x[i] ? half : 0;
@@ -148,7 +168,7 @@ inline void withRanks(Ranking ranking, const Tpx32f* levels, ptrdiff_t count, Bo
         case Ranking::Counted:
             return body(CountedRanks{levels, count});
         case Ranking::Halved:
-            return body(HalvedRanks{levels, count});
+            return body(HalvedRanks(levels, count));
     }
 }
 template <class Body>
