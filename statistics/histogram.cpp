@@ -381,13 +381,15 @@ bool countSmall(const Image<T, C>& image, int c, const Spec& spec, Counter* hist
         countRanks(channelOf(image, c), rank, last + 1, hist);
         return true;
     }
-    // The table would cost the time of so many pixels.
-    const auto range = uint64_t(entryOf<T>(highest) - entryOf<T>(lowest));
-    if (pixels > range / 16 || last >= ptrdiff_t(kSmall)) return false;
+    // The table costs as much as to rank so many pixels in a fast way, or an eighth of them by a search.
+    const auto worth = uint64_t(entryOf<T>(highest) - entryOf<T>(lowest)) / 2;
+    if (pixels > worth || last >= ptrdiff_t(kSmall)) return false;
     const auto real = reinterpret_cast<Tpx32f*>(buffer);
     storeLevels<Tpx32f>(buffer, last + 1,
                         [=](ptrdiff_t k) { return Tpx32f(entryOf<T>(levelAt(levels, k)) + kMin<T>); });
-    withRanks(real, last + 1, pixels,
+    const Ranking ranking = rankingOf(real, last + 1, pixels);
+    if (ranking == Ranking::Halved && pixels > worth / 8) return false;
+    withRanks(ranking, real, last + 1,
               [&](const auto& rank) { countRanks(channelOf(image, c), rank, last + 1, hist); });
     return true;
 }
