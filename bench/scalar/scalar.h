@@ -89,6 +89,12 @@ void thresholdLtVal(const T* src, T* dst, size_t length, const Thresholds<T>& by
 template <typename T>
 void thresholdLtValGtVal(const T* src, T* dst, size_t length, const Thresholds<T>& by);
 
+// Counts the samples of pixels: bytes by value, others between levels that rise, for each channel.
+void countBytes(const Tpx8u* src, size_t channels, size_t length, Tpx32u* const* tables);
+template <typename T>
+void countBetween(const T* src, size_t channels, size_t length, const std::vector<float>& levels,
+                  Tpx32u* const* hist);
+
 // The two source pixels of each destination position along one side, and the weight of the second:
 // 14 bits for 8-bit samples.
 template <typename T>
