@@ -49,18 +49,25 @@ V32f valuesOf(V32f, const Tpx32f* values, const Tpx32s* ranks) {
     return load(picked);
 }
 
+// Where a sample lies in an interval.
+template <class Rank>
+B32f isInside(V32f x, const LookupSearch& search, const Tpx32s*, const Rank&) {
+    return (x >= splat<V32f>(search.levels[0])) & (x < splat<V32f>(search.levels[search.levelCount - 1]));
+}
+B32f isInside(V32f, const LookupSearch&, const Tpx32s* ranks, const FirstRanks&) {
+    return toFloat(Pair<V32s>{load(ranks), load(ranks + 4)}) != V32f{};
+}
+
 // Samples outside all intervals stay. Whole registers are mapped in place.
 template <class Segment, class Rank>
 void mapRegisters(Tpx32f* samples, ptrdiff_t len, const LookupSearch& search, Rank rank) {
     const auto* segments = static_cast<const Segment*>(search.segments);
-    const V32s last = splat<V32s>(Tpx32s(search.levelCount));
     for (ptrdiff_t i = 0; i < len; i += kLanes<Tpx32f>) {
         const V32f x = load(samples + i);
-        alignas(32) Tpx32s ranks[8];
+        Tpx32s ranks[8];
         rank(x, ranks);
-        const auto outside = [&](V32s r) { return (r == V32s{}) | (r == last); };
-        const Pair<V32s> stay{outside(load(ranks)), outside(load(ranks + 4))};
-        store(samples + i, select(bitsAs<B32f>(stay), x, valuesOf(x, segments, ranks)));
+        const B32f inside = isInside(x, search, ranks, rank);
+        store(samples + i, select(inside, valuesOf(x, segments, ranks), x));
     }
 }
 
@@ -91,22 +98,29 @@ void fromFloats(const Tpx32f* floats, Tpx16s* samples, ptrdiff_t len) {
 }
 void fromFloats(const Tpx32f* floats, Tpx32f* samples, ptrdiff_t len) { copyBlock(samples, floats, len * 4); }
 
-// Between pixels of C floats and channels.
+// Between pixels of C floats and channels, eight pixels at a time: what follows reads registers of floats,
+// which would wait for ones that were written as two.
+V32f join(V8u low, V8u high) {
+    return V32f(_mm256_insertf128_ps(_mm256_castps128_ps256(__m128(low)), __m128(high), 1));
+}
 template <int C>
 void takeApart(const Tpx32f* pixels, Tpx32f* channels, ptrdiff_t len) {
-    for (ptrdiff_t i = 0; i < len; i += kBlockPixels<Tpx32f>) {
-        Block<C> block = Interleaved<const Tpx32f, C>(pixels, 0).load(i);
-        if constexpr (C > 1) block = deinterleave<sizeof(Tpx32f)>(block);
-        for (int c = 0; c < C; c++) __builtin_memcpy(channels + c * kChunk + i, &block.at[c], kBlockBytes);
+    const Interleaved<const Tpx32f, C> from(pixels, 0);
+    for (ptrdiff_t i = 0; i < len; i += kLanes<Tpx32f>) {
+        const Block<C> low = deinterleave<4>(from.load(i)), high = deinterleave<4>(from.load(i + 4));
+        for (int c = 0; c < C; c++) store(channels + c * kChunk + i, join(low.at[c], high.at[c]));
     }
 }
 template <int C>
 void putTogether(const Tpx32f* channels, Tpx32f* pixels, ptrdiff_t len) {
-    for (ptrdiff_t i = 0; i < len; i += kBlockPixels<Tpx32f>) {
-        Block<C> block;
-        for (int c = 0; c < C; c++) __builtin_memcpy(&block.at[c], channels + c * kChunk + i, kBlockBytes);
-        if constexpr (C > 1) block = interleave<sizeof(Tpx32f)>(block);
-        Interleaved<Tpx32f, C>(pixels, 0).store(i, block);
+    for (ptrdiff_t i = 0; i < len; i += kLanes<Tpx32f>) {
+        Block<C> half[2];
+        for (int c = 0; c < 2 * C; c++)
+            __builtin_memcpy(&half[c / C].at[c % C], channels + c % C * kChunk + i + c / C * 4, kBlockBytes);
+        for (auto& block : half) block = interleave<4>(block);
+        for (int k = 0; k < C; k++)
+            store(pixels + i * C + 8 * k,
+                  join(half[2 * k / C].at[2 * k % C], half[(2 * k + 1) / C].at[(2 * k + 1) % C]));
     }
 }
 
@@ -114,7 +128,8 @@ template <Layout L, class T>
 void searchImage(const T* src, int srcStep, T* dst, int dstStep, TpxiSize roi, const LookupSpec& spec) {
     constexpr int C = channelsOf(L);
     alignas(32) T samples[C * kChunk] = {}, kept[C * kChunk] = {};
-    alignas(32) Tpx32f pixels[C * kChunk], channels[C * kChunk];
+    alignas(32) Tpx32f pixels[C * kChunk], apart[C * kChunk];
+    Tpx32f* const channels = C == 1 ? pixels : apart;
     ptrdiff_t width = roi.width, height = roi.height;
     joinRows(width, height, C * sizeof(T), srcStep, dstStep);
     walkRows(src, srcStep, dst, dstStep, height, [&](const T* s, T* d) {
@@ -125,10 +140,10 @@ void searchImage(const T* src, int srcStep, T* dst, int dstStep, TpxiSize roi, c
             copyBlock(samples, s + x * C, bytes);
             if (L == Layout::AC4) copyBlock(kept, d + x * C, bytes);
             toFloats(samples, pixels, whole * C);
-            takeApart<C>(pixels, channels, whole);
+            if constexpr (C > 1) takeApart<C>(pixels, channels, whole);
             for (int c = 0; c < (L == Layout::AC4 ? 3 : C); c++)
                 mapSearched(channels + c * kChunk, whole, spec.searches[c], spec.curve);
-            putTogether<C>(channels, pixels, whole);
+            if constexpr (C > 1) putTogether<C>(channels, pixels, whole);
             fromFloats(pixels, samples, whole * C);
             for (ptrdiff_t i = 0; L == Layout::AC4 && i < whole * C; i += kLanes<T>)
                 store(samples + i, keepAlpha<T>(load(kept + i), load(samples + i)));
