@@ -11,6 +11,7 @@ void addUnary();
 void addBinary();
 void addThresholds();
 void addReductions();
+void addExtremesOfTwoAndBlocks();
 void addHistograms();
 void addResizes();
 

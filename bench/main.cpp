@@ -112,6 +112,7 @@ int run(int argc, char** argv) {
     addBinary();
     addThresholds();
     addReductions();
+    addExtremesOfTwoAndBlocks();
     addHistograms();
     addResizes();
     Progress progress;

@@ -89,6 +89,17 @@ void thresholdLtVal(const T* src, T* dst, size_t length, const Thresholds<T>& by
 template <typename T>
 void thresholdLtValGtVal(const T* src, T* dst, size_t length, const Thresholds<T>& by);
 
+// The smaller and the larger of two samples, of floats that do not compare the second; the extremes of blocks,
+// row by row, whose steps are in samples.
+template <typename T>
+void minEvery(const T* src1, const T* src2, T* dst, size_t length);
+template <typename T>
+void maxEvery(const T* src1, const T* src2, T* dst, size_t length);
+template <typename T>
+void maxEveryKeepAlpha(const T* src1, const T* src2, T* dst, size_t length);
+template <typename T>
+void blockMinMax(const T* src, ptrdiff_t srcStep, TpxiSize size, TpxiSize block, T* min, T* max);
+
 // Counts the samples of pixels: bytes by value, others between levels that rise, for each channel.
 void countBytes(const Tpx8u* src, size_t channels, size_t length, Tpx32u* const* tables);
 template <typename T>
