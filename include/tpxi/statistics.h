@@ -185,7 +185,10 @@ TPX_API TpxStatus tpxiMaxIndx_32f_AC4R(const Tpx32f* pSrc, int srcStep, TpxiSize
 /* ---- Extremes of blocks: tpxiBlockMinMax ------------------------------------------------------------------
  * Divides an image into blocks of blockSize pixels, the last column and row of which may be cut, and stores the
  * smallest and the largest sample of each into images of ceil(width / blockWidth) x ceil(height / blockHeight)
- * samples. Either of these images may be null, not both; so may the extremes of the whole image.
+ * samples. Either of these images may be null, not both: it is not stored, and its step is not looked at. Each
+ * extreme of the whole image is stored if its pointer is not null. 32f: NaN is passed over; a block of nothing
+ * else gives +infinity as its smallest sample and -infinity as its largest; zeros of either sign are equal.
+ * blockSize may exceed the image. Steps are in bytes and need not be whole samples.
  *
  * Statuses, in order: tpxErrNullPointer (pSrc, or pDstMin and pDstMax); tpxErrSize (a width or height of the
  * image or of the block below 1); tpxErrStep (srcStep less than a row's bytes, or the step of an image that is
