@@ -20,9 +20,9 @@ void copyRowStreaming(void* dst, const void* src, int64_t bytes);
 
 // Asks for the lines that will be read some turns after these bytes.
 inline void fetchAhead(const void* p, int bytes) {
-    const ptrdiff_t ahead = bytes > 128 ? 4 * bytes : 512;
+    constexpr ptrdiff_t kAhead = 512;
     for (int line = 0; line < bytes; line += kLineBytes)
-        _mm_prefetch(static_cast<const char*>(p) + ahead + line, _MM_HINT_T0);
+        _mm_prefetch(static_cast<const char*>(p) + kAhead + line, _MM_HINT_T0);
 }
 
 // writeRun (frame/runs.h) past the caches: dst[i...] = at(i, k), where k is the register's place in its group
@@ -30,20 +30,22 @@ inline void fetchAhead(const void* p, int bytes) {
 // the caches. The destination is no source. The caller fences once, after its last row.
 //
 // Stores past the caches leave the processor as whole lines if nothing else comes between the parts of a line,
-// so results are gathered in a small block and moved out in one go. Four pages are worked on side by side and
-// their sources fetched ahead, since memory serves several streams faster than one.
+// so results are gathered in a small block and moved out in one go. Four places are worked on side by side and
+// their sources fetched ahead, since memory serves several streams faster than one; each goes on for many
+// pages, since the processor has to find out anew what a stream that begins will read.
 template <int G = 1, class D, class At, class Fetch, class Plain>
 inline void writeRunStreaming(D* dst, ptrdiff_t len, At at, Fetch fetch, Plain plain) {
-    constexpr ptrdiff_t L = kLanes<D>, kTurn = G * 128 / sizeof(D), kPage = G * 4096 / sizeof(D);
-    const auto turns = [&]<int Pages>(std::integral_constant<int, Pages>, ptrdiff_t begin) {
-        alignas(kLineBytes) D block[Pages * kTurn];
-        for (int page = 0; page < Pages; page++) fetch(begin + page * kPage, kTurn);
-        for (int page = 0; page < Pages; page++)
+    constexpr ptrdiff_t L = kLanes<D>, kTurn = G * 128 / sizeof(D);
+    constexpr ptrdiff_t kPage = 4096 / sizeof(D), kStretch = G * 65536 / sizeof(D);
+    const auto turns = [&]<int Places>(std::integral_constant<int, Places>, ptrdiff_t begin, ptrdiff_t apart) {
+        alignas(kLineBytes) D block[Places * kTurn];
+        for (int place = 0; place < Places; place++) fetch(begin + place * apart, kTurn);
+        for (int place = 0; place < Places; place++)
             for (int k = 0; k < kTurn / L; k++)
-                store(block + page * kTurn + k * L, at(begin + page * kPage + k * L, k % G));
-        for (int page = 0; page < Pages; page++)
+                store(block + place * kTurn + k * L, at(begin + place * apart + k * L, k % G));
+        for (int place = 0; place < Places; place++)
             for (int i = 0; i < kTurn; i += L)
-                streamStore(dst + begin + page * kPage + i, load(block + page * kTurn + i));
+                streamStore(dst + begin + place * apart + i, load(block + place * kTurn + i));
     };
 
     // The bulk begins on a line of the destination and with a group: a line's samples and G have no common
@@ -53,9 +55,13 @@ inline void writeRunStreaming(D* dst, ptrdiff_t len, At at, Fetch fetch, Plain p
     if (len < head + kTurn || bytesToLine(dst + head) != 0) return plain(0, len);
     if (head) plain(0, head);
     ptrdiff_t i = head;
-    for (; i + 4 * kPage <= len; i += 4 * kPage)
-        for (ptrdiff_t j = 0; j < kPage; j += kTurn) turns(std::integral_constant<int, 4>{}, i + j);
-    for (; i + kTurn <= len; i += kTurn) turns(std::integral_constant<int, 1>{}, i);
+    while (len - i >= 4 * kPage) {
+        const ptrdiff_t quarter = (len - i) / 4 / kTurn * kTurn;
+        const ptrdiff_t stretch = quarter < kStretch ? quarter : kStretch;
+        for (ptrdiff_t j = 0; j < stretch; j += kTurn) turns(std::integral_constant<int, 4>{}, i + j, stretch);
+        i += 4 * stretch;
+    }
+    for (; i + kTurn <= len; i += kTurn) turns(std::integral_constant<int, 1>{}, i, 0);
     if (i < len) plain(i, len - i);
 }
 

@@ -101,25 +101,27 @@ TEST(Groups, EveryLength) {
     checkMapGroups<3, Tpx32f>();
 }
 
-// Two sources, from a run shorter than a line to twice four pages. The destination lies at any sample of a
-// line.
+// Two sources, from a run shorter than a line to more than four of the longest stretches. The destination lies
+// at any sample of a line.
 template <int G, class T>
 void checkStreaming() {
     const Turns<G, T> turns;
     constexpr ptrdiff_t kLine = 64 / sizeof(T), kTurn = G * 128 / sizeof(T),
-                        kFourPages = 4 * G * 4096 / sizeof(T);
+                        kFourPages = 4 * G * 4096 / sizeof(T), kFourStretches = 16 * kFourPages;
     std::vector<ptrdiff_t> lengths;
     for (ptrdiff_t bulk : {ptrdiff_t(0), kTurn, kFourPages, kFourPages + kTurn, 2 * kFourPages})
         for (ptrdiff_t more : {ptrdiff_t(3), kTurn - 3, kTurn + 3 * kLine})
             lengths.push_back((bulk + more) / 3 * 3);
     lengths.push_back(kTurn);
     lengths.push_back(kFourPages);
+    lengths.push_back(kFourStretches + kFourPages + kTurn + 3);
     const ptrdiff_t longest = *std::max_element(lengths.begin(), lengths.end());
     std::vector<T> a(static_cast<size_t>(longest)), b(a.size());
     randomise(a.data(), longest, 1);
     randomise(b.data(), longest, 2);
-    for (ptrdiff_t len : lengths)
-        for (size_t misalign = 0; misalign<64; misalign += len> 3 * kTurn ? sizeof(T) : 1) {
+    for (ptrdiff_t len : lengths) {
+        const size_t next = len <= 3 * kTurn ? 1 : len <= kFourStretches ? sizeof(T) : 5 * sizeof(T);
+        for (size_t misalign = 0; misalign < 64; misalign += next) {
             // Both ends of a run at unreadable pages: the destination and one source here, the other source
             // there.
             const Edge edge = misalign % 3 ? Edge::Start : Edge::End;
@@ -148,6 +150,7 @@ void checkStreaming() {
             streamFence();
             ASSERT_NO_FATAL_FAILURE(expectRun(dst, len, want)) << "misaligned by " << misalign;
         }
+    }
 }
 
 TEST(Groups, StreamedFromTwoSources) {
