@@ -4,8 +4,8 @@
 // value, whose sections are the bins. Other samples go as floats, in blocks of one channel, to a search among
 // the levels.
 #include "frame/entry.h"
+#include "frame/memory_runs.h"
 #include "frame/real.h"
-#include "frame/runs.h"
 #include "statistics/levels.h"
 
 namespace tpx {
@@ -165,13 +165,15 @@ struct ByteTables {
 
     void run(const Tpx8u* src, ptrdiff_t len) {
         ptrdiff_t i = 0;
-        for (; i + kBlock <= len; i += kBlock)
+        for (; i + kBlock <= len; i += kBlock) {
+            fetchAhead(src + i, kBlock);
             for (int w = 0; w < kBlock; w += 8) {
                 Tpx64u word;
                 __builtin_memcpy(&word, src + i + w, sizeof word);
 #pragma GCC unroll 8
                 for (int j = 0; j < 8; j++) counts[(w + j) % kTables][Tpx8u(word >> 8 * j)]++;
             }
+        }
         for (int table = 0; i < len; i++, table = (table + 1) % kTables) counts[table][src[i]]++;
     }
     // One table of a channel.
@@ -219,19 +221,21 @@ void sumBins(const Counter* table, const Tpx32s* levels, ptrdiff_t count, Counte
 // Counts 16-bit samples in a table for each channel. Where they are alike, a register of them is one count.
 template <int C, class T>
 void countSamples(const T* src, ptrdiff_t len, Counter* const* tables) {
-    constexpr ptrdiff_t L = kLanes<T>;
+    constexpr ptrdiff_t kStep = kLanes<T> * C;
     ptrdiff_t i = 0;
-    if constexpr (C == 1)
-        for (; i + L <= len; i += L) {
+    for (; i + kStep <= len; i += kStep) {
+        fetchAhead(src + i, kStep * int(sizeof(T)));
+        if constexpr (C == 1) {
             const Vec<T> x = load(src + i);
             const T first = x[0];
             if (!any(x != splat<Vec<T>>(first))) {
-                tables[0][first - kMin<T>] += L;
+                tables[0][first - kMin<T>] += kStep;
                 continue;
             }
-#pragma GCC unroll 8
-            for (int j = 0; j < L; j++) tables[0][x[j] - kMin<T>]++;
         }
+#pragma GCC unroll 32
+        for (int j = 0; j < kStep; j++) tables[j % C][levelAt(src, i + j) - kMin<T>]++;
+    }
     for (; i < len; i += C)
 #pragma GCC unroll 4
         for (int c = 0; c < C; c++) tables[c][levelAt(src, i + c) - kMin<T>]++;
