@@ -265,26 +265,31 @@ ptrdiff_t nextBlock(Channel& c, Tpx32f* block) {
     constexpr ptrdiff_t kPixels = 16 / sizeof(T);
     const ptrdiff_t left = c.width - c.x, len = left < kBlock ? left : kBlock;
     const T* src = static_cast<const T*>(c.row) + c.x * C;
-    for (ptrdiff_t i = 0; i < len; i += kPixels) {
+    const auto takePixels = [&](const T* from, Tpx32f* to) {
+        T samples[kPixels];
+        if constexpr (C == 1) {
+            __builtin_memcpy(samples, from, sizeof samples);
+        } else {
+            Several<V8u, C> pixels;
+            __builtin_memcpy(&pixels, from, sizeof pixels);
+            const Several<V8u, C> planes = deinterleave<int(sizeof(T))>(pixels);
+            __builtin_memcpy(samples, &planes.at[c.channel], sizeof samples);
+        }
+        if constexpr (std::is_same_v<T, Tpx32f>)
+            __builtin_memcpy(to, samples, sizeof samples);
+        else
+            store(to, loadAs<Tpx32f>(samples));
+    };
+    ptrdiff_t i = 0;
+    for (; i + kPixels <= len; i += kPixels) {
         _mm_prefetch(reinterpret_cast<const char*>(addBytes(src, (i + kBlock) * C * ptrdiff_t(sizeof(T)))),
                      _MM_HINT_T0); // the next block's turn comes when this one has been counted
-        Several<V8u, C> pixels = {}, planes;
-        const ptrdiff_t some = len - i < kPixels ? len - i : kPixels;
-        if (some == kPixels)
-            __builtin_memcpy(&pixels, src + i * C, sizeof pixels);
-        else
-            copyBlock(&pixels, src + i * C, some * C * ptrdiff_t(sizeof(T)));
-        if constexpr (C == 1)
-            planes = pixels;
-        else
-            planes = deinterleave<int(sizeof(T))>(pixels);
-        if constexpr (std::is_same_v<T, Tpx32f>) {
-            __builtin_memcpy(block + i, &planes.at[c.channel], 16);
-        } else {
-            T samples[kPixels];
-            __builtin_memcpy(samples, &planes.at[c.channel], 16);
-            store(block + i, loadAs<Tpx32f>(samples));
-        }
+        takePixels(src + i * C, block + i);
+    }
+    if (i < len) {
+        T pixels[kPixels * C] = {};
+        copyBlock(pixels, src + i * C, (len - i) * C * ptrdiff_t(sizeof(T)));
+        takePixels(pixels, block + i);
     }
     store(block + len, splat<V32f>(__builtin_nanf("")));
     c.x += len;

@@ -562,21 +562,26 @@ TPX_API TpxStatus tpxiNormRel_L2_32f_C4R(const Tpx32f* pSrc, int srcStep, const 
  * tpxiHistogramGetBufferSize gives, and points into itself: it must not be moved. Calls only read it, so that
  * several threads may share one, each with a work buffer of its own (32f needs none, and takes a null pointer).
  *
- * nLevels, lowerLevel, upperLevel and pLevels have an entry a channel. Levels are given as floats; integer
- * types store their ceilings, which tpxiHistogramGetLevels gives back. Uniform levels are lower + i * (upper -
- * lower) / (nLevels - 1) in single precision, truncated for integer types. pHist is an array of nLevels - 1
- * counters for C1, and an array of such arrays for C3 and C4.
+ * nLevels, lowerLevel, upperLevel and pLevels have an entry a channel. Levels are given as floats, which rise
+ * strictly; integer types store their ceilings, limited to 32 bits, which may repeat and which
+ * tpxiHistogramGetLevels gives back. Uniform levels are lower + i * (upper - lower) / (nLevels - 1) in single
+ * precision, the last one upper itself, truncated for integer types. 16-bit samples of images below 65536
+ * pixels are counted by dividing their distance from the first level by that step, if the levels are uniform
+ * and the distance of the last one is a multiple of nLevels - 1: where bounds are no integers, that may differ
+ * from the levels. pHist is an array of nLevels - 1 counters for C1, and an array of such arrays for C3 and C4;
+ * counters wrap. What a call leaves in the work buffer has no meaning.
  *
  * Statuses, in order.
  * GetBufferSize: tpxErrNullPointer; tpxErrSize (width or height below 1); tpxErrChannelCount (not 1, 3 or 4);
- * tpxErrHistogramLevels (fewer than 2 in a channel); tpxErrDataType (the spec's size is stored
- * before); tpxOk. Init, UniformInit: tpxErrDataType; tpxErrNullPointer; tpxErrChannelCount; for each channel
- * tpxErrNullPointer (its levels), tpxErrHistogramLevels, tpxErrRange (levels that do not rise, or upper not
- * above lower); UniformInit: tpxWarnValueAdjusted (an integer type with a step below 1, so that levels may
- * repeat); tpxOk. A failed call leaves a spec that every later call refuses. GetLevels:
- * tpxErrNullPointer; tpxErrBadArgument (not a spec that is ready); tpxOk. Histogram:
- * tpxErrNullPointer; tpxErrSize; tpxErrStep (less than a row's bytes); tpxErrBadArgument (not a spec
- * that is ready, or one of another type or number of channels); tpxOk. */
+ * tpxErrHistogramLevels (fewer than 2 in a channel); tpxErrSizeTooLarge (2 GB or more); tpxErrDataType (the
+ * spec's size is stored before); tpxOk. Init, UniformInit: tpxErrDataType; tpxErrNullPointer;
+ * tpxErrChannelCount; for each channel tpxErrNullPointer (its levels), tpxErrHistogramLevels, tpxErrRange
+ * (levels that do not rise, or upper not above lower, NaN among them); UniformInit: tpxWarnValueAdjusted (an
+ * integer type with a step below 1, so that levels may repeat); tpxOk. A failed call leaves a spec that every
+ * later call refuses. GetLevels: tpxErrNullPointer; tpxErrBadArgument (not a spec that is ready);
+ * tpxErrNullPointer (a channel's array); tpxOk. Histogram: tpxErrNullPointer (a channel's counters, too);
+ * tpxErrSize; tpxErrStep (less than a row's bytes); tpxErrBadArgument (not a spec that is ready, or one of
+ * another type or number of channels); tpxOk. */
 
 typedef struct TpxHistogramSpec TpxHistogramSpec;
 
