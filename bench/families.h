@@ -13,6 +13,7 @@ void addThresholds();
 void addReductions();
 void addExtremesOfTwoAndBlocks();
 void addHistograms();
+void addLookups();
 void addResizes();
 
 } // namespace bench

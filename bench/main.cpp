@@ -114,6 +114,7 @@ int run(int argc, char** argv) {
     addReductions();
     addExtremesOfTwoAndBlocks();
     addHistograms();
+    addLookups();
     addResizes();
     Progress progress;
     benchmark::RunSpecifiedBenchmarks(&progress);

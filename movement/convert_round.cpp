@@ -1,47 +1,10 @@
 // tpxiConvert of floating point to integers, with a rounding mode and a scale factor.
-//
-// The direction is installed in the control register for the call. Ties away from zero are a half added to the
-// magnitude and the sum truncated; the sum too is rounded toward zero, so the next number below a half does not
-// become 1.
-#include "frame/control.h"
-#include "movement/convert.h"
+#include "movement/convert_round.h"
 
 namespace tpx {
 namespace {
 
-// ---- Rules: Half tells whether to add one before the conversion rounds as the control register says -----
-
-// The half has the sample's sign.
-template <class V>
-inline V addHalf(V x) {
-    using B = VecBits<LaneOf<V>>;
-    const B sign = bitsAs<B>(splat<V>(-0.0f));
-    return x + bitsAs<V>(bitsAs<B>(splat<V>(0.5f)) | (bitsAs<B>(x) & sign));
-}
-
-// To 8 and 16 bits. The limit from above comes first: with it NaN becomes the largest value. From below the
-// conversion and the narrowing saturate.
-template <class S, class D, bool Half>
-struct ToSmall {
-    S factor;
-    Vec<D> operator()(const S* p) const {
-        using V = Vec<S>;
-        Several<V32s, kLanes<D> / kLanes<Tpx32s>> parts;
-        for (int i = 0; i < kLanes<D> / kLanes<S>; i++) {
-            V x = minOf(load(p + i * kLanes<S>) * splat<V>(factor), splat<V>(S(kMax<D>)));
-            // A negative result is 0 in the end, so a positive half serves unsigned types.
-            if constexpr (Half) x = std::is_signed_v<D> ? addHalf(x) : x + splat<V>(S(0.5));
-            if constexpr (sizeof(S) == 4) {
-                const Pair<V32s> two = toInteger(x);
-                parts.at[2 * i] = two.low;
-                parts.at[2 * i + 1] = two.high;
-            } else {
-                parts.at[i] = toInteger(x);
-            }
-        }
-        return narrowAll<D>(parts);
-    }
-};
+// ---- Rules of 32-bit results: Half is as in movement/convert_round.h -------------------------------------
 
 // Registers of 32-bit integers as the bits of floats, which are wider.
 inline B32f toIntegerBits(V32f x) { return bitsAs<B32f>(_mm256_cvtps_epi32(x)); }
@@ -90,14 +53,6 @@ F scale(int n) {
 }
 
 // ---- Calls ----------------------------------------------------------------------------------------------
-
-// body(whether to add a half), in the control that this needs.
-template <class Body>
-inline TpxStatus withRounding(TpxRoundMode mode, Body body) {
-    const FloatControl control(mode == tpxRoundNearestEven ? Rounding::Nearest : Rounding::TowardZero);
-    if (mode == tpxRoundNearestEven || mode == tpxRoundTowardZero) return body(std::false_type{});
-    return body(std::true_type{});
-}
 
 template <Steps K, Layout L, class S, class D>
 TpxStatus convertReal(const S* src, int srcStep, D* dst, int dstStep, TpxiSize roi, TpxRoundMode mode,

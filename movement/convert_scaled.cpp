@@ -1,5 +1,5 @@
 // tpxiConvert of integers with a scale factor.
-#include "movement/convert.h"
+#include "movement/convert_round.h"
 
 namespace tpx {
 namespace {
@@ -66,6 +66,14 @@ TpxStatus convertScaled(const S* src, int srcStep, D* dst, int dstStep, TpxiSize
     };
     constexpr int kShiftedOut = 64, kValueBits = kBits<D> - std::is_signed_v<D>;
     if (n > ZeroAbove) return run(Shrink<S, D, tpxRoundTowardZero>{kShiftedOut});
+    // Beyond 2^24 floating point rounds 32-bit samples, but to no less than that: up to this factor they saturate
+    // all the same.
+    constexpr int kThroughReal = sizeof(S) == 4 ? 24 - kBits<D> : 0;
+    if constexpr (kThroughReal > 0)
+        if (n > 0 && n <= kThroughReal)
+            return withRounding(mode, [=](auto half) {
+                return run(ToSmall<S, D, decltype(half)::value>{powerOfTwo<Tpx32f>(-n)});
+            });
     if (n == 0) return run(Narrow<S, D>{});
     // From the number of value bits on, whatever is not 0 saturates.
     if (n < 0) return run(Grow<S, D>{-clamp(n, -kValueBits, 0)});

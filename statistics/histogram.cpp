@@ -4,8 +4,8 @@
 // value, whose sections are the bins. Other samples go as floats, in blocks of one channel, to a search among
 // the levels.
 #include "frame/entry.h"
+#include "frame/memory_runs.h"
 #include "frame/real.h"
-#include "frame/runs.h"
 #include "statistics/levels.h"
 
 namespace tpx {
@@ -165,13 +165,15 @@ struct ByteTables {
 
     void run(const Tpx8u* src, ptrdiff_t len) {
         ptrdiff_t i = 0;
-        for (; i + kBlock <= len; i += kBlock)
+        for (; i + kBlock <= len; i += kBlock) {
+            fetchAhead(src + i, kBlock);
             for (int w = 0; w < kBlock; w += 8) {
                 Tpx64u word;
                 __builtin_memcpy(&word, src + i + w, sizeof word);
 #pragma GCC unroll 8
                 for (int j = 0; j < 8; j++) counts[(w + j) % kTables][Tpx8u(word >> 8 * j)]++;
             }
+        }
         for (int table = 0; i < len; i++, table = (table + 1) % kTables) counts[table][src[i]]++;
     }
     // One table of a channel.
@@ -219,19 +221,21 @@ void sumBins(const Counter* table, const Tpx32s* levels, ptrdiff_t count, Counte
 // Counts 16-bit samples in a table for each channel. Where they are alike, a register of them is one count.
 template <int C, class T>
 void countSamples(const T* src, ptrdiff_t len, Counter* const* tables) {
-    constexpr ptrdiff_t L = kLanes<T>;
+    constexpr ptrdiff_t kStep = kLanes<T> * C;
     ptrdiff_t i = 0;
-    if constexpr (C == 1)
-        for (; i + L <= len; i += L) {
+    for (; i + kStep <= len; i += kStep) {
+        fetchAhead(src + i, kStep * int(sizeof(T)));
+        if constexpr (C == 1) {
             const Vec<T> x = load(src + i);
             const T first = x[0];
             if (!any(x != splat<Vec<T>>(first))) {
-                tables[0][first - kMin<T>] += L;
+                tables[0][first - kMin<T>] += kStep;
                 continue;
             }
-#pragma GCC unroll 8
-            for (int j = 0; j < L; j++) tables[0][x[j] - kMin<T>]++;
         }
+#pragma GCC unroll 32
+        for (int j = 0; j < kStep; j++) tables[j % C][levelAt(src, i + j) - kMin<T>]++;
+    }
     for (; i < len; i += C)
 #pragma GCC unroll 4
         for (int c = 0; c < C; c++) tables[c][levelAt(src, i + c) - kMin<T>]++;
@@ -261,26 +265,31 @@ ptrdiff_t nextBlock(Channel& c, Tpx32f* block) {
     constexpr ptrdiff_t kPixels = 16 / sizeof(T);
     const ptrdiff_t left = c.width - c.x, len = left < kBlock ? left : kBlock;
     const T* src = static_cast<const T*>(c.row) + c.x * C;
-    for (ptrdiff_t i = 0; i < len; i += kPixels) {
+    const auto takePixels = [&](const T* from, Tpx32f* to) {
+        T samples[kPixels];
+        if constexpr (C == 1) {
+            __builtin_memcpy(samples, from, sizeof samples);
+        } else {
+            Several<V8u, C> pixels;
+            __builtin_memcpy(&pixels, from, sizeof pixels);
+            const Several<V8u, C> planes = deinterleave<int(sizeof(T))>(pixels);
+            __builtin_memcpy(samples, &planes.at[c.channel], sizeof samples);
+        }
+        if constexpr (std::is_same_v<T, Tpx32f>)
+            __builtin_memcpy(to, samples, sizeof samples);
+        else
+            store(to, loadAs<Tpx32f>(samples));
+    };
+    ptrdiff_t i = 0;
+    for (; i + kPixels <= len; i += kPixels) {
         _mm_prefetch(reinterpret_cast<const char*>(addBytes(src, (i + kBlock) * C * ptrdiff_t(sizeof(T)))),
                      _MM_HINT_T0); // the next block's turn comes when this one has been counted
-        Several<V8u, C> pixels = {}, planes;
-        const ptrdiff_t some = len - i < kPixels ? len - i : kPixels;
-        if (some == kPixels)
-            __builtin_memcpy(&pixels, src + i * C, sizeof pixels);
-        else
-            copyBlock(&pixels, src + i * C, some * C * ptrdiff_t(sizeof(T)));
-        if constexpr (C == 1)
-            planes = pixels;
-        else
-            planes = deinterleave<int(sizeof(T))>(pixels);
-        if constexpr (std::is_same_v<T, Tpx32f>) {
-            __builtin_memcpy(block + i, &planes.at[c.channel], 16);
-        } else {
-            T samples[kPixels];
-            __builtin_memcpy(samples, &planes.at[c.channel], 16);
-            store(block + i, loadAs<Tpx32f>(samples));
-        }
+        takePixels(src + i * C, block + i);
+    }
+    if (i < len) {
+        T pixels[kPixels * C] = {};
+        copyBlock(pixels, src + i * C, (len - i) * C * ptrdiff_t(sizeof(T)));
+        takePixels(pixels, block + i);
     }
     store(block + len, splat<V32f>(__builtin_nanf("")));
     c.x += len;

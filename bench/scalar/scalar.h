@@ -106,6 +106,15 @@ template <typename T>
 void countBetween(const T* src, size_t channels, size_t length, const std::vector<float>& levels,
                   Tpx32u* const* hist);
 
+// Entries of tables by the bits of samples, a table a channel; entries of some bytes; and the values between
+// levels that rise, or the lines through them.
+template <typename T>
+void lookup(const T* src, T* dst, size_t length, size_t channels, const std::vector<T>* tables);
+template <int entryBytes, typename S>
+void lookupPacked(const S* src, Tpx8u* dst, size_t length, const Tpx8u* table);
+void lookupBetween(const Tpx32f* src, Tpx32f* dst, size_t length, bool linear,
+                   const std::vector<Tpx32f>& levels, const std::vector<Tpx32f>& values);
+
 // The two source pixels of each destination position along one side, and the weight of the second:
 // 14 bits for 8-bit samples.
 template <typename T>

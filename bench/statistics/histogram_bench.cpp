@@ -4,6 +4,8 @@
 #include "../frame/reading.h"
 #include "../scalar/scalar.h"
 
+#include <cmath>
+
 namespace bench {
 namespace {
 
@@ -56,8 +58,9 @@ void addHistogram(const What& what, Count<T> ours) {
                                  (what.flat ? " one value" : "") + " " + std::to_string(what.levels) +
                                  " levels";
         addJob({"Histograms", name, text(size), samples, samples * sizeof(T)}, [=] {
-            const auto src = std::make_shared<Image<T>>(size, what.channels, what.flat ? what.range / 3 : 0,
-                                                        what.flat ? what.range / 3 : what.range - 1);
+            const double value = std::floor(what.range / 3);
+            const auto src = std::make_shared<Image<T>>(size, what.channels, what.flat ? value : 0,
+                                                        what.flat ? value : what.range - 1);
             const auto mine = std::make_shared<Prepared>(what, size),
                        plain = std::make_shared<Prepared>(what, size);
             const auto run = [=] {
@@ -88,10 +91,10 @@ void addHistogram(const What& what, Count<T> ours) {
 
 } // namespace
 
-#define HISTOGRAM(T, L, channels, hist, ...)                                                           \
-    addHistogram<Tpx##T>(                                                                              \
-        {"tpxiHistogram_" #T "_" #L "R", tpxDataType##T, channels, __VA_ARGS__},                       \
-        [](const Tpx##T* src, int step, TpxiSize size, Tpx32u* const* h, const TpxHistogramSpec* spec, \
+#define HISTOGRAM(T, L, count, hist, ...)                                                                     \
+    addHistogram<Tpx##T>(                                                                                     \
+        {.function = "tpxiHistogram_" #T "_" #L "R", .type = tpxDataType##T, .channels = count, __VA_ARGS__}, \
+        [](const Tpx##T* src, int step, TpxiSize size, Tpx32u* const* h, const TpxHistogramSpec* spec,        \
            Tpx8u* buffer) { return tpxiHistogram_##T##_##L##R(src, step, size, hist, spec, buffer); })
 
 void addHistograms() {

@@ -562,21 +562,26 @@ TPX_API TpxStatus tpxiNormRel_L2_32f_C4R(const Tpx32f* pSrc, int srcStep, const 
  * tpxiHistogramGetBufferSize gives, and points into itself: it must not be moved. Calls only read it, so that
  * several threads may share one, each with a work buffer of its own (32f needs none, and takes a null pointer).
  *
- * nLevels, lowerLevel, upperLevel and pLevels have an entry a channel. Levels are given as floats; integer
- * types store their ceilings, which tpxiHistogramGetLevels gives back. Uniform levels are lower + i * (upper -
- * lower) / (nLevels - 1) in single precision, truncated for integer types. pHist is an array of nLevels - 1
- * counters for C1, and an array of such arrays for C3 and C4.
+ * nLevels, lowerLevel, upperLevel and pLevels have an entry a channel. Levels are given as floats, which rise
+ * strictly; integer types store their ceilings, limited to 32 bits, which may repeat and which
+ * tpxiHistogramGetLevels gives back. Uniform levels are lower + i * (upper - lower) / (nLevels - 1) in single
+ * precision, the last one upper itself, truncated for integer types. 16-bit samples of images below 65536
+ * pixels are counted by dividing their distance from the first level by that step, if the levels are uniform
+ * and the distance of the last one is a multiple of nLevels - 1: where bounds are no integers, that may differ
+ * from the levels. pHist is an array of nLevels - 1 counters for C1, and an array of such arrays for C3 and C4;
+ * counters wrap. What a call leaves in the work buffer has no meaning.
  *
  * Statuses, in order.
  * GetBufferSize: tpxErrNullPointer; tpxErrSize (width or height below 1); tpxErrChannelCount (not 1, 3 or 4);
- * tpxErrHistogramLevels (fewer than 2 in a channel); tpxErrDataType (the spec's size is stored
- * before); tpxOk. Init, UniformInit: tpxErrDataType; tpxErrNullPointer; tpxErrChannelCount; for each channel
- * tpxErrNullPointer (its levels), tpxErrHistogramLevels, tpxErrRange (levels that do not rise, or upper not
- * above lower); UniformInit: tpxWarnValueAdjusted (an integer type with a step below 1, so that levels may
- * repeat); tpxOk. A failed call leaves a spec that every later call refuses. GetLevels:
- * tpxErrNullPointer; tpxErrBadArgument (not a spec that is ready); tpxOk. Histogram:
- * tpxErrNullPointer; tpxErrSize; tpxErrStep (less than a row's bytes); tpxErrBadArgument (not a spec
- * that is ready, or one of another type or number of channels); tpxOk. */
+ * tpxErrHistogramLevels (fewer than 2 in a channel); tpxErrSizeTooLarge (2 GB or more); tpxErrDataType (the
+ * spec's size is stored before); tpxOk. Init, UniformInit: tpxErrDataType; tpxErrNullPointer;
+ * tpxErrChannelCount; for each channel tpxErrNullPointer (its levels), tpxErrHistogramLevels, tpxErrRange
+ * (levels that do not rise, or upper not above lower, NaN among them); UniformInit: tpxWarnValueAdjusted (an
+ * integer type with a step below 1, so that levels may repeat); tpxOk. A failed call leaves a spec that every
+ * later call refuses. GetLevels: tpxErrNullPointer; tpxErrBadArgument (not a spec that is ready);
+ * tpxErrNullPointer (a channel's array); tpxOk. Histogram: tpxErrNullPointer (a channel's counters, too);
+ * tpxErrSize; tpxErrStep (less than a row's bytes); tpxErrBadArgument (not a spec that is ready, or one of
+ * another type or number of channels); tpxOk. */
 
 typedef struct TpxHistogramSpec TpxHistogramSpec;
 
@@ -613,25 +618,33 @@ TPX_API TpxStatus tpxiHistogram_32f_C3R(const Tpx32f* pSrc, int srcStep, TpxiSiz
 TPX_API TpxStatus tpxiHistogram_32f_C4R(const Tpx32f* pSrc, int srcStep, TpxiSize roiSize,
                                         Tpx32u* const pHist[4], const TpxHistogramSpec* pSpec, Tpx8u* pBuffer);
 
-/* ---- Lookup tables between levels: tpxiLUT
- * ------------------------------------------------------------------------ Maps samples through a function of
- * levels and values, for each channel: x in levels[k] <= x < levels[k + 1] becomes nearest   values[k] linear
- * the line through (levels[k], values[k]) and (levels[k + 1], values[k + 1]) cubic     the polynomial through
- * four points, from the level before k on where there is one (a channel with fewer than 4 levels makes all
- * channels linear) rounded by adding 0.5 and truncating, and limited to the type; 32f works in double precision
- * and rounds once. Samples outside all levels, and NaN, stay. AC4 keeps the destination's fourth channel.
+/* ---- Lookup tables between levels: tpxiLUT ----------------------------------------------------------------
+ * Maps samples through a function of levels and values, for each channel. x in levels[k] <= x < levels[k + 1]
+ * becomes
+ *   nearest  values[k]
+ *   linear   the line through (levels[k], values[k]) and (levels[k + 1], values[k + 1])
+ *   cubic    the polynomial through points k - 1 to k + 2, or at the ends through the first or last four
+ * and is limited to the type. Integers come from lines and polynomials by adding 0.5 and truncating toward
+ * zero, but for the value of an interval of one sample on a line, which is taken as it is. 32f works in double
+ * precision and rounds once. A channel with fewer than 4 levels makes all channels of a cubic spec linear;
+ * where two of the four levels are equal, an interval has its line. Samples outside all levels, and NaN, stay.
+ * AC4 keeps the destination's fourth channel.
  *
- * A spec holds the tables. It lies in memory of the caller, at any address, of the size that
- * tpxiLUT_GetSize gives, and points into itself: it must not be moved. Calls only read it, so that threads may
- * share one. pValues, pLevels and nLevels have an entry a channel, three for AC4; levels rise.
+ * pValues, pLevels and nLevels have an entry a channel, three for AC4. Levels should rise. They are not
+ * tested: of intervals that overlap, the last one counts for integers, the first one for 32f.
  *
- * Statuses, in order.
- * GetSize: tpxErrInterpolation; tpxErrNullPointer; tpxErrSize (width or height below 1); tpxErrLutLevels (fewer
- * than 2 in a channel); tpxErrChannelIndex (the layout); tpxErrDataType; tpxErrSizeTooLarge (2 GB or more);
- * tpxOk. Init: tpxErrInterpolation; tpxErrSize; tpxErrNullPointer; tpxErrLutLevels; tpxOk. A failed call leaves
- * a spec that every later call refuses. LUT: tpxErrNullPointer; tpxErrStep (a step below 1);
- * tpxErrSize; tpxErrBadArgument (not a spec that is ready, or one of another type or layout); tpxOk.
- */
+ * A spec holds the tables. It lies in memory of the caller, at any address, of the size that tpxiLUT_GetSize
+ * gives for the same interpolation, type, layout and numbers of levels, and points into itself: it must not be
+ * moved. Calls only read it, so that threads may share one. The size of the region that GetSize and Init take
+ * does not matter. Steps are in bytes and may be less than a row.
+ *
+ * Statuses, in order. GetSize: tpxErrInterpolation; tpxErrNullPointer; tpxErrSize (width or height below 1);
+ * tpxErrLutLevels (fewer than 2 in a channel; of an unknown layout the first is read); tpxErrChannelIndex (the
+ * layout); tpxErrDataType; tpxErrSizeTooLarge (2 GB or more); tpxOk. Init: tpxErrInterpolation; tpxErrSize;
+ * tpxErrNullPointer (an array of a channel too); tpxErrLutLevels; tpxErrChannelIndex; tpxErrSizeTooLarge;
+ * tpxOk. A failed call leaves a spec that every later call refuses. LUT: tpxErrNullPointer; tpxErrStep (a step
+ * below 1); tpxErrSize; tpxErrBadArgument (not a spec that is ready, or one of another type or layout);
+ * tpxOk. */
 
 typedef struct TpxiLUT_Spec TpxiLUT_Spec;
 
@@ -710,11 +723,11 @@ TPX_API TpxStatus tpxiLUT_32f_AC4R(const Tpx32f* pSrc, int srcStep, Tpx32f* pDst
 TPX_API TpxStatus tpxiLUT_32f_AC4IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize roiSize,
                                     const TpxiLUT_Spec* pSpec);
 
-/* ---- Palettes: tpxiLUTPalette
- * ----------------------------------------------------------------------------------- Replaces a sample by the
- * entry of a table of 2^nBitSize entries that its low nBitSize bits name. C3 and C4 have a table a channel, AC4
- * has three and keeps the destination's fourth channel. 8u24u and 16u24u store three bytes a pixel from a table
- * of three bytes an entry.
+/* ---- Palettes: tpxiLUTPalette -----------------------------------------------------------------------------
+ * Replaces a sample by the entry of a table of 2^nBitSize entries that its low nBitSize bits name. C3 and C4
+ * have a table a channel, AC4 has three and keeps the destination's fourth channel. 8u24u and 16u24u store
+ * three bytes a pixel from a table of three bytes an entry. Nothing is read behind a table's last entry.
+ * Source and destination may be the same where their samples have the same size.
  *
  * Statuses, in order: tpxErrNullPointer (a table of a channel too); tpxErrSize (width or height below 1);
  * tpxErrOutOfRange (nBitSize outside 1..8 for 8u, 1..16 for 16u sources); tpxErrStep (a step less than its

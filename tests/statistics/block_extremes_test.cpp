@@ -103,7 +103,7 @@ TYPED_TEST(BlockMinMax, EveryBlockWidth) {
     for (int blockWidth = 1; blockWidth <= 70; blockWidth++)
         for (int width : {1, 3, 17, 33, 64, 131, 300}) {
             GuardedImage<TypeParam> src(width, 5, 1, Lie{0, width % 2 ? Edge::End : Edge::Start});
-            fill(src, unsigned(width + blockWidth));
+            fill(src, unsigned(width) + unsigned(blockWidth));
             checkImage(src, {blockWidth, 3});
             if (this->HasFatalFailure()) return;
         }
@@ -137,7 +137,7 @@ TYPED_TEST(BlockMinMax, LongRows) {
         for (int blockWidth : {1, 3, 16, 100, piece / 2, piece - 1, piece, piece + 1, piece + 60, 2 * piece,
                                2 * piece + 1, INT_MAX}) {
             GuardedImage<TypeParam> src(width, 3, 1, Lie{1, Edge::End, 1});
-            fill(src, unsigned(width + blockWidth));
+            fill(src, unsigned(width) + unsigned(blockWidth));
             // Extremes in places of their own: the first and the last columns of a row's pieces.
             const auto low = TypeParam(std::is_signed_v<TypeParam> ? -120 : 1);
             const auto high = TypeParam(std::is_signed_v<TypeParam> ? 120 : 250);

@@ -291,6 +291,8 @@ TEST(HistogramLevels, Uniform) {
 
     Prepared real = prepareUniform(tpxDataType32f, 4, {-0.1f}, {0.9f});
     EXPECT_EQ(real.status, tpxOk);
+    EXPECT_EQ(prepareUniform(tpxDataType32f, 4, {-INFINITY}, {5}).storedLevels()[0],
+              (std::vector<float>{-INFINITY, -INFINITY, -INFINITY, 5})); // no number between them
     const float step = (0.9f - -0.1f) / 3;
     EXPECT_EQ(real.storedLevels()[0], (std::vector<float>{-0.1f, -0.1f + step, -0.1f + step * 2, 0.9f}));
 }

@@ -1,0 +1,75 @@
+// Rounding through floating point, with a mode and a factor.
+//
+// The direction is installed in the control register for the call. Ties away from zero are a half added to the
+// magnitude and the sum truncated; the sum too is rounded toward zero, so the next number below a half does not
+// become 1.
+#pragma once
+
+#include "frame/control.h"
+#include "movement/convert.h"
+
+namespace tpx {
+
+// ---- Rules: Half tells whether to add one before the conversion rounds as the control register says -----
+
+// The half has the sample's sign.
+template <class V>
+inline V addHalf(V x) {
+    using B = VecBits<LaneOf<V>>;
+    const B sign = bitsAs<B>(splat<V>(-0.0f));
+    return x + bitsAs<V>(bitsAs<B>(splat<V>(0.5f)) | (bitsAs<B>(x) & sign));
+}
+
+// Samples as the floating point that they are rounded in, S or single precision for 32-bit integers. Of these
+// only magnitudes up to 2^24 are exact; larger ones become any number from there on.
+template <class S>
+inline auto loadReal(const S* p) {
+    if constexpr (std::is_floating_point_v<S>) {
+        return load(p);
+    } else if constexpr (std::is_signed_v<S>) {
+        B32f x;
+        __builtin_memcpy(&x, p, sizeof x);
+        return V32f(_mm256_cvtepi32_ps(bitsAs<__m256i>(x)));
+    } else {
+        const V32u limit = splat<V32u>(1 << 24);
+        return toFloat(Pair<V32s>{V32s(minOf(load(p), limit)), V32s(minOf(load(p + kLanes<S>), limit))});
+    }
+}
+
+// To 8 and 16 bits. The limit from above comes first, unless the samples are integers made smaller: with it NaN
+// becomes the largest value. From below the conversion and the narrowing saturate.
+template <class S, class D, bool Half>
+struct ToSmall {
+    using F = LaneOf<decltype(loadReal<S>(nullptr))>;
+    F factor;
+    Vec<D> operator()(const S* p) const {
+        using V = Vec<F>;
+        Several<V32s, kLanes<D> / kLanes<Tpx32s>> parts;
+        for (int i = 0; i < kLanes<D> / kLanes<F>; i++) {
+            V x = loadReal(p + i * kLanes<F>) * splat<V>(factor);
+            if constexpr (std::is_floating_point_v<S>) x = minOf(x, splat<V>(kMax<D>));
+            // A negative result is 0 in the end, so a positive half serves unsigned types.
+            if constexpr (Half) x = std::is_signed_v<D> ? addHalf(x) : x + splat<V>(F(0.5));
+            if constexpr (sizeof(F) == 4) {
+                const Pair<V32s> two = toInteger(x);
+                parts.at[2 * i] = two.low;
+                parts.at[2 * i + 1] = two.high;
+            } else {
+                parts.at[i] = toInteger(x);
+            }
+        }
+        return narrowAll<D>(parts);
+    }
+};
+
+// ---- Calls ----------------------------------------------------------------------------------------------
+
+// body(whether to add a half), in the control that this needs.
+template <class Body>
+inline TpxStatus withRounding(TpxRoundMode mode, Body body) {
+    const FloatControl control(mode == tpxRoundNearestEven ? Rounding::Nearest : Rounding::TowardZero);
+    if (mode == tpxRoundNearestEven || mode == tpxRoundTowardZero) return body(std::false_type{});
+    return body(std::true_type{});
+}
+
+} // namespace tpx
