@@ -136,7 +136,7 @@ struct ProductLanes : SumsOf<T, C, Tpx64s, C == 3 ? 3 : 2> {
         Registers<Tpx16u, N> low;
         Registers<T, N> high;
         for (int k = 0; k < N; k++) {
-            low.at[k] = V16u(x.at[k] * y.at[k]);
+            low.at[k] = V16u(x.at[k]) * V16u(y.at[k]);
             high.at[k] = multiplyHigh(x.at[k], y.at[k]);
         }
         lower.take(low);
