@@ -25,18 +25,34 @@ inline void fetchAhead(const void* p, int bytes) {
         _mm_prefetch(static_cast<const char*>(p) + kAhead + line, _MM_HINT_T0);
 }
 
+// Memory serves several streams faster than one: turn(i, apart) works at the four places i, i + apart, ... so
+// that most of a long run is covered, and the number of samples that have been is returned. A stream goes on
+// for many pages, since the processor has to find out anew what one that begins will read. Lengths are in
+// samples: `page` of one page, `longest` of one stream, both whole turns.
+template <class Turn>
+inline ptrdiff_t walkFourStreams(ptrdiff_t len, ptrdiff_t turnLength, ptrdiff_t page, ptrdiff_t longest,
+                                 Turn turn) {
+    ptrdiff_t i = 0;
+    while (len - i >= 4 * page) {
+        const ptrdiff_t quarter = (len - i) / 4 / turnLength * turnLength;
+        const ptrdiff_t apart = quarter < longest ? quarter : longest;
+        for (ptrdiff_t j = 0; j < apart; j += turnLength) turn(i + j, apart);
+        i += 4 * apart;
+    }
+    return i;
+}
+
 // writeRun (frame/runs.h) past the caches: dst[i...] = at(i, k), where k is the register's place in its group
 // of G, as in mapGroups. fetch(i, n) asks for what n samples from i on will need, plain(i, n) writes them into
 // the caches. The destination is no source. The caller fences once, after its last row.
 //
 // Stores past the caches leave the processor as whole lines if nothing else comes between the parts of a line,
-// so results are gathered in a small block and moved out in one go. Four places are worked on side by side and
-// their sources fetched ahead, since memory serves several streams faster than one; each goes on for many
-// pages, since the processor has to find out anew what a stream that begins will read.
+// so results are gathered in a small block and moved out in one go. Four places are worked on side by side, and
+// their sources are fetched ahead.
 template <int G = 1, class D, class At, class Fetch, class Plain>
 inline void writeRunStreaming(D* dst, ptrdiff_t len, At at, Fetch fetch, Plain plain) {
     constexpr ptrdiff_t L = kLanes<D>, kTurn = G * 128 / sizeof(D);
-    constexpr ptrdiff_t kPage = 4096 / sizeof(D), kStretch = G * 65536 / sizeof(D);
+    constexpr ptrdiff_t kPage = G * 4096 / sizeof(D), kLongest = 16 * kPage;
     const auto turns = [&]<int Places>(std::integral_constant<int, Places>, ptrdiff_t begin, ptrdiff_t apart) {
         alignas(kLineBytes) D block[Places * kTurn];
         for (int place = 0; place < Places; place++) fetch(begin + place * apart, kTurn);
@@ -55,12 +71,9 @@ inline void writeRunStreaming(D* dst, ptrdiff_t len, At at, Fetch fetch, Plain p
     if (len < head + kTurn || bytesToLine(dst + head) != 0) return plain(0, len);
     if (head) plain(0, head);
     ptrdiff_t i = head;
-    while (len - i >= 4 * kPage) {
-        const ptrdiff_t quarter = (len - i) / 4 / kTurn * kTurn;
-        const ptrdiff_t stretch = quarter < kStretch ? quarter : kStretch;
-        for (ptrdiff_t j = 0; j < stretch; j += kTurn) turns(std::integral_constant<int, 4>{}, i + j, stretch);
-        i += 4 * stretch;
-    }
+    i += walkFourStreams(len - head, kTurn, kPage, kLongest, [&](ptrdiff_t at, ptrdiff_t apart) {
+        turns(std::integral_constant<int, 4>{}, head + at, apart);
+    });
     for (; i + kTurn <= len; i += kTurn) turns(std::integral_constant<int, 1>{}, i, 0);
     if (i < len) plain(i, len - i);
 }

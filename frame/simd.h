@@ -397,11 +397,14 @@ inline V32u magnitude(V32u a) { return a; }
 inline V16u magnitude(V16s a) { return V16u(_mm_abs_epi16(__m128i(a))); }
 inline V32u magnitude(V32s a) { return V32u(_mm_abs_epi32(__m128i(a))); }
 
-// A register of floating point from integers, rounded with the thread's rounding mode.
-inline V32f toFloat(Pair<V32s> a) {
-    return V32f(_mm256_cvtepi32_ps(
-        _mm256_insertf128_si256(_mm256_castsi128_si256(__m128i(a.low)), __m128i(a.high), 1)));
+// Integers in a register of the width that floating point has.
+inline B32f join(Pair<V32s> a) {
+    return B32f(_mm256_insertf128_si256(_mm256_castsi128_si256(__m128i(a.low)), __m128i(a.high), 1));
 }
+
+// A register of floating point from integers, rounded with the thread's rounding mode.
+inline V32f toFloat(B32f a) { return V32f(_mm256_cvtepi32_ps(bitsAs<__m256i>(a))); }
+inline V32f toFloat(Pair<V32s> a) { return toFloat(join(a)); }
 inline V32f toFloat(Pair<V64f> a) {
     return V32f(_mm256_insertf128_ps(_mm256_castps128_ps256(_mm256_cvtpd_ps(a.low)), _mm256_cvtpd_ps(a.high), 1));
 }
@@ -499,27 +502,52 @@ inline Vec<T> narrow(Pair<V32u> a) {
 
 // ---- Masks of bits: bit i stands for lane i -------------------------------------------------------------
 
-// All bits set in the lanes whose bit is, as a comparison of Vec<T> gives it. Bits above the lanes are ignored.
+// Of the lanes of Vec<T>, whose bits begin at bit `first` of a byte: the byte that a lane's bit is in, for each
+// byte of the register, and the bit there, in the lane's lowest byte.
 template <class T>
-inline auto laneMask(Tpx32u bits) {
-    const __m128i v = _mm_cvtsi32_si128(int(bits));
-    if constexpr (sizeof(T) == 1) {
-        const __m128i bit = _mm_set1_epi64x(Tpx64s(0x8040201008040201));
-        const __m128i spread = _mm_shuffle_epi8(v, _mm_set_epi64x(0x0101010101010101, 0));
-        return Vec<std::make_signed_t<T>>(_mm_cmpeq_epi8(_mm_and_si128(spread, bit), bit));
-    } else if constexpr (sizeof(T) == 2) {
-        const __m128i bit = _mm_set_epi16(128, 64, 32, 16, 8, 4, 2, 1);
-        const __m128i spread = _mm_shuffle_epi8(v, __m128i{});
-        return Vec<std::make_signed_t<T>>(_mm_cmpeq_epi16(_mm_and_si128(spread, bit), bit));
-    } else {
-        static_assert(std::is_same_v<T, Tpx32f>);
-        const __m128i low = _mm_set_epi32(8, 4, 2, 1), high = _mm_set_epi32(128, 64, 32, 16);
-        const __m128i spread = _mm_shuffle_epi8(v, __m128i{});
-        return B32f(
-            _mm256_insertf128_si256(_mm256_castsi128_si256(_mm_cmpeq_epi32(_mm_and_si128(spread, low), low)),
-                                    _mm_cmpeq_epi32(_mm_and_si128(spread, high), high), 1));
+struct BitPlaces {
+    alignas(16) Tpx8u byte[8][sizeof(Vec<T>)], bit[8][sizeof(Vec<T>)];
+    constexpr BitPlaces() : byte{}, bit{} {
+        for (int first = 0; first < 8; first++)
+            for (int i = 0; i < int(sizeof(Vec<T>)); i++) {
+                const int at = first + i / int(sizeof(T));
+                byte[first][i] = Tpx8u(at / 8);
+                bit[first][i] = Tpx8u(i % int(sizeof(T)) == 0 ? 1 << at % 8 : 0);
+            }
     }
-}
+};
+template <class T>
+inline constexpr BitPlaces<T> kBitPlaces;
+
+// All bits set in the lanes whose bit is, as a comparison of Vec<T> gives it. Bits lie in a register's first
+// bytes and begin at bit `first`, from 0 to 7; the others are ignored.
+template <class T>
+struct LaneMask {
+    static constexpr int kHalves = sizeof(Vec<T>) / 16;
+    using Lane = std::conditional_t<sizeof(T) == 1, Tpx8u, std::conditional_t<sizeof(T) == 2, Tpx16u, Tpx32u>>;
+    using Lanes = Vec<Lane>;
+
+    Several<V8u, kHalves> byte;
+    Several<Lanes, kHalves> bit;
+
+    explicit LaneMask(int first) {
+        for (int k = 0; k < kHalves; k++) {
+            byte.at[k] = load(kBitPlaces<T>.byte[first] + k * 16);
+            bit.at[k] = bitsAs<Lanes>(load(kBitPlaces<T>.bit[first] + k * 16));
+        }
+    }
+    auto operator()(V8u bytes) const {
+        const auto half = [&](int k) {
+            return (bitsAs<Lanes>(shuffleBytes(bytes, byte.at[k])) & bit.at[k]) == bit.at[k];
+        };
+        if constexpr (kHalves == 1)
+            return half(0);
+        else
+            return join(Pair<V32s>{half(0), half(1)});
+    }
+};
+template <class T>
+using MaskOf = decltype(LaneMask<T>(0)(V8u{}));
 
 // The bits of a comparison's lanes.
 inline Tpx32u laneBits(V8s mask) { return Tpx32u(_mm_movemask_epi8(__m128i(mask))); }

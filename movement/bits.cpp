@@ -2,6 +2,7 @@
 #include "frame/control.h"
 #include "frame/entry.h"
 #include "frame/memory_runs.h"
+#include "frame/real.h"
 
 namespace tpx {
 namespace {
@@ -24,42 +25,56 @@ void joinBitRows(ptrdiff_t& len, ptrdiff_t& height, int bitOffset, int bitStep, 
 
 // ---- From bits ------------------------------------------------------------------------------------------
 
-// `Count` bits from bit `at` on; no byte is read that has none of them.
-template <int Count>
-inline Tpx32u bitsFrom(const Tpx8u* bits, ptrdiff_t at) {
-    static_assert(Count == 8 || Count == 16);
-    std::conditional_t<Count == 8, Tpx8u, Tpx16u> first;
-    const size_t from = size_t(at);
-    __builtin_memcpy(&first, bits + from / kByteBits, sizeof first);
-    const Tpx32u last = bits[(from + Count - 1) / kByteBits];
-    return (first | last << Count) >> (from % kByteBits);
-}
-
 // One of two values by each bit.
 template <class T>
 struct Unpack {
     using V = Vec<T>;
-    using B = decltype(laneMask<T>(0));
+    using B = MaskOf<T>;
     static constexpr int L = kLanes<T>;
     B low, flips;
-    V operator()(const Tpx8u* bits, ptrdiff_t at) const {
-        return bitsAs<V>(low ^ (laneMask<T>(bitsFrom<L>(bits, at)) & flips));
-    }
+
+    // All of a row's registers begin at the same bit of a byte. Four bytes are read for each; the row's last
+    // ones are read from a copy, which has bytes behind them.
+    template <bool Stream>
     void row(const Tpx8u* bits, ptrdiff_t from, T* dst, ptrdiff_t len) const {
-        writeRun(
-            dst, len, samplesToBoundary(dst), [=, this](ptrdiff_t i) { return (*this)(bits, from + i); },
-            [=, this] {
-                const ptrdiff_t byte = from / kByteBits, offset = from % kByteBits;
-                Tpx8u some[L / kByteBits + 1] = {};
-                copyShort(some, bits + byte, (offset + len + kByteBits - 1) / kByteBits);
-                return (*this)(some, offset);
-            });
-    }
-    void rowStreaming(const Tpx8u* bits, ptrdiff_t from, T* dst, ptrdiff_t len) const {
-        writeRunStreaming(
-            dst, len, [=, this](ptrdiff_t i, int) { return (*this)(bits, from + i); },
-            [=](ptrdiff_t i, int n) { fetchAhead(bits + (from + i) / kByteBits, n / kByteBits); },
-            [=, this](ptrdiff_t i, ptrdiff_t n) { row(bits, from + i, dst + i, n); });
+        if constexpr (Stream) {
+            const ptrdiff_t toLine = bytesToLine(dst) / ptrdiff_t(sizeof(T)),
+                            head = len < toLine ? len : toLine;
+            row<false>(bits, from, dst, head);
+            from += head;
+            dst += head;
+            len -= head;
+        }
+        bits += from / kByteBits;
+        const int first = int(from % kByteBits);
+        const auto values = [mask = LaneMask<T>(first), low = low, flips = flips](const Tpx8u* p) {
+            Tpx32u four;
+            __builtin_memcpy(&four, p, sizeof four);
+            return bitsAs<V>(low ^ (mask(bitsAs<V8u>(V32u{four})) & flips));
+        };
+        const auto at = [=](ptrdiff_t i, int = 0) { return values(bits + size_t(i) / kByteBits); };
+
+        const ptrdiff_t spare = (first + len + kByteBits - 1) / kByteBits - 4;
+        const ptrdiff_t readable = spare < 0 ? 0 : spare * kByteBits + L;
+        const ptrdiff_t bulk = (len < readable ? len : readable) / L * L;
+        const auto plain = [=](ptrdiff_t i, ptrdiff_t n) {
+            writeRun(
+                dst + i, n, 0, [=](ptrdiff_t j) { return at(i + j); }, [] { return V{}; });
+        };
+        if constexpr (Stream)
+            writeRunStreaming(
+                dst, bulk, at, [=](ptrdiff_t i, int n) { fetchAhead(bits + i / kByteBits, n / kByteBits); },
+                plain);
+        else
+            plain(0, bulk);
+
+        const ptrdiff_t rest = len - bulk;
+        Tpx8u last[32] = {};
+        copyShort(last, bits + bulk / kByteBits, (first + rest + kByteBits - 1) / kByteBits);
+        for (ptrdiff_t i = 0; i < rest; i += L) {
+            const V v = values(last + i / kByteBits);
+            copyBlock(dst + bulk + i, &v, (rest - i < L ? rest - i : L) * ptrdiff_t(sizeof(T)));
+        }
     }
 };
 
@@ -80,11 +95,11 @@ TpxStatus unpack(const Tpx8u* src, int srcStep, int bitOffset, T* dst, int dstSt
     const uint64_t samples = uint64_t(len) * uint64_t(height);
     if (exceedsCache(samples * sizeof(T) + samples / kByteBits, kUnpackFloor)) {
         walkRows(src, srcStep, dst, dstStep, height,
-                 [=](const Tpx8u* s, T* d) { values.rowStreaming(s, offset, d, len); });
+                 [=](const Tpx8u* s, T* d) { values.template row<true>(s, offset, d, len); });
         streamFence();
     } else {
         walkRows(src, srcStep, dst, dstStep, height,
-                 [=](const Tpx8u* s, T* d) { values.row(s, offset, d, len); });
+                 [=](const Tpx8u* s, T* d) { values.template row<false>(s, offset, d, len); });
     }
     return tpxOk;
 }
@@ -98,15 +113,20 @@ constexpr int kGroup = 16;
 template <bool NanAbove, class T>
 inline Tpx32u bitsAbove(const T* p, T threshold) {
     const auto t = splat<Vec<T>>(threshold);
-    // The processor compares unsigned lanes by their minimum, and so finds those that are not above.
-    constexpr bool inverted = std::is_floating_point_v<T> ? NanAbove : std::is_unsigned_v<T>;
+    constexpr bool inverted = std::is_floating_point_v<T> && NanAbove;
     const auto compare = [&](Vec<T> x) {
-        if constexpr (inverted)
+        if constexpr (inverted) {
             return x <= t;
-        else
+        } else if constexpr (std::is_unsigned_v<T>) {
+            // The processor compares signed lanes: both are lower by half of the range.
+            using Signed = Vec<std::make_signed_t<T>>;
+            const auto half = splat<Vec<T>>(T(kMax<T> / 2 + 1));
+            return bitsAs<Signed>(x ^ half) > bitsAs<Signed>(t ^ half);
+        } else {
             return x > t;
+        }
     };
-    using M = decltype(laneMask<T>(0));
+    using M = MaskOf<T>;
     Tpx32u bits;
     if constexpr (kLanes<T> == kGroup)
         bits = laneBits(M(compare(load(p))));
@@ -140,14 +160,16 @@ void packRow(const T* src, Tpx8u* dst, int offset, ptrdiff_t len, T threshold) {
             __builtin_memcpy(to + i * int(sizeof both), &both, sizeof both);
         }
     };
-    // Memory serves four pages side by side faster than one.
     constexpr ptrdiff_t kPage = 4096 / sizeof(T), kLine = kLineBytes / sizeof(T);
-    for (; len >= 4 * kPage; src += 4 * kPage, dst += 4 * kPage / kByteBits, len -= 4 * kPage)
-        for (ptrdiff_t i = 0; i < kPage; i += kLine)
-            for (ptrdiff_t at = i; at < i + 4 * kPage; at += kPage) {
-                fetchAhead(src + at, kLineBytes);
-                groups(src + at, dst + at / kByteBits, kLine / kGroup);
-            }
+    const ptrdiff_t bulk = walkFourStreams(len, kLine, kPage, 16 * kPage, [=](ptrdiff_t i, ptrdiff_t apart) {
+        for (ptrdiff_t at = i; at < i + 4 * apart; at += apart) {
+            fetchAhead(src + at, kLineBytes);
+            groups(src + at, dst + at / kByteBits, kLine / kGroup);
+        }
+    });
+    src += bulk;
+    dst += bulk / kByteBits;
+    len -= bulk;
     for (; len >= kGroup; src += kGroup, dst += kGroup / kByteBits, len -= kGroup) groups(src, dst, 1);
     if (len == 0) return;
     // The group that ends where the row ends; a padded one goes on behind it.

@@ -29,7 +29,7 @@ inline auto loadReal(const S* p) {
     } else if constexpr (std::is_signed_v<S>) {
         B32f x;
         __builtin_memcpy(&x, p, sizeof x);
-        return V32f(_mm256_cvtepi32_ps(bitsAs<__m256i>(x)));
+        return toFloat(x);
     } else {
         const V32u limit = splat<V32u>(1 << 24);
         return toFloat(Pair<V32s>{V32s(minOf(load(p), limit)), V32s(minOf(load(p + kLanes<S>), limit))});

@@ -66,8 +66,8 @@ TpxStatus convertScaled(const S* src, int srcStep, D* dst, int dstStep, TpxiSize
     };
     constexpr int kShiftedOut = 64, kValueBits = kBits<D> - std::is_signed_v<D>;
     if (n > ZeroAbove) return run(Shrink<S, D, tpxRoundTowardZero>{kShiftedOut});
-    // Beyond 2^24 floating point rounds 32-bit samples, but to no less than that: up to this factor they saturate
-    // all the same.
+    // Beyond 2^24 floating point rounds 32-bit samples, but to no less than that: up to this factor they
+    // saturate all the same.
     constexpr int kThroughReal = sizeof(S) == 4 ? 24 - kBits<D> : 0;
     if constexpr (kThroughReal > 0)
         if (n > 0 && n <= kThroughReal)

@@ -384,20 +384,30 @@ void checkChannels(Tpx8u flip) {
         ASSERT_EQ(byteOf(back, i), byteOf(pixels, i)) << Bytes << " bytes of " << N;
 }
 
+// The bits, put at any bit of a byte, among others.
 template <class T>
-void checkMask(Tpx32u bits) {
-    const auto mask = laneMask<T>(bits);
-    for (int i = 0; i < kLanes<T>; i++) ASSERT_EQ(mask[i], bits >> i & 1 ? -1 : 0) << bits << ", lane " << i;
+auto maskOf(Tpx32u bits, int first) {
+    const Tpx32u others = ~(0xFFFFu << first);
+    return LaneMask<T>(first)(bitsAs<V8u>(V32u{bits << first | others, ~0u, ~0u, ~0u}));
+}
+
+template <class T>
+void checkMask(Tpx32u bits, int first) {
+    const auto mask = maskOf<T>(bits, first);
+    for (int i = 0; i < kLanes<T>; i++)
+        ASSERT_EQ(mask[i], bits >> i & 1 ? -1 : 0) << bits << " from bit " << first << ", lane " << i;
 }
 
 TEST(Simd, MasksOfBits) {
     for (Tpx32u bits = 0; bits < 65536; bits++) {
-        checkMask<Tpx8u>(bits);
-        checkMask<Tpx16u>(bits);
-        checkMask<Tpx32f>(bits);
-        ASSERT_EQ(laneBits(laneMask<Tpx8u>(bits)), bits);
-        ASSERT_EQ(laneBits(Pair<V16s>{laneMask<Tpx16u>(bits), laneMask<Tpx16u>(bits >> 8)}), bits);
-        ASSERT_EQ(laneBits(Pair<B32f>{laneMask<Tpx32f>(bits), laneMask<Tpx32f>(bits >> 8)}), bits);
+        for (int first = 0; first < 8; first++) {
+            checkMask<Tpx8u>(bits, first);
+            checkMask<Tpx16u>(bits, first);
+            checkMask<Tpx32f>(bits, first);
+        }
+        ASSERT_EQ(laneBits(maskOf<Tpx8u>(bits, 0)), bits);
+        ASSERT_EQ(laneBits(Pair<V16s>{maskOf<Tpx16u>(bits, 0), maskOf<Tpx16u>(bits >> 8, 0)}), bits);
+        ASSERT_EQ(laneBits(Pair<B32f>{maskOf<Tpx32f>(bits, 0), maskOf<Tpx32f>(bits >> 8, 0)}), bits);
     }
 }
 
