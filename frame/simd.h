@@ -406,7 +406,8 @@ inline B32f join(Pair<V32s> a) {
 inline V32f toFloat(B32f a) { return V32f(_mm256_cvtepi32_ps(bitsAs<__m256i>(a))); }
 inline V32f toFloat(Pair<V32s> a) { return toFloat(join(a)); }
 inline V32f toFloat(Pair<V64f> a) {
-    return V32f(_mm256_insertf128_ps(_mm256_castps128_ps256(_mm256_cvtpd_ps(a.low)), _mm256_cvtpd_ps(a.high), 1));
+    return V32f(
+        _mm256_insertf128_ps(_mm256_castps128_ps256(_mm256_cvtpd_ps(a.low)), _mm256_cvtpd_ps(a.high), 1));
 }
 inline V64f toDouble(V32s a) { return V64f(_mm256_cvtepi32_pd(__m128i(a))); }
 inline V64f toDouble(V32u a) { // exact: half of the range lower, as signed
@@ -427,7 +428,8 @@ inline Pair<V32s> widen(V16s a) {
 }
 
 inline Pair<V64f> widen(V32f a) {
-    return {V64f(_mm256_cvtps_pd(_mm256_castps256_ps128(a))), V64f(_mm256_cvtps_pd(_mm256_extractf128_ps(a, 1)))};
+    return {V64f(_mm256_cvtps_pd(_mm256_castps256_ps128(a))),
+            V64f(_mm256_cvtps_pd(_mm256_extractf128_ps(a, 1)))};
 }
 
 // A register of To from as many samples of a type that is no wider and whose values it holds.
