@@ -147,6 +147,20 @@ struct Image {
         : src(src_), step(step_), width(roi.width), height(roi.height) {
         joinRows(width, height, ptrdiff_t(sizeof(T)) * C, step);
     }
+    // strip(image) for parts that stay in the cache while the channels are read one after another.
+    template <class Strip>
+    void forStrips(Strip strip) const {
+        constexpr ptrdiff_t kPixels = 524288 / (ptrdiff_t(sizeof(T)) * C);
+        const ptrdiff_t rows = width < kPixels ? kPixels / width : 1;
+        for (ptrdiff_t y = 0; y < height; y += rows)
+            for (ptrdiff_t x = 0; x < width; x += kPixels) {
+                Image part = *this;
+                part.src = addBytes(src, y * step) + x * C;
+                part.width = width - x < kPixels ? width - x : kPixels;
+                part.height = height - y < rows ? height - y : rows;
+                strip(part);
+            }
+    }
     // row(samples) for each row.
     template <class Row>
     void forRows(Row row) const {
@@ -320,9 +334,13 @@ struct DividedRanks {
     }
 };
 
-// Counts a channel by the ranks of its samples. As with bytes, neighbours are counted in tables of their own;
-// these have an entry for each rank. Where there are too many levels for that, samples go straight to their
-// bins.
+void clearBins(Counter* hist, ptrdiff_t bins) {
+    for (ptrdiff_t k = 0; k < bins; k++) hist[k] = 0;
+}
+
+// Counts a channel on by the ranks of its samples. As with bytes, neighbours are counted in tables of their
+// own; these have an entry for each rank. Where there are too many levels for that, samples go straight to
+// their bins.
 template <class Rank>
 void countRanks(Channel channel, const Rank& rank, ptrdiff_t nLevels, Counter* hist) {
     constexpr ptrdiff_t kEntries = 512;
@@ -341,10 +359,9 @@ void countRanks(Channel channel, const Rank& rank, ptrdiff_t nLevels, Counter* h
                 for (int j = 0; j < 8; j++) counts[j % kTables][ranks[j]]++;
             }
         for (ptrdiff_t k = 0; k < bins; k++)
-            hist[k] = counts[0][k + 1] + counts[1][k + 1] + counts[2][k + 1] + counts[3][k + 1];
+            hist[k] += counts[0][k + 1] + counts[1][k + 1] + counts[2][k + 1] + counts[3][k + 1];
         return;
     }
-    for (ptrdiff_t k = 0; k < bins; k++) hist[k] = 0;
     while (const ptrdiff_t len = channel.next(channel, block))
         for (ptrdiff_t i = 0; i < len; i += 8) {
             rank(load(block + i), ranks);
@@ -369,11 +386,17 @@ void countImage(const Image<Tpx8u, C>& image, const Spec& spec, Counter* const* 
 template <int C>
 void countImage(const Image<Tpx32f, C>& image, const Spec& spec, Counter* const* hist, Tpx8u*,
                 uint64_t pixels) {
+    Ranking rankings[C];
     for (int c = 0; c < C; c++) {
-        const auto levels = levelsOf<Tpx32f>(spec, c);
-        withRanks(levels, spec.nLevels[c], pixels,
-                  [&](const auto& rank) { countRanks(channelOf(image, c), rank, spec.nLevels[c], hist[c]); });
+        clearBins(hist[c], ptrdiff_t(spec.nLevels[c]) - 1);
+        rankings[c] = rankingOf(levelsOf<Tpx32f>(spec, c), spec.nLevels[c], pixels);
     }
+    image.forStrips([&](const Image<Tpx32f, C>& strip) {
+        for (int c = 0; c < C; c++)
+            withRanks(rankings[c], levelsOf<Tpx32f>(spec, c), spec.nLevels[c], [&](const auto& rank) {
+                countRanks(channelOf(strip, c), rank, spec.nLevels[c], hist[c]);
+            });
+    });
 }
 
 // A channel of a small image of 16-bit samples; false if it is better counted in a table.
@@ -386,6 +409,7 @@ bool countSmall(const Image<T, C>& image, int c, const Spec& spec, Counter* hist
     const ptrdiff_t last = ptrdiff_t(spec.nLevels[c]) - 1;
     const Tpx32s lowest = levelAt(levels, 0), highest = levelAt(levels, last);
     if (spec.uniform && (Tpx64s(highest) - lowest) % last == 0) {
+        clearBins(hist, last);
         const DividedRanks rank = {Tpx32f(lowest), Tpx32f(highest), spec.step[c], Tpx32s(last)};
         countRanks(channelOf(image, c), rank, last + 1, hist);
         return true;
@@ -398,6 +422,7 @@ bool countSmall(const Image<T, C>& image, int c, const Spec& spec, Counter* hist
                         [=](ptrdiff_t k) { return Tpx32f(entryOf<T>(levelAt(levels, k)) + kMin<T>); });
     const Ranking ranking = rankingOf(real, last + 1, pixels);
     if (ranking == Ranking::Halved && pixels > worth / 8) return false;
+    clearBins(hist, last);
     withRanks(ranking, real, last + 1,
               [&](const auto& rank) { countRanks(channelOf(image, c), rank, last + 1, hist); });
     return true;

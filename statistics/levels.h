@@ -171,9 +171,5 @@ inline void withRanks(Ranking ranking, const Tpx32f* levels, ptrdiff_t count, Bo
             return body(HalvedRanks(levels, count));
     }
 }
-template <class Body>
-inline void withRanks(const Tpx32f* levels, ptrdiff_t count, uint64_t samples, Body body) {
-    withRanks(rankingOf(levels, count, samples), levels, count, body);
-}
 
 } // namespace tpx

@@ -203,6 +203,17 @@ TYPED_TEST(Histogram, EverySizeAndNumberOfLevels) {
                 }
 }
 
+// Longer rows, and more of them, than are read at a time.
+TEST(HistogramFloats, LargeImages) {
+    for (const auto& form : forms<Tpx32f>())
+        for (const TpxiSize size : {TpxiSize{70000, 2}, {301, 450}, {131072 * 2, 1}}) {
+            const auto levels = someLevels<Tpx32f>(form.channels, 7);
+            Prepared p = prepare(form.type, levels);
+            GuardedImage<Tpx32f> image(size.width, size.height, form.channels, {20, Edge::End, 0});
+            expectCounts(form, image.randomise(3), p, levels);
+        }
+}
+
 TEST(HistogramBytes, EverySample) {
     GuardedImage<Tpx8u> image(256, 256, 1);
     image.fill([](int x, int y, int) { return x < y ? x : y; });

@@ -45,7 +45,7 @@ void expectRanks(const std::vector<float>& levels, bool rise, uint64_t calls = 1
                     << samples[i + size_t(l)] << " among " << n;
         }
     };
-    withRanks(at, n, calls, check);
+    withRanks(rankingOf(at, n, calls), at, n, check);
     if (!rise) return;
     check(CountedRanks{at, n});
     check(HalvedRanks(at, n));
