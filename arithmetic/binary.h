@@ -8,7 +8,7 @@
 #pragma once
 
 #include "frame/entry.h"
-#include "frame/memory_runs.h"
+#include "frame/pointwise.h"
 #include "frame/real.h"
 
 namespace tpx {
@@ -88,6 +88,11 @@ inline void withScaledRule(int n, Body body) {
         using Lanes = ExactLanes<decltype(Op::exact(Vec<T>{}, Vec<T>{}))>;
         const HalfEven<typename Lanes::type> halfEven(n);
         body([halfEven](Vec<T> a, Vec<T> b) { return Lanes::template map<T>(Op::exact(a, b), halfEven); });
+    } else if (n == -1) {
+        body([](Vec<T> a, Vec<T> b) {
+            const Vec<T> s = Op::saturated(a, b);
+            return addSat(s, s);
+        });
     } else {
         const int k = n < -kBits<T> ? kBits<T> : -n;
         body([k](Vec<T> a, Vec<T> b) { return grow<T>(Op::saturated(a, b), k); });
@@ -96,21 +101,8 @@ inline void withScaledRule(int n, Body body) {
 
 // ---- Runs and images ------------------------------------------------------------------------------------
 
-// Above this traffic in bytes (reads and writes) the cache's size is asked for.
-inline constexpr uint64_t kBinaryFloor = 4194304;
-
 // From this many samples on a fill with zero may go past the caches.
 inline constexpr uint64_t kZeroFillFloor = 0x80000;
-
-template <class T>
-struct BinaryArgs {
-    const T* src1;
-    ptrdiff_t src1Step;
-    const T* src2;
-    ptrdiff_t src2Step;
-    T* dst;
-    ptrdiff_t dstStep;
-};
 
 // What a factor from kZeroFrom on leaves; no source is read.
 template <bool KeepAlpha, class T>
@@ -131,35 +123,20 @@ void fillZero(T* dst, ptrdiff_t dstStep, ptrdiff_t len, ptrdiff_t height) {
 
 // The work, once the arguments have passed their checks. `len` is in samples.
 template <class Op, bool KeepAlpha, class T>
-TpxStatus binaryRows(const BinaryArgs<T>& a, ptrdiff_t len, ptrdiff_t height, int n) {
+TpxStatus binaryRows(const TwoImages<T>& a, ptrdiff_t len, ptrdiff_t height, int n) {
     if constexpr (!std::is_same_v<T, float>) {
         if (n >= Op::template kZeroFrom<T>) {
             fillZero<KeepAlpha>(a.dst, a.dstStep, len, height);
             return tpxOk;
         }
     }
-    joinRows(len, height, sizeof(T), a.src1Step, a.src2Step, a.dstStep);
-    const uint64_t traffic = 3 * uint64_t(len) * uint64_t(height) * sizeof(T);
-    const bool inPlace = a.src1 == a.dst || a.src2 == a.dst; // its lines are in the cache already
-    const bool stream = !KeepAlpha && !inPlace && exceedsCache(traffic, kBinaryFloor);
-    withScaledRule<Op, T>(n, [&](auto rule) {
-        walkRows(a.src1, a.src1Step, a.src2, a.src2Step, a.dst, a.dstStep, height,
-                 [&](const T* x, const T* y, T* d) {
-                     if constexpr (KeepAlpha)
-                         applyColours<T>(d, len, rule, x, y);
-                     else if (stream)
-                         streamRun(d, len, rule, x, y);
-                     else
-                         applyRun(d, len, rule, x, y);
-                 });
-    });
-    if (stream) streamFence();
+    withScaledRule<Op, T>(n, [&](auto rule) { combineImages<KeepAlpha, true>(a, len, height, rule); });
     return tpxOk;
 }
 
 // The short forms. A size is in pixels.
 template <class Op, Layout L, class T>
-TpxStatus binary(const BinaryArgs<T>& a, TpxiSize roi, int n = 0) {
+TpxStatus binary(const TwoImages<T>& a, TpxiSize roi, int n = 0) {
     // Layouts of several channels look at the width before everything else.
     if ((L == Layout::C3 || L == Layout::C4) && roi.width < 1) return tpxErrSize;
     if (anyNull(a.src1, a.src2, a.dst)) return tpxErrNullPointer;
@@ -189,7 +166,7 @@ constexpr TpxSizeL chunkOf(int channels) {
 // status of a chunk ends it, else the last chunk's status is returned. With nothing to walk that is tpxOk,
 // whatever the pointers.
 template <class Op, Layout L, class T>
-TpxStatus binaryLong(const BinaryArgs<T>& a, TpxiSizeL roi, int n = 0) {
+TpxStatus binaryLong(const TwoImages<T>& a, TpxiSizeL roi, int n = 0) {
     constexpr int channels = channelsOf(L);
     if (fitsShortForm<T>(roi, channels, a.src1Step, a.src2Step, a.dstStep))
         return binary<Op, L, T>(a, {int(roi.width), int(roi.height)}, n);
@@ -197,9 +174,9 @@ TpxStatus binaryLong(const BinaryArgs<T>& a, TpxiSizeL roi, int n = 0) {
     if (anyNull(a.src1, a.src2, a.dst)) return tpxErrNullPointer;
     constexpr TpxSizeL chunk = chunkOf<T>(channels);
     TpxStatus status = tpxOk;
-    BinaryArgs<T> row = a;
+    TwoImages<T> row = a;
     for (TpxSizeL y = 0; y < roi.height; y++) {
-        BinaryArgs<T> part = row;
+        TwoImages<T> part = row;
         for (TpxSizeL rest = roi.width; rest > 0; rest -= chunk) {
             status = binary<Op, L, T>(part, {int(rest < chunk ? rest : chunk), 1}, n);
             if (status < 0) return status;

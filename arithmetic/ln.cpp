@@ -44,7 +44,7 @@ struct FloatLogarithm : LogarithmWarning<float> {
 } // namespace
 
 struct Ln {
-    static constexpr bool kWholeSteps = false;
+    static constexpr bool kWholeSteps = false, kCostly = true;
 
     template <class T, class Body>
     static TpxStatus withRule(int n, Body body) {

@@ -3,6 +3,7 @@
 // An operation is a class with
 //   kWholeSteps                          whether steps are rounded down to whole samples
 //   withRule<T>(scaleFactor, body)       picks the rule of the call's regime and returns body(rule)
+//   kCostly                              optional: images of bytes had better go through a table of the results
 // A rule maps a register of samples. It may also have
 //   inspect(row, len)                    called on each source row before it is mapped
 //   status()                             the call's warning, asked after the last row
@@ -10,11 +11,34 @@
 
 #include "frame/entry.h"
 #include "frame/memory_runs.h"
+#include "frame/table_runs.h"
 
 namespace tpx {
 
 // Above this traffic in bytes (reads and writes) the cache's size is asked for.
 inline constexpr uint64_t kUnaryFloor = 4194304;
+
+template <class Rule>
+inline TpxStatus statusOf(const Rule& rule) {
+    if constexpr (requires { rule.status(); })
+        return rule.status();
+    else
+        return tpxOk;
+}
+
+// From so many samples on a table of all results is worth its making.
+inline constexpr uint64_t kTableFloor = 1024;
+
+// What a rule makes of every byte.
+struct ByteResults {
+    Tpx8u at[256];
+
+    template <class Rule>
+    explicit ByteResults(const Rule& rule) {
+        for (int i = 0; i < 256; i++) at[i] = Tpx8u(i);
+        mapRun(at, at, 256, rule);
+    }
+};
 
 template <class Op, bool KeepAlpha, class T>
 TpxStatus unaryRows(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, TpxiSize roi, int channels,
@@ -37,11 +61,19 @@ TpxStatus unaryRows(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, 
                 mapRow(s, d);
             });
         };
+        const uint64_t samples = uint64_t(len) * uint64_t(height);
+        if constexpr (sizeof(T) == 1 && !KeepAlpha && requires { Op::kCostly; })
+            if (samples >= kTableFloor) {
+                const ByteResults results(rule);
+                const Tables tables{{results.at}, ~Tpx64u(0)};
+                walk([&](const T* s, T* d) { lookupRow<Layout::C1, T, 1>(s, d, len, tables); });
+                return statusOf(rule);
+            }
         if constexpr (KeepAlpha) {
             walk([&](const T* s, T* d) { mapColours<T>(s, d, len, rule); });
         } else {
             // In place the line is in the cache already.
-            const uint64_t traffic = 2 * uint64_t(len) * uint64_t(height) * sizeof(T);
+            const uint64_t traffic = 2 * samples * sizeof(T);
             if (src != dst && exceedsCache(traffic, kUnaryFloor)) {
                 walk([&](const T* s, T* d) { mapRunStreaming(s, d, len, rule); });
                 streamFence();
@@ -49,10 +81,7 @@ TpxStatus unaryRows(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, 
                 walk([&](const T* s, T* d) { mapRun(s, d, len, rule); });
             }
         }
-        if constexpr (requires { rule.status(); })
-            return rule.status();
-        else
-            return tpxOk;
+        return statusOf(rule);
     });
 }
 

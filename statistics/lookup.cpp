@@ -1,5 +1,5 @@
 // tpxiLUT: samples through functions of levels, from the tables of a spec or by searches in its levels.
-#include "statistics/lookup.h"
+#include "frame/table_runs.h"
 
 #include "frame/entry.h"
 #include "frame/pixel_runs.h"

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "tests/support/checks.h"
-#include "tests/support/guarded.h"
+#include "tests/support/samples.h"
 
 namespace {
 
@@ -75,17 +75,6 @@ template <class Names>
 class CopySet : public testing::Test {};
 using AllNames = testing::Types<Names8u, Names16u, Names16s, Names32s, Names32f>;
 TYPED_TEST_SUITE(CopySet, AllNames);
-
-template <class T>
-GuardedImage<T>& randomBits(GuardedImage<T>& image, unsigned seed) {
-    std::mt19937 random(seed);
-    return image.fill([&](int, int, int) {
-        const uint32_t bits = uint32_t(random());
-        T v;
-        std::memcpy(&v, &bits, sizeof v);
-        return v;
-    });
-}
 
 TYPED_TEST(CopySet, CopyEveryShape) {
     using T = typename TypeParam::T;

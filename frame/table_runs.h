@@ -1,4 +1,4 @@
-// Samples replaced by the entries of tables: palettes, and lookup tables between levels of integers.
+// Samples replaced by the entries of tables.
 #pragma once
 
 #include "frame/walk.h"
