@@ -56,7 +56,7 @@ double height(const Section& section) {
 }
 
 // Functions that stand beside a copy and the scalar form only: a line each, a bar for a small, a middle and
-// the largest image.
+// the largest image. Variants, which are not raced at the smallest size, are left to the table.
 Section bySize(const std::string& group, const std::vector<Row>& rows) {
     const std::vector<Series> sizes = {
         {"64x64", "#9ecae1"}, {"1920x1080", "#3182bd"}, {"beyond the cache", "#08306b"}};
@@ -66,8 +66,14 @@ Section bySize(const std::string& group, const std::vector<Row>& rows) {
                      group + ": beside the plain scalar form"},
                     {sizes, sizes},
                     {}};
+    const auto isLeading = [&](const std::string& function) {
+        return std::any_of(rows.begin(), rows.end(), [&](const Row& row) {
+            return row.job.function == function && row.job.size == sizes[0].title;
+        });
+    };
     for (const Row& row : rows) {
         const std::string& size = row.job.size;
+        if (!isLeading(row.job.function)) continue;
         if (section.lines.empty() || section.lines.back().label != row.job.function)
             section.lines.push_back({row.job.function, {}});
         const size_t series = size == sizes[0].title       ? 0
@@ -196,8 +202,9 @@ void writeScript(std::ostream& out, const std::string& png, const std::string& s
             return name == kCopy || name == kScalar || name == kMemset || name == kRead;
         });
         sections.push_back(others.empty() ? bySize(group, some) : byYardstick(group, some, others));
-        total += kHead + height(sections.back()) + kFoot;
+        if (sections.back().lines.empty()) sections.pop_back();
     }
+    for (const Section& section : sections) total += kHead + height(section) + kFoot;
     out << "set terminal pngcairo size " << kWidth << "," << total
         << " font 'DejaVu Sans,9' background rgb '#ffffff'\n"
         << "set output '" << png << "'\n"

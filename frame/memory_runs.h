@@ -18,30 +18,6 @@ void copyRowBackward(void* dst, const void* src, int64_t bytes);
 // Past the caches, line by line. The ranges do not overlap. The caller fences once, after its last row.
 void copyRowStreaming(void* dst, const void* src, int64_t bytes);
 
-// Asks for the lines that will be read some turns after these bytes.
-inline void fetchAhead(const void* p, int bytes) {
-    constexpr ptrdiff_t kAhead = 512;
-    for (int line = 0; line < bytes; line += kLineBytes)
-        _mm_prefetch(static_cast<const char*>(p) + kAhead + line, _MM_HINT_T0);
-}
-
-// Memory serves several streams faster than one: turn(i, apart) works at the four places i, i + apart, ... so
-// that most of a long run is covered, and the number of samples that have been is returned. A stream goes on
-// for many pages, since the processor has to find out anew what one that begins will read. Lengths are in
-// samples: `page` of one page, `longest` of one stream, both whole turns.
-template <class Turn>
-inline ptrdiff_t walkFourStreams(ptrdiff_t len, ptrdiff_t turnLength, ptrdiff_t page, ptrdiff_t longest,
-                                 Turn turn) {
-    ptrdiff_t i = 0;
-    while (len - i >= 4 * page) {
-        const ptrdiff_t quarter = (len - i) / 4 / turnLength * turnLength;
-        const ptrdiff_t apart = quarter < longest ? quarter : longest;
-        for (ptrdiff_t j = 0; j < apart; j += turnLength) turn(i + j, apart);
-        i += 4 * apart;
-    }
-    return i;
-}
-
 // writeRun (frame/runs.h) past the caches: dst[i...] = at(i, k), where k is the register's place in its group
 // of G, as in mapGroups. fetch(i, n) asks for what n samples from i on will need, plain(i, n) writes them into
 // the caches. The destination is no source. The caller fences once, after its last row.

@@ -23,12 +23,6 @@ using Block = Several<V8u, N>;
 template <class T>
 using ByteLike = std::conditional_t<std::is_const_v<T>, const Tpx8u, Tpx8u>;
 
-// Asks for the line some way behind an address that is read now.
-inline void fetchAhead(const Tpx8u* p) {
-    constexpr uintptr_t kAhead = 512;
-    _mm_prefetch(reinterpret_cast<const char*>(reinterpret_cast<uintptr_t>(p) + kAhead), _MM_HINT_T0);
-}
-
 // ---- Sides of a run: an image as a source or a destination of blocks ------------------------------------
 
 // Pixels of N samples; a block is Pixels of them. Of a single channel of theirs, which the pointer addresses,
@@ -80,9 +74,7 @@ struct Interleaved {
     }
 
     // Asks for what so many pixels will need soon; the address may lie outside the image.
-    void fetch(ptrdiff_t x, ptrdiff_t pixels) const {
-        for (ptrdiff_t i = 0; i < pixels * kPixel; i += kLineBytes) fetchAhead(p + x * kPixel + i);
-    }
+    void fetch(ptrdiff_t x, ptrdiff_t pixels) const { fetchAhead(p + x * kPixel, pixels * kPixel); }
 
     // Fewer pixels than a block, from or to memory that holds one.
     static Writable over(Tpx8u* memory, ptrdiff_t) {
@@ -147,9 +139,7 @@ struct Planes {
     }
 
     void fetch(ptrdiff_t x, ptrdiff_t pixels) const {
-        for (const auto* plane : p)
-            for (ptrdiff_t i = 0; i < pixels; i += kLineBytes / ptrdiff_t(sizeof(T)))
-                fetchAhead(plane + (x + i) * ptrdiff_t(sizeof(T)));
+        for (const auto* plane : p) fetchAhead(plane + x * ptrdiff_t(sizeof(T)), pixels * ptrdiff_t(sizeof(T)));
     }
 
     static Writable over(Tpx8u* memory, ptrdiff_t bytesOfChannel) {
@@ -198,15 +188,19 @@ inline void mapPixelRun(ptrdiff_t pixels, Rule rule, Dst dst, Src... src) {
     const ptrdiff_t last = pixels - P;
     const auto end = rule(src.load(last)...);
     ptrdiff_t x = 0;
-    if constexpr (Dst::kRegisters == 1)
-        for (; x + 3 * P < last; x += 4 * P) {
+    for (; x + 3 * P < last; x += 4 * P) {
+        (..., src.fetch(x, 4 * P));
+        if constexpr (Dst::kRegisters == 1) {
             const auto a = rule(src.load(x)...), b = rule(src.load(x + P)...);
             const auto c = rule(src.load(x + 2 * P)...), d = rule(src.load(x + 3 * P)...);
             dst.store(x, a);
             dst.store(x + P, b);
             dst.store(x + 2 * P, c);
             dst.store(x + 3 * P, d);
+        } else {
+            for (int i = 0; i < 4; i++) dst.store(x + i * P, rule(src.load(x + i * P)...));
         }
+    }
     for (; x < last; x += P) dst.store(x, rule(src.load(x)...));
     dst.store(last, end);
 }
@@ -216,23 +210,24 @@ inline void mapPixelRun(ptrdiff_t pixels, Rule rule, Dst dst, Src... src) {
 template <class Rule, class Dst, class... Src>
 inline void mapPixelRunStreaming(ptrdiff_t pixels, Rule rule, Dst dst, Src... src) {
     constexpr ptrdiff_t P = Dst::kPixels, kTurn = kLineBytes / kBlockBytes * P;
-    constexpr ptrdiff_t kPlace = 4096 / kBlockBytes * P;
-    const auto turns = [&]<int Places>(std::integral_constant<int, Places>, ptrdiff_t at) {
+    constexpr ptrdiff_t kPage = 4096 / kBlockBytes * P;
+    const auto turns = [&]<int Places>(std::integral_constant<int, Places>, ptrdiff_t at, ptrdiff_t apart) {
         alignas(kLineBytes) Tpx8u lines[Places][Dst::kRegisters * kLineBytes];
-        for (int place = 0; place < Places; place++) (..., src.fetch(at + place * kPlace, kTurn));
+        for (int place = 0; place < Places; place++) (..., src.fetch(at + place * apart, kTurn));
         for (int place = 0; place < Places; place++)
             for (ptrdiff_t i = 0; i < kTurn; i += P)
-                Dst::over(lines[place], kLineBytes).store(i, rule(src.load(at + place * kPlace + i)...));
-        for (int place = 0; place < Places; place++) dst.stream(at + place * kPlace, lines[place], kLineBytes);
+                Dst::over(lines[place], kLineBytes).store(i, rule(src.load(at + place * apart + i)...));
+        for (int place = 0; place < Places; place++) dst.stream(at + place * apart, lines[place], kLineBytes);
     };
 
     const ptrdiff_t head = dst.pixelsToLine();
     if (head == kLineBytes || pixels < head + kTurn) return mapPixelRun(pixels, rule, dst, src...);
     if (head) mapPixelRun(head, rule, dst, src...);
     ptrdiff_t x = head;
-    for (; x + 4 * kPlace <= pixels; x += 4 * kPlace)
-        for (ptrdiff_t i = 0; i < kPlace; i += kTurn) turns(std::integral_constant<int, 4>{}, x + i);
-    for (; x + kTurn <= pixels; x += kTurn) turns(std::integral_constant<int, 1>{}, x);
+    x += walkFourStreams(pixels - head, kTurn, kPage, 16 * kPage, [&](ptrdiff_t at, ptrdiff_t apart) {
+        turns(std::integral_constant<int, 4>{}, head + at, apart);
+    });
+    for (; x + kTurn <= pixels; x += kTurn) turns(std::integral_constant<int, 1>{}, x, 0);
     if (x < pixels) mapPixelRun(pixels - x, rule, dst.from(x), src.from(x)...);
 }
 

@@ -60,10 +60,16 @@ inline ptrdiff_t samplesToBoundary(const T* p) {
     return ptrdiff_t((-reinterpret_cast<uintptr_t>(p) & (sizeof(Vec<T>) - 1)) / sizeof(T));
 }
 
+struct NoFetch {
+    void operator()(ptrdiff_t, ptrdiff_t) const {}
+};
+
 // dst[i...] = at(i), a register from sample i on; whole() makes the register of a run that does not fill one.
 // Registers start at `begin`, the first sample on a boundary or 0, and the head is cut if that is not 0.
-template <class T, class At, class Whole>
-[[gnu::always_inline]] inline void writeRun(T* dst, ptrdiff_t len, ptrdiff_t begin, At at, Whole whole) {
+// fetch(i, n) asks for what comes some way behind n samples; none is worth it where much is written of little.
+template <class T, class At, class Whole, class Fetch = NoFetch>
+[[gnu::always_inline]] inline void writeRun(T* dst, ptrdiff_t len, ptrdiff_t begin, At at, Whole whole,
+                                            Fetch fetch = {}) {
     constexpr ptrdiff_t L = kLanes<T>;
     if (len < L) {
         const Vec<T> v = whole();
@@ -76,6 +82,7 @@ template <class T, class At, class Whole>
     if (cutTail) tail = at(len - L);
     ptrdiff_t i = begin;
     for (; i + 4 * L <= len; i += 4 * L) {
+        fetch(i, 4 * L);
         const Vec<T> a = at(i), b = at(i + L), c = at(i + 2 * L), d = at(i + 3 * L);
         store(dst + i, a);
         store(dst + i + L, b);
@@ -92,7 +99,8 @@ template <class T, class Rule, class... Src>
 inline void applyRun(T* dst, ptrdiff_t len, Rule&& rule, const Src*... src) {
     writeRun(
         dst, len, samplesToBoundary(dst), [&](ptrdiff_t i) { return rule(load(src + i)...); },
-        [&] { return rule(loadShort(src, len)...); });
+        [&] { return rule(loadShort(src, len)...); },
+        [&](ptrdiff_t i, ptrdiff_t n) { (fetchAhead(src + i, n * ptrdiff_t(sizeof(T))), ...); });
 }
 template <class T, class Rule>
 inline void mapRun(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
@@ -105,7 +113,8 @@ template <class T, class R, class Rule, class... Src>
 inline void applyColours(R* dst, ptrdiff_t len, Rule&& rule, const Src*... src) {
     writeRun(
         dst, len, 0, [&](ptrdiff_t i) { return keepAlpha<T>(load(dst + i), rule(load(src + i)...)); },
-        [&] { return keepAlpha<T>(loadShort(dst, len), rule(loadShort(src, len)...)); });
+        [&] { return keepAlpha<T>(loadShort(dst, len), rule(loadShort(src, len)...)); },
+        [&](ptrdiff_t i, ptrdiff_t n) { (fetchAhead(src + i, n * ptrdiff_t(sizeof(R))), ...); });
 }
 template <class T, class R, class Rule>
 inline void mapColours(const R* src, R* dst, ptrdiff_t len, Rule&& rule) {
@@ -140,7 +149,10 @@ template <int G, class T, class Rule>
     T tail[G * L];
     group(src + len - G * L, tail);
     ptrdiff_t i = 0;
-    for (; i + G * L <= len; i += G * L) group(src + i, dst + i);
+    for (; i + G * L <= len; i += G * L) {
+        fetchAhead(src + i, G * L * ptrdiff_t(sizeof(T)));
+        group(src + i, dst + i);
+    }
     if (i < len) __builtin_memcpy(dst + len - G * L, tail, sizeof tail);
 }
 

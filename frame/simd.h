@@ -81,6 +81,18 @@ inline void store(T* p, Vec<T> v) {
     __builtin_memcpy(p, &v, sizeof v);
 }
 
+// A line of the caches. Lines that go past them are written whole, on their own boundaries: a half-written one
+// costs a read of memory.
+inline constexpr ptrdiff_t kLineBytes = 64;
+
+// Asks for the lines that will be read some turns after these bytes; they may lie outside the image. The
+// processor by itself is late, above all with several sources.
+inline void fetchAhead(const void* p, ptrdiff_t bytes) {
+    constexpr ptrdiff_t kAhead = 512;
+    for (ptrdiff_t i = kAhead; i < kAhead + bytes; i += kLineBytes)
+        _mm_prefetch(reinterpret_cast<const char*>(reinterpret_cast<uintptr_t>(p) + uintptr_t(i)), _MM_HINT_T0);
+}
+
 // One value in every lane.
 template <class V>
 inline V splat(LaneOf<V> value) {

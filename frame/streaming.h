@@ -9,9 +9,6 @@
 
 namespace tpx {
 
-// Non-temporal lines are written whole, on their own boundaries: a half-written one costs a read of memory.
-inline constexpr ptrdiff_t kLineBytes = 64;
-
 // Whether `bytes` go beyond the largest cache. Up to and including the floor the caches are not asked for, to
 // keep the query off the path of ordinary work; an unknown size, or lines that the kernels are not made for,
 // keep the result in the caches.
@@ -47,6 +44,23 @@ inline void streamLines(Tpx8u* dst, const Tpx8u* lines, ptrdiff_t bytes) {
         __builtin_memcpy(&v, lines + i, sizeof v);
         _mm256_stream_ps(reinterpret_cast<float*>(dst + i), v);
     }
+}
+
+// Memory serves several streams faster than one: turn(i, apart) works at the four places i, i + apart, ... so
+// that most of a long run is covered, and the number of samples that have been is returned. A stream goes on
+// for many pages, since the processor has to find out anew what one that begins will read. Lengths are in
+// samples: `page` of one page, `longest` of one stream, both whole turns.
+template <class Turn>
+inline ptrdiff_t walkFourStreams(ptrdiff_t len, ptrdiff_t turnLength, ptrdiff_t page, ptrdiff_t longest,
+                                 Turn turn) {
+    ptrdiff_t i = 0;
+    while (len - i >= 4 * page) {
+        const ptrdiff_t quarter = (len - i) / 4 / turnLength * turnLength;
+        const ptrdiff_t apart = quarter < longest ? quarter : longest;
+        for (ptrdiff_t j = 0; j < apart; j += turnLength) turn(i + j, apart);
+        i += 4 * apart;
+    }
+    return i;
 }
 
 // Ends a call that has streamed, so that the result is visible to whoever synchronises with the caller.

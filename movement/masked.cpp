@@ -28,7 +28,7 @@ struct SelectPixels {
         for (int k = 0; k < N; k++) {
             V8u keep = N * sizeof(T) == 1 ? zero : shuffleBytes(zero, load(kMaskPlaces<N, T>.pixel[k]));
             if (L == Layout::AC4) keep |= bitsAs<V8u>(load(kAlphaMask<T>.words));
-            b.at[k] = (old.at[k] & keep) | (a.at[k] & ~keep);
+            b.at[k] = select(V8s(keep), old.at[k], a.at[k]);
         }
         return b;
     }
