@@ -6,6 +6,7 @@
 #pragma once
 
 #include <immintrin.h>
+#include <stddef.h>
 
 #include <type_traits>
 
