@@ -154,23 +154,22 @@ void packRow(const T* src, Tpx8u* dst, int offset, ptrdiff_t len, T threshold) {
         src += head;
         len -= head;
     }
-    const auto groups = [=](const T* from, Tpx8u* to, int count) {
-        for (int i = 0; i < count; i++) {
-            const Tpx16u both = Tpx16u(above(from + i * kGroup));
-            __builtin_memcpy(to + i * int(sizeof both), &both, sizeof both);
-        }
+    const auto group = [=](const T* from, Tpx8u* to) {
+        const Tpx16u both = Tpx16u(above(from));
+        __builtin_memcpy(to, &both, sizeof both);
     };
     constexpr ptrdiff_t kPage = 4096 / sizeof(T), kLine = kLineBytes / sizeof(T);
     const ptrdiff_t bulk = walkFourStreams(len, kLine, kPage, 16 * kPage, [=](ptrdiff_t i, ptrdiff_t apart) {
         for (ptrdiff_t at = i; at < i + 4 * apart; at += apart) {
             fetchAhead(src + at, kLineBytes);
-            groups(src + at, dst + at / kByteBits, kLine / kGroup);
+#pragma GCC unroll 4
+            for (ptrdiff_t j = at; j < at + kLine; j += kGroup) group(src + j, dst + j / kByteBits);
         }
     });
     src += bulk;
     dst += bulk / kByteBits;
     len -= bulk;
-    for (; len >= kGroup; src += kGroup, dst += kGroup / kByteBits, len -= kGroup) groups(src, dst, 1);
+    for (; len >= kGroup; src += kGroup, dst += kGroup / kByteBits, len -= kGroup) group(src, dst);
     if (len == 0) return;
     // The group that ends where the row ends; a padded one goes on behind it.
     Tpx32u rest = isShort ? above(padded) >> (src - padded) : above(src + len - kGroup) >> (kGroup - len);
