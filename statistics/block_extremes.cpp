@@ -5,33 +5,16 @@
 // nothing, so cut rows, columns and registers overlap their neighbours.
 #include "frame/entry.h"
 #include "frame/memory_runs.h"
-#include "frame/real.h"
+#include "statistics/extremes.h"
 
 namespace tpx {
 namespace {
 
-// ---- Rules: NaN is passed over, since what has been folded so far stays where samples do not compare -----
-
-template <class T>
-struct Smallest {
-    static Vec<T> none() {
-        if constexpr (std::is_same_v<T, Tpx32f>)
-            return splat<V32f>(__builtin_inff());
-        else
-            return splat<Vec<T>>(kMax<T>);
-    }
-    static Vec<T> fold(Vec<T> x, Vec<T> folded) { return minOf(x, folded); }
-};
-template <class T>
-struct Largest {
-    static Vec<T> none() {
-        if constexpr (std::is_same_v<T, Tpx32f>)
-            return splat<V32f>(-__builtin_inff());
-        else
-            return splat<Vec<T>>(kMin<T>);
-    }
-    static Vec<T> fold(Vec<T> x, Vec<T> folded) { return maxOf(x, folded); }
-};
+// What any sample takes the place of.
+template <class Side, class T>
+Vec<T> noneOf() {
+    return splat<Vec<T>>(Side::template kStart<T>);
+}
 
 // ---- Pairs of registers to one, each of whose lanes is folded from two -----------------------------------
 
@@ -40,14 +23,14 @@ template <class Side, class T>
 Vec<T> foldNeighbours(Vec<T> a, Vec<T> b) {
     if constexpr (std::is_same_v<T, Tpx32f>) {
         const __m256 low = _mm256_permute2f128_ps(a, b, 0x20), high = _mm256_permute2f128_ps(a, b, 0x31);
-        return Side::fold(V32f(_mm256_shuffle_ps(low, high, 0x88)), V32f(_mm256_shuffle_ps(low, high, 0xDD)));
+        return Side::pick(V32f(_mm256_shuffle_ps(low, high, 0x88)), V32f(_mm256_shuffle_ps(low, high, 0xDD)));
     } else if constexpr (sizeof(T) == 2) {
         const V32u x = bitsAs<V32u>(a), y = bitsAs<V32u>(b);
-        return Side::fold(bitsAs<Vec<T>>(narrow<Tpx16u>(Pair<V32s>{V32s(x & 0xFFFF), V32s(y & 0xFFFF)})),
+        return Side::pick(bitsAs<Vec<T>>(narrow<Tpx16u>(Pair<V32s>{V32s(x & 0xFFFF), V32s(y & 0xFFFF)})),
                           bitsAs<Vec<T>>(narrow<Tpx16u>(Pair<V32s>{V32s(x >> 16), V32s(y >> 16)})));
     } else {
         const V16u x = V16u(a), y = V16u(b);
-        return Side::fold(narrow<Tpx8u>(Pair<V16s>{V16s(x & 0xFF), V16s(y & 0xFF)}),
+        return Side::pick(narrow<Tpx8u>(Pair<V16s>{V16s(x & 0xFF), V16s(y & 0xFF)}),
                           narrow<Tpx8u>(Pair<V16s>{V16s(x >> 8), V16s(y >> 8)}));
     }
 }
@@ -57,14 +40,14 @@ template <class Side, int N, class T>
 Vec<T> foldHalves(Vec<T> a, Vec<T> b) {
     if constexpr (!std::is_same_v<T, Tpx32f>) {
         const V8u x = bitsAs<V8u>(a), y = bitsAs<V8u>(b);
-        return Side::fold(bitsAs<Vec<T>>(interleaveUnits<N* int(sizeof(T)), false>(x, y)),
+        return Side::pick(bitsAs<Vec<T>>(interleaveUnits<N* int(sizeof(T)), false>(x, y)),
                           bitsAs<Vec<T>>(interleaveUnits<N* int(sizeof(T)), true>(x, y)));
     } else if constexpr (N == 4) {
-        return Side::fold(V32f(_mm256_permute2f128_ps(a, b, 0x20)), V32f(_mm256_permute2f128_ps(a, b, 0x31)));
+        return Side::pick(V32f(_mm256_permute2f128_ps(a, b, 0x20)), V32f(_mm256_permute2f128_ps(a, b, 0x31)));
     } else if constexpr (N == 2) {
-        return Side::fold(V32f(_mm256_shuffle_ps(a, b, 0x44)), V32f(_mm256_shuffle_ps(a, b, 0xEE)));
+        return Side::pick(V32f(_mm256_shuffle_ps(a, b, 0x44)), V32f(_mm256_shuffle_ps(a, b, 0xEE)));
     } else { // within the register's halves
-        return Side::fold(V32f(_mm256_unpacklo_ps(a, b)), V32f(_mm256_unpackhi_ps(a, b)));
+        return Side::pick(V32f(_mm256_unpacklo_ps(a, b)), V32f(_mm256_unpackhi_ps(a, b)));
     }
 }
 
@@ -109,8 +92,8 @@ template <int G, bool First, class T, class... E>
         Vec<T> x[G];
         for (int g = 0; g < G; g++) x[g] = load(addBytes(src, g * step) + i);
         const auto into = [&]<class S>(Extremes<T, S>& e) {
-            Vec<T> folded = First ? S::none() : load(e.row + i);
-            for (int g = 0; g < G; g++) folded = S::fold(x[g], folded);
+            Vec<T> folded = First ? noneOf<S, T>() : load(e.row + i);
+            for (int g = 0; g < G; g++) folded = S::pick(x[g], folded);
             store(e.row + i, folded);
         };
         (into(extremes), ...);
@@ -135,7 +118,7 @@ void foldShort(const T* src, ptrdiff_t step, ptrdiff_t rows, ptrdiff_t len, bool
     for (ptrdiff_t y = 0; y < rows; y++) {
         const Vec<T> x = loadShort(addBytes(src, y * step), len);
         const auto into = [&]<class S>(Extremes<T, S>& e) {
-            store(e.row, S::fold(x, first && y == 0 ? S::none() : load(e.row)));
+            store(e.row, S::pick(x, first && y == 0 ? noneOf<S, T>() : load(e.row)));
         };
         (into(extremes), ...);
     }
@@ -165,9 +148,9 @@ template <class Side, int Lanes, class T>
     if (width > Lanes) {
         for (ptrdiff_t k = 0; k < blocks; k++) {
             const T* const block = row + k * width;
-            Vec<T> folded = Side::fold(load(block + width - Lanes), load(block));
+            Vec<T> folded = Side::pick(load(block + width - Lanes), load(block));
             for (ptrdiff_t i = Lanes; i + Lanes < width; i += Lanes)
-                folded = Side::fold(load(block + i), folded);
+                folded = Side::pick(load(block + i), folded);
             __builtin_memcpy(row + k * Lanes, &folded, Lanes * sizeof(T));
         }
     }
@@ -184,11 +167,11 @@ template <class T, class S>
 void finishBlocks(Extremes<T, S>& e, ptrdiff_t by, ptrdiff_t bx, ptrdiff_t blocks, ptrdiff_t width,
                   ptrdiff_t len) {
     constexpr ptrdiff_t L = kLanes<T>;
-    for (ptrdiff_t i = len; i < blocks * width; i += L) store(e.row + i, S::none());
+    for (ptrdiff_t i = len; i < blocks * width; i += L) store(e.row + i, noneOf<S, T>());
     foldRowOfBlocks<S, kLanes<T>>(e.row, blocks, width);
     if (e.dst) copyRow(addBytes(e.dst, by * e.dstStep) + bx, e.row, blocks * ptrdiff_t(sizeof(T)));
-    store(e.row + blocks, S::none());
-    for (ptrdiff_t i = 0; i < blocks; i += L) e.whole = S::fold(load(e.row + i), e.whole);
+    store(e.row + blocks, noneOf<S, T>());
+    for (ptrdiff_t i = 0; i < blocks; i += L) e.whole = S::pick(load(e.row + i), e.whole);
 }
 
 template <class T, class S>
@@ -197,7 +180,7 @@ void storeWhole(const Extremes<T, S>& e) {
     T lanes[kLanes<T>];
     store(lanes, e.whole);
     T extreme = lanes[0];
-    for (T x : lanes) extreme = S::fold(splat<Vec<T>>(x), splat<Vec<T>>(extreme))[0];
+    for (T x : lanes) extreme = S::pick(splat<Vec<T>>(x), splat<Vec<T>>(extreme))[0];
     __builtin_memcpy(e.global, &extreme, sizeof extreme);
 }
 
@@ -237,7 +220,7 @@ struct Output {
         e.dst = dst;
         e.dstStep = step;
         e.global = global;
-        e.whole = S::none();
+        e.whole = noneOf<S, T>();
         return e;
     }
 };
@@ -254,14 +237,14 @@ TpxStatus blockMinMax(const T* src, int srcStep, TpxiSize size, TpxiSize block, 
     if (srcStep < size.width * ptrdiff_t(sizeof(T)) || min.tooNarrow(blocks) || max.tooNarrow(blocks))
         return tpxErrStep;
     if (min.wanted() && max.wanted()) {
-        auto smallest = min.template extremes<Smallest<T>>();
-        auto largest = max.template extremes<Largest<T>>();
+        auto smallest = min.template extremes<Least>();
+        auto largest = max.template extremes<Most>();
         walkBlocks(src, srcStep, size, block, smallest, largest);
     } else if (min.wanted()) {
-        auto smallest = min.template extremes<Smallest<T>>();
+        auto smallest = min.template extremes<Least>();
         walkBlocks(src, srcStep, size, block, smallest);
     } else {
-        auto largest = max.template extremes<Largest<T>>();
+        auto largest = max.template extremes<Most>();
         walkBlocks(src, srcStep, size, block, largest);
     }
     return tpxOk;

@@ -12,10 +12,9 @@ TpxStatus dotProduct(const T* src1, int src1Step, const T* src2, int src2Step, T
     if (isEmpty(size) || src1Step == 0 || src2Step == 0) return tpxErrSize;
 
     constexpr int C = channelsOf(L);
-    ptrdiff_t len = ptrdiff_t(size.width) * C, height = size.height;
-    joinRows(len, height, sizeof(T), src1Step, src2Step);
     Tally<Lanes> tally;
-    walkRows(src1, src1Step, src2, src2Step, height, [&](const T* x, const T* y) { tally.run(len, x, y); });
+    const auto run = [&](ptrdiff_t len, const T* x, const T* y) { tally.run(len, x, y); };
+    forRuns<C>(size, run, src1, src1Step, src2, src2Step);
     for (int c = 0; c < (L == Layout::AC4 ? 3 : C); c++) products[c] = tally.value(C, c);
     return tpxOk;
 }

@@ -17,19 +17,13 @@ TpxStatus extremes(const T* src, int step, TpxiSize size, Values... values) {
     if (isEmpty(size)) return tpxErrSize;
 
     constexpr int C = channelsOf(L);
-    ptrdiff_t len = ptrdiff_t(size.width) * C, height = size.height, room = kEndless;
-    joinRows(len, height, sizeof(T), step);
     ExtremeLanes<T, C, Op...> lanes;
-    walkRows(src, step, height, [&](const T* s) {
-        takeRun(
-            lanes, room, [](auto&) {}, len, s);
-    });
+    gather<C>(lanes, src, step, size);
     for (int c = 0; c < resultsOf(L); c++) ((values[c] = lanes.template of<Op>(c)), ...);
     return tpxOk;
 }
 
-// ---- Places
-// ---------------------------------------------------------------------------------------------------
+// ---- Places ---------------------------------------------------------------------------------------------
 
 // Rows are passed in strips that stay in the first-level cache. A channel's strip is the first in which its
 // best sample got better for the last time; the first such sample is then looked for in the strip's rows.
@@ -51,11 +45,7 @@ TpxStatus placeOfExtreme(const T* src, int step, TpxiSize size, T* values, int* 
     for (ptrdiff_t y = 0; y < size.height && !bound; y += strip) {
         const ptrdiff_t left = size.height - y, rows = strip < left ? strip : left;
         ExtremeLanes<T, C, Op> lanes;
-        ptrdiff_t room = kEndless;
-        walkRows(addBytes(src, y * step), step, rows, [&](const T* s) {
-            takeRun(
-                lanes, room, [](auto&) {}, len, s);
-        });
+        gather<C>(lanes, addBytes(src, y * step), step, {size.width, int(rows)});
         bound = true;
         for (int c = 0; c < kResults; c++) {
             const T here = lanes.template of<Op>(c);
@@ -69,7 +59,7 @@ TpxStatus placeOfExtreme(const T* src, int step, TpxiSize size, T* values, int* 
 
     for (int c = 0; c < kResults; c++) {
         values[c] = best[c];
-        xs[c] = ys[c] = 0; // of a channel without numbers
+        xs[c] = ys[c] = 0;                                    // of a channel without numbers
         for (ptrdiff_t y = strips[c]; y < size.height; y++) { // an infinite start may be met in a later strip
             const ptrdiff_t x = findInRow<C>(addBytes(src, y * step), size.width, c, best[c]);
             if (x < 0) continue;

@@ -82,14 +82,15 @@ struct ExtremeLanes {
     }
 };
 
+// Takes an image of C channels into lanes that cannot overflow.
 template <int C, class Lanes, class T>
 inline void gather(Lanes& lanes, const T* src, ptrdiff_t step, TpxiSize size) {
-    ptrdiff_t len = ptrdiff_t(size.width) * C, height = size.height, room = kEndless;
-    joinRows(len, height, sizeof(T), step);
-    walkRows(src, step, height, [&](const T* s) {
+    ptrdiff_t room = kEndless;
+    const auto run = [&](ptrdiff_t len, const T* s) {
         takeRun(
             lanes, room, [](Lanes&) {}, len, s);
-    });
+    };
+    forRuns<C>(size, run, src, step);
 }
 
 // ---- Places ------------------------------------------------------------------------------------------------

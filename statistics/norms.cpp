@@ -7,8 +7,7 @@
 namespace tpx {
 namespace {
 
-// ---- Terms
-// ------------------------------------------------------------------------------------------------------
+// ---- Terms ----------------------------------------------------------------------------------------------
 
 // |x|, and the exact |x - y|; of integers, as unsigned ones.
 struct Magnitude {
@@ -36,8 +35,7 @@ struct Square {
     }
 };
 
-// ---- Kinds: what is gathered from one source or two, and what comes of it
-// ----------------------------------------------
+// ---- Kinds: what is gathered from one source or two, and what comes of it -------------------------------
 
 template <class T>
 using Unsigned = std::make_unsigned_t<T>;
@@ -98,8 +96,7 @@ struct L2 {
 template <class Kind, class T, int C, class Real, int Sources>
 using GatherOf = typename decltype(Kind::template gather<T, C, Real, Sources>())::type;
 
-// ---- Images
-// ------------------------------------------------------------------------------------------------------
+// ---- Images ---------------------------------------------------------------------------------------------
 
 template <class Kind, int C, class Real, class T>
 TpxStatus norm(const T* src, int step, TpxiSize size, Tpx64f* values) {
@@ -107,25 +104,22 @@ TpxStatus norm(const T* src, int step, TpxiSize size, Tpx64f* values) {
     if (isEmpty(size)) return tpxErrSize;
     if (step < 1) return tpxErrStep;
 
-    ptrdiff_t len = ptrdiff_t(size.width) * C, height = size.height;
-    joinRows(len, height, sizeof(T), step);
     GatherOf<Kind, T, C, Real, 1> gather;
-    walkRows(src, step, height, [&](const T* x) { gather.run(len, x); });
+    forRuns<C>(
+        size, [&](ptrdiff_t len, const T* x) { gather.run(len, x); }, src, step);
     for (int c = 0; c < C; c++) values[c] = Kind::norm(gather.value(C, c));
     return tpxOk;
 }
 
-// What both norms of two images share: body(x, y, len) for their runs.
-template <int C, class T, class Body>
-TpxStatus forRuns(const T* src1, int src1Step, const T* src2, int src2Step, TpxiSize size, const Tpx64f* values,
-                  Body body) {
+// What both norms of two images share: the checks, and run(len, x, y) for their runs.
+template <int C, class T, class Run>
+TpxStatus checkedRuns(const T* src1, int src1Step, const T* src2, int src2Step, TpxiSize size,
+                      const Tpx64f* values, Run run) {
     if (anyNull(src1, src2) || anyNull(values)) return tpxErrNullPointer;
     if (isEmpty(size)) return tpxErrSize;
     if (src1Step < 1 || src2Step < 1) return tpxErrStep;
 
-    ptrdiff_t len = ptrdiff_t(size.width) * C, height = size.height;
-    joinRows(len, height, sizeof(T), src1Step, src2Step);
-    walkRows(src1, src1Step, src2, src2Step, height, [&](const T* x, const T* y) { body(x, y, len); });
+    forRuns<C>(size, run, src1, src1Step, src2, src2Step);
     return tpxOk;
 }
 
@@ -133,8 +127,9 @@ template <class Kind, int C, class Real, class T>
 TpxStatus normOfDifference(const T* src1, int src1Step, const T* src2, int src2Step, TpxiSize size,
                            Tpx64f* values) {
     GatherOf<Kind, T, C, Real, 2> gather;
-    const TpxStatus status = forRuns<C>(src1, src1Step, src2, src2Step, size, values,
-                                        [&](const T* x, const T* y, ptrdiff_t len) { gather.run(len, x, y); });
+    const TpxStatus status =
+        checkedRuns<C>(src1, src1Step, src2, src2Step, size, values,
+                       [&](ptrdiff_t len, const T* x, const T* y) { gather.run(len, x, y); });
     if (status != tpxOk) return status;
     for (int c = 0; c < C; c++) values[c] = Kind::norm(gather.value(C, c));
     return tpxOk;
@@ -154,7 +149,7 @@ TpxStatus relativeNorm(const T* src, int srcStep, const T* ref, int refStep, Tpx
     GatherOf<Kind, T, C, Real, 2> difference;
     GatherOf<Kind, T, C, Real, 1> reference;
     TpxStatus status =
-        forRuns<C>(src, srcStep, ref, refStep, size, values, [&](const T* x, const T* y, ptrdiff_t len) {
+        checkedRuns<C>(src, srcStep, ref, refStep, size, values, [&](ptrdiff_t len, const T* x, const T* y) {
             for (ptrdiff_t i = 0; i < len; i += kPiece) {
                 const ptrdiff_t piece = len - i < kPiece ? len - i : kPiece;
                 difference.run(piece, x + i, y + i);

@@ -15,10 +15,9 @@ TpxStatus sum(const T* src, int srcStep, TpxiSize size, Tpx64f* sums) {
     if (anyNull(src, sums)) return tpxErrNullPointer;
     if (isEmpty(size)) return tpxErrSize;
 
-    ptrdiff_t len = ptrdiff_t(size.width) * C, height = size.height;
-    joinRows(len, height, sizeof(T), srcStep);
     Tally<Lanes<T, C>> tally;
-    walkRows(src, srcStep, height, [&](const T* s) { tally.run(len, s); });
+    forRuns<C>(
+        size, [&](ptrdiff_t len, const T* s) { tally.run(len, s); }, src, srcStep);
     for (int c = 0; c < C; c++) sums[c] = tally.value(C, c);
     return tpxOk;
 }

@@ -96,6 +96,20 @@ inline void takeRun(Lanes& lanes, ptrdiff_t& room, Full full, ptrdiff_t len, con
     lanes = l;
 }
 
+// run(len, src...) for the runs of an image of C channels, or of two.
+template <int C, class T, class Run>
+inline void forRuns(TpxiSize size, Run run, const T* src, ptrdiff_t step) {
+    ptrdiff_t len = ptrdiff_t(size.width) * C, height = size.height;
+    joinRows(len, height, sizeof(T), step);
+    walkRows(src, step, height, [&](const T* x) { run(len, x); });
+}
+template <int C, class T, class Run>
+inline void forRuns(TpxiSize size, Run run, const T* src1, ptrdiff_t step1, const T* src2, ptrdiff_t step2) {
+    ptrdiff_t len = ptrdiff_t(size.width) * C, height = size.height;
+    joinRows(len, height, sizeof(T), step1, step2);
+    walkRows(src1, step1, src2, step2, height, [&](const T* x, const T* y) { run(len, x, y); });
+}
+
 // ---- Tallies of sums -------------------------------------------------------------------------------------
 
 template <class Lanes>

@@ -12,8 +12,7 @@ namespace {
 
 using namespace tpx::test;
 
-// ---- The functions as data
-// ---------------------------------------------------------------------------------------------
+// ---- The functions as data ------------------------------------------------------------------------------
 
 template <class T>
 struct Search {

@@ -28,6 +28,17 @@ struct View {
     View fromBelow(int height) const { return {row(height - 1), -step}; }
 };
 
+// Rows of one value, more of them than any lane has room for: check(a, b, size), where `a` is full of p and `b`
+// of q. A row starts a pixel behind the one above, which sees the same values in a few kilobytes.
+template <class T, class Check>
+void checkManyRows(int channels, T p, T q, Check check) {
+    const TpxiSize size = {4099, channels == 1 && sizeof(T) == 1 ? 10000 : 1200};
+    const int pixel = channels * int(sizeof(T));
+    const size_t samples = size_t(size.width + size.height) * size_t(channels);
+    const std::vector<T> a(samples, p), b(samples, q);
+    check(View<T>(a.data(), pixel), View<T>(b.data(), pixel), size);
+}
+
 // Results have more room than a call has values for; the rest has to keep this.
 inline constexpr int kRoom = 5, kUnwritten = 77;
 
