@@ -7,9 +7,9 @@
 //   kZeroFrom<T>           the smallest factor at which every result is 0
 #pragma once
 
-#include "frame/entry.h"
-#include "frame/pointwise.h"
-#include "frame/real.h"
+#include "frame/entry/entry.h"
+#include "frame/images/pointwise.h"
+#include "frame/simd/real.h"
 
 namespace tpx {
 

@@ -1,7 +1,7 @@
 // tpxiExp: exponential.
 #include "arithmetic/unary.h"
-#include "frame/math.h"
-#include "frame/real.h"
+#include "frame/simd/math.h"
+#include "frame/simd/real.h"
 
 namespace tpx {
 namespace {

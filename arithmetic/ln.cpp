@@ -1,7 +1,7 @@
 // tpxiLn: natural logarithm.
 #include "arithmetic/unary.h"
-#include "frame/math.h"
-#include "frame/real.h"
+#include "frame/simd/math.h"
+#include "frame/simd/real.h"
 
 namespace tpx {
 namespace {

@@ -1,6 +1,6 @@
 // tpxiSqrt: square root.
 #include "arithmetic/unary.h"
-#include "frame/real.h"
+#include "frame/simd/real.h"
 
 namespace tpx {
 namespace {

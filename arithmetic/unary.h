@@ -9,9 +9,9 @@
 //   status()                             the call's warning, asked after the last row
 #pragma once
 
-#include "frame/entry.h"
-#include "frame/memory_runs.h"
-#include "frame/table_runs.h"
+#include "frame/entry/entry.h"
+#include "frame/runs/memory_runs.h"
+#include "frame/runs/table_runs.h"
 
 namespace tpx {
 

@@ -1,12 +1,12 @@
 # libtpxie9: the sources of every room, and the entry table generated from the public headers.
-file(GLOB TPX_SOURCES CONFIGURE_DEPENDS
+file(GLOB_RECURSE TPX_SOURCES CONFIGURE_DEPENDS
      ${PROJECT_SOURCE_DIR}/frame/*.cpp
      ${PROJECT_SOURCE_DIR}/arithmetic/*.cpp
      ${PROJECT_SOURCE_DIR}/movement/*.cpp
      ${PROJECT_SOURCE_DIR}/geometry/*.cpp
      ${PROJECT_SOURCE_DIR}/statistics/*.cpp
      ${PROJECT_SOURCE_DIR}/threshold/*.cpp)
-list(FILTER TPX_SOURCES EXCLUDE REGEX "frame/builtins\\.cpp$")
+list(FILTER TPX_SOURCES EXCLUDE REGEX "memory/builtins\\.cpp$")
 file(GLOB TPX_PUBLIC_HEADERS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/tpxi/*.h)
 
 set(TPX_ENTRY_TABLE ${PROJECT_BINARY_DIR}/generated/entries.S)
@@ -33,7 +33,7 @@ add_library(tpxie9 SHARED ${TPX_ENTRY_TABLE} $<TARGET_OBJECTS:tpxi_objects>)
 if(NOT TPX_SANITIZE)
     # The memory functions that compilers call are the library's own, and must not be compiled into calls of
     # themselves. A sanitizer build is hosted and uses the platform's.
-    add_library(tpxi_builtins OBJECT ${PROJECT_SOURCE_DIR}/frame/builtins.cpp)
+    add_library(tpxi_builtins OBJECT ${PROJECT_SOURCE_DIR}/frame/memory/builtins.cpp)
     target_include_directories(tpxi_builtins PRIVATE ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR})
     target_link_libraries(tpxi_builtins PRIVATE tpx_flags)
     target_compile_options(tpxi_builtins PRIVATE ${TPX_CODE_OPTIONS} -fno-builtin

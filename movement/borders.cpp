@@ -2,11 +2,11 @@
 //
 // The rows of the image are built whole, margins included; the rows above and below are copies of them. Samples
 // are only moved, so pixels of one size share their code.
-#include "movement/borders.h"
+#include "frame/images/border.h"
 
-#include "frame/entry.h"
-#include "frame/memory_runs.h"
-#include "frame/reverse.h"
+#include "frame/entry/entry.h"
+#include "frame/runs/memory_runs.h"
+#include "frame/runs/reverse.h"
 
 namespace tpx {
 namespace {

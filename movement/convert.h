@@ -3,9 +3,9 @@
 // A conversion is a rule: rule(p) makes a register of destination samples from as many source samples at p.
 #pragma once
 
-#include "frame/entry.h"
-#include "frame/memory_runs.h"
-#include "frame/real.h"
+#include "frame/entry/entry.h"
+#include "frame/runs/memory_runs.h"
+#include "frame/simd/real.h"
 
 namespace tpx {
 

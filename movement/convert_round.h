@@ -5,7 +5,7 @@
 // become 1.
 #pragma once
 
-#include "frame/control.h"
+#include "frame/simd/control.h"
 #include "movement/convert.h"
 
 namespace tpx {

@@ -1,5 +1,5 @@
 // tpxiConvert to types that hold every sample, and of 32-bit integers to 32f.
-#include "frame/control.h"
+#include "frame/simd/control.h"
 #include "movement/convert.h"
 
 namespace tpx {

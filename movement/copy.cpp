@@ -1,7 +1,7 @@
 // tpxiCopy: pixels from one image to another, as bits.
-#include "frame/entry.h"
-#include "frame/memory_runs.h"
-#include "frame/streaming.h"
+#include "frame/entry/entry.h"
+#include "frame/runs/memory_runs.h"
+#include "frame/runs/streaming.h"
 #include "movement/pixel_shuffle.h"
 
 namespace tpx {

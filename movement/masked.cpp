@@ -1,7 +1,7 @@
 // tpxiCopy and tpxiSet under a mask: only pixels whose mask byte is not zero are changed.
-#include "frame/entry.h"
-#include "frame/memory_runs.h"
-#include "frame/pixel_runs.h"
+#include "frame/entry/entry.h"
+#include "frame/runs/memory_runs.h"
+#include "frame/runs/pixel_runs.h"
 
 namespace tpx {
 namespace {

@@ -1,7 +1,7 @@
 // tpxiSet: a region filled with one pixel value.
-#include "frame/entry.h"
-#include "frame/memory_runs.h"
-#include "frame/streaming.h"
+#include "frame/entry/entry.h"
+#include "frame/runs/memory_runs.h"
+#include "frame/runs/streaming.h"
 
 namespace tpx {
 namespace {

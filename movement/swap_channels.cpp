@@ -1,5 +1,5 @@
 // tpxiSwapChannels: the channels of every pixel in another order.
-#include "frame/entry.h"
+#include "frame/entry/entry.h"
 #include "movement/pixel_shuffle.h"
 
 namespace tpx {

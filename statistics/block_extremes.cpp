@@ -3,8 +3,8 @@
 // Rows of a band of blocks are folded into one row of running extremes, in pieces that stay in the first-level
 // cache; then the columns of each block are folded into one sample. A sample that is folded in twice changes
 // nothing, so cut rows, columns and registers overlap their neighbours.
-#include "frame/entry.h"
-#include "frame/memory_runs.h"
+#include "frame/entry/entry.h"
+#include "frame/runs/memory_runs.h"
 #include "statistics/extremes.h"
 
 namespace tpx {

@@ -1,5 +1,5 @@
 // Sums of the products of two images' samples.
-#include "frame/entry.h"
+#include "frame/entry/entry.h"
 #include "statistics/lanes.h"
 
 namespace tpx {

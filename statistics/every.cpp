@@ -1,6 +1,6 @@
 // tpxiMinEvery, tpxiMaxEvery: the smaller or the larger sample of two images.
-#include "frame/entry.h"
-#include "frame/pointwise.h"
+#include "frame/entry/entry.h"
+#include "frame/images/pointwise.h"
 
 namespace tpx {
 namespace {

@@ -1,7 +1,7 @@
 // The smallest and the largest sample of each channel, and where the first of them lies.
 #include "statistics/extremes.h"
 
-#include "frame/entry.h"
+#include "frame/entry/entry.h"
 
 namespace tpx {
 namespace {

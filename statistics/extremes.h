@@ -1,7 +1,7 @@
 // The smallest and the largest samples of an image's channels.
 #pragma once
 
-#include "frame/real.h"
+#include "frame/simd/real.h"
 #include "statistics/tally.h"
 
 namespace tpx {

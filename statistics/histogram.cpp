@@ -3,9 +3,9 @@
 // 8-bit samples, and 16-bit samples of images that are not small, are counted in a table with an entry for each
 // value, whose sections are the bins. Other samples go as floats, in blocks of one channel, to a search among
 // the levels.
-#include "frame/entry.h"
-#include "frame/memory_runs.h"
-#include "frame/real.h"
+#include "frame/entry/entry.h"
+#include "frame/runs/memory_runs.h"
+#include "frame/simd/real.h"
 #include "statistics/levels.h"
 
 namespace tpx {

@@ -6,8 +6,8 @@
 // none does. Levels may lie at any address.
 #pragma once
 
-#include "frame/simd.h"
-#include "frame/walk.h"
+#include "frame/simd/simd.h"
+#include "frame/images/walk.h"
 
 namespace tpx {
 

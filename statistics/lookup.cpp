@@ -1,9 +1,9 @@
 // tpxiLUT: samples through functions of levels, from the tables of a spec or by searches in its levels.
-#include "frame/table_runs.h"
+#include "frame/runs/table_runs.h"
 
-#include "frame/entry.h"
-#include "frame/pixel_runs.h"
-#include "frame/real.h"
+#include "frame/entry/entry.h"
+#include "frame/runs/pixel_runs.h"
+#include "frame/simd/real.h"
 #include "statistics/lookup_spec.h"
 
 namespace tpx {

@@ -3,8 +3,8 @@
 
 #include <limits.h>
 
-#include "frame/entry.h"
-#include "frame/real.h"
+#include "frame/entry/entry.h"
+#include "frame/simd/real.h"
 
 namespace tpx {
 namespace {

@@ -1,6 +1,6 @@
 // Norms of an image, of the difference of two, and of the difference relative to the second.
-#include "frame/entry.h"
-#include "frame/routines.h"
+#include "frame/entry/entry.h"
+#include "frame/runs/routines.h"
 #include "statistics/extremes.h"
 #include "statistics/lanes.h"
 

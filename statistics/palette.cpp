@@ -1,6 +1,6 @@
 // tpxiLUTPalette: samples replaced by the entries of the caller's tables.
-#include "frame/entry.h"
-#include "frame/table_runs.h"
+#include "frame/entry/entry.h"
+#include "frame/runs/table_runs.h"
 
 namespace tpx {
 namespace {

@@ -1,5 +1,5 @@
 // Sums and means of channels.
-#include "frame/entry.h"
+#include "frame/entry/entry.h"
 #include "statistics/lanes.h"
 
 namespace tpx {

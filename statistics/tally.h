@@ -12,7 +12,7 @@
 // Lanes are made of other lanes: a norm is a term in front of a sum (lanes.h).
 #pragma once
 
-#include "frame/runs.h"
+#include "frame/runs/runs.h"
 
 namespace tpx {
 

@@ -1,6 +1,6 @@
 // tpxiThreshold: samples clamped or replaced against thresholds.
-#include "frame/entry.h"
-#include "frame/memory_runs.h"
+#include "frame/entry/entry.h"
+#include "frame/runs/memory_runs.h"
 
 namespace tpx {
 namespace {

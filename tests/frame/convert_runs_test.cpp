@@ -2,7 +2,7 @@
 // touched.
 #include <gtest/gtest.h>
 
-#include "frame/memory_runs.h"
+#include "frame/runs/memory_runs.h"
 #include "tests/support/guarded.h"
 
 using namespace tpx;

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "frame/memory_runs.h"
+#include "frame/runs/memory_runs.h"
 #include "tests/support/guarded.h"
 
 namespace {

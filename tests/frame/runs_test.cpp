@@ -7,9 +7,9 @@
 #include <functional>
 #include <limits>
 
-#include "frame/memory_runs.h"
-#include "frame/routines.h"
-#include "frame/streaming.h"
+#include "frame/runs/memory_runs.h"
+#include "frame/runs/routines.h"
+#include "frame/runs/streaming.h"
 #include "tests/support/guarded.h"
 #include "tpxcore.h"
 

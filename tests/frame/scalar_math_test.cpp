@@ -1,4 +1,4 @@
-// The scalar functions: the bounds that frame/scalar_math.cpp states, special values, the control register.
+// The scalar functions: the bounds that frame/runs/scalar_math.cpp states, special values, the control register.
 #include <gtest/gtest.h>
 
 #include <cfenv>
@@ -8,7 +8,7 @@
 #include <random>
 #include <vector>
 
-#include "frame/routines.h"
+#include "frame/runs/routines.h"
 #include "tests/support/ulps.h"
 
 namespace {

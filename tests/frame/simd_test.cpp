@@ -1,6 +1,6 @@
 // The words of the SIMD vocabulary, lane by lane against plain arithmetic: all pairs of 8-bit samples, all
 // 16-bit samples against edge values, floats that are special or tie.
-#include "frame/simd.h"
+#include "frame/simd/simd.h"
 
 #include <gtest/gtest.h>
 

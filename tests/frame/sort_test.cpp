@@ -8,7 +8,7 @@
 #include <functional>
 #include <limits>
 
-#include "frame/routines.h"
+#include "frame/runs/routines.h"
 #include "tests/support/guarded.h"
 
 using namespace tpx::test;

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <xmmintrin.h>
 
-#include "geometry/resize_plan.h"
+#include "geometry/resize/plan.h"
 #include "tests/support/checks.h"
 #include "tests/support/guarded.h"
 #include "tests/support/resize_model.h"

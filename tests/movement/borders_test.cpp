@@ -1,5 +1,5 @@
 // tpxiCopy*Border through their exported names, and the rule of the borders.
-#include "movement/borders.h"
+#include "frame/images/border.h"
 
 #include <gtest/gtest.h>
 #include <tpxcore.h>

@@ -1,7 +1,7 @@
 // Samples replaced by the entries of tables.
 #pragma once
 
-#include "frame/walk.h"
+#include "frame/images/walk.h"
 
 namespace tpx {
 

@@ -1,8 +1,8 @@
 // Runs of samples: reversal, a constant factor, slopes, and the larger or smaller of two runs.
 #include <limits>
 
-#include "frame/reverse.h"
-#include "frame/routines.h"
+#include "frame/runs/reverse.h"
+#include "frame/runs/routines.h"
 
 namespace tpx {
 namespace {

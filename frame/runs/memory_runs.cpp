@@ -3,10 +3,10 @@
 // The library's own memcpy, memmove and memset stand on the kernels, so none of these may be compiled into a
 // call of them. The copies are safe since no loop of theirs is a plain copy of adjacent pieces; the fill hides
 // from the compiler what it stores.
-#include "frame/memory_runs.h"
+#include "frame/runs/memory_runs.h"
 
-#include "frame/routines.h"
-#include "frame/streaming.h"
+#include "frame/runs/routines.h"
+#include "frame/runs/streaming.h"
 
 namespace tpx {
 namespace {

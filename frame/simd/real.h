@@ -2,7 +2,7 @@
 // ties to even whatever the control register says, and saturated.
 #pragma once
 
-#include "frame/simd.h"
+#include "frame/simd/simd.h"
 
 namespace tpx {
 

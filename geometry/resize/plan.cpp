@@ -1,9 +1,9 @@
 // Sizing, initialising and querying a resize plan.
-#include "geometry/resize_plan.h"
+#include "geometry/resize/plan.h"
 
-#include "frame/entry.h"
-#include "frame/walk.h"
-#include "geometry/resize_weights.h"
+#include "frame/entry/entry.h"
+#include "frame/images/walk.h"
+#include "geometry/resize/weights.h"
 
 namespace tpx {
 namespace {

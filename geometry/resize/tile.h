@@ -2,8 +2,8 @@
 // its place in the source, and the split of its borders.
 #pragma once
 
-#include "frame/walk.h"
-#include "geometry/resize_plan.h"
+#include "frame/images/walk.h"
+#include "geometry/resize/plan.h"
 
 namespace tpx {
 

@@ -1,5 +1,5 @@
 // The version record, and the hooks that the loader calls.
-#include "frame/entry.h"
+#include "frame/entry/entry.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // Image memory: rows on 64-byte boundaries.
-#include "frame/entry.h"
+#include "frame/entry/entry.h"
 #include "tpxcore.h"
 
 namespace {

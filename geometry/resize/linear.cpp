@@ -3,10 +3,10 @@
 // need one blend alone.
 #include <stddef.h>
 
-#include "frame/entry.h"
-#include "frame/runs.h"
-#include "frame/simd.h"
-#include "geometry/resize_tile.h"
+#include "frame/entry/entry.h"
+#include "frame/runs/runs.h"
+#include "frame/simd/simd.h"
+#include "geometry/resize/tile.h"
 
 namespace tpx {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <stddef.h>
 
-#include "frame/routines.h"
+#include "frame/runs/routines.h"
 #include "tpxi/geometry.h"
 
 // One axis: where each destination position lies in the source, and with which weights.

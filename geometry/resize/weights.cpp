@@ -1,4 +1,4 @@
-#include "geometry/resize_weights.h"
+#include "geometry/resize/weights.h"
 
 namespace tpx {
 

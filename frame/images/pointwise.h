@@ -1,7 +1,7 @@
 // Pointwise work on two images, sample by sample.
 #pragma once
 
-#include "frame/memory_runs.h"
+#include "frame/runs/memory_runs.h"
 
 namespace tpx {
 

@@ -1,7 +1,7 @@
 // Loops that reverse a run of samples.
 #pragma once
 
-#include "frame/runs.h"
+#include "frame/runs/runs.h"
 
 namespace tpx {
 

@@ -1,9 +1,9 @@
 // Nearest resize: a gather of whole pixels, so only the size of a pixel in bytes matters.
 #include <stddef.h>
 
-#include "frame/entry.h"
-#include "frame/simd.h"
-#include "geometry/resize_tile.h"
+#include "frame/entry/entry.h"
+#include "frame/simd/simd.h"
+#include "geometry/resize/tile.h"
 
 namespace tpx {
 namespace {

@@ -11,7 +11,7 @@
 // less than 0.78. That holds under rounding to nearest; under another direction results are a few units worse.
 #pragma once
 
-#include "frame/simd.h"
+#include "frame/simd/simd.h"
 
 namespace tpx {
 

@@ -6,7 +6,7 @@
 
 #include <immintrin.h>
 
-#include "geometry/resize_plan.h"
+#include "geometry/resize/plan.h"
 
 namespace tpx {
 

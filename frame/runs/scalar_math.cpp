@@ -3,8 +3,8 @@
 // Errors, in units in the last place, measured against a library of 64-bit significands under rounding to
 // nearest: sine and cosine below 0.80 over all finite arguments, ExpOne 0.76, LogOne 0.85, PowOne 0.75; a
 // denormal result is rounded twice and stays below 0.80. ExpOneF: 0.74. The square roots are the processor's.
-#include "frame/math.h"
-#include "frame/routines.h"
+#include "frame/simd/math.h"
+#include "frame/runs/routines.h"
 
 namespace tpx {
 namespace {

@@ -1,6 +1,6 @@
 // The memory functions that compilers call on their own. The library has no C library to take them from; a
 // build that is linked with one (sanitizers, tests) leaves them out.
-#include "frame/memory_runs.h"
+#include "frame/runs/memory_runs.h"
 
 #ifndef TPX_HOSTED
 

@@ -6,8 +6,8 @@
 // shorter than a block goes through a block of its own.
 #pragma once
 
-#include "frame/runs.h"
-#include "frame/streaming.h"
+#include "frame/runs/runs.h"
+#include "frame/runs/streaming.h"
 
 namespace tpx {
 

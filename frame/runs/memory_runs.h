@@ -2,12 +2,12 @@
 // Lengths are in bytes, from 0, and may exceed 32 bits; addresses need no alignment.
 #pragma once
 
-#include "frame/runs.h"
-#include "frame/streaming.h"
+#include "frame/runs/runs.h"
+#include "frame/runs/streaming.h"
 
 namespace tpx {
 
-// ---- Copies (frame/memory_runs.cpp) ---------------------------------------------------------------------
+// ---- Copies (frame/runs/memory_runs.cpp) ---------------------------------------------------------------------
 
 // Forwards. The ranges may overlap if the destination lies below the source.
 void copyRow(void* dst, const void* src, int64_t bytes);
@@ -18,7 +18,7 @@ void copyRowBackward(void* dst, const void* src, int64_t bytes);
 // Past the caches, line by line. The ranges do not overlap. The caller fences once, after its last row.
 void copyRowStreaming(void* dst, const void* src, int64_t bytes);
 
-// writeRun (frame/runs.h) past the caches: dst[i...] = at(i, k), where k is the register's place in its group
+// writeRun (frame/runs/runs.h) past the caches: dst[i...] = at(i, k), where k is the register's place in its group
 // of G, as in mapGroups. fetch(i, n) asks for what n samples from i on will need, plain(i, n) writes them into
 // the caches. The destination is no source. The caller fences once, after its last row.
 //

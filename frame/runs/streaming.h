@@ -4,7 +4,7 @@
 
 #include <stddef.h>
 
-#include "frame/simd.h"
+#include "frame/simd/simd.h"
 #include "tpxcore.h"
 
 namespace tpx {
