@@ -249,6 +249,13 @@ void initCubic(const Request& request, Tpx32f valueB, Tpx32f valueC, Tpx8u* pIni
              });
 }
 
+// The beginning of a Lanczos plan whose lobes or source turn out not to do: the fields that come first are
+// written, tables and borders are not, and the control register stays set for building.
+void abandonLanczos(const Request& request, Tpx32u numLobes) {
+    begin(request, tpxInterpolationLanczos, int(numLobes)).border = {};
+    FlushToZero::install();
+}
+
 void initLanczos(const Request& request, Tpx32u numLobes, Tpx8u* pInitBuf) {
     const int lobes = int(numLobes);
     initTaps(request, tpxInterpolationLanczos, lobes, pInitBuf,
@@ -294,7 +301,8 @@ TpxStatus initialise(typename Form::Size srcSize, typename Form::Size dstSize, T
     return tpxOk;
 }
 
-// Lanczos tests the lobes between its size tests, at another place in each form.
+// Lanczos tests the lobes between its size tests: the _L form before anything is written, the short forms as
+// the last thing of all, with the plan begun.
 template <class Form>
 TpxStatus initialiseLanczos(typename Form::Size srcSize, typename Form::Size dstSize, TpxDataType dataType,
                             Tpx32u numLobes, TpxiResizeSpec* pSpec, Tpx8u* pInitBuf) {
@@ -302,11 +310,16 @@ TpxStatus initialiseLanczos(typename Form::Size srcSize, typename Form::Size dst
     if (isZero(srcSize) || isZero(dstSize)) return tpxWarnNoOperation;
     const TpxiSizeL src = widen(srcSize), dst = widen(dstSize);
     if (isEmpty(src) || isEmpty(dst)) return tpxErrSize;
-    if (numLobes != 2 && numLobes != 3) return tpxErrUnsupportedMode;
+    const Request request{Form::kTag, src, dst, dataType, pSpec};
+    const auto late = [&](TpxStatus status) {
+        if (!Form::kLong) abandonLanczos(request, numLobes);
+        return status;
+    };
+    if (numLobes != 2 && numLobes != 3) return late(tpxErrUnsupportedMode);
     if (Form::kLong && !isSampleType(dataType)) return tpxErrDataType;
-    if (isSmaller(src, squareOf(2 * int(numLobes)))) return tpxErrSize;
+    if (isSmaller(src, squareOf(2 * int(numLobes)))) return late(tpxErrSize);
     if (Form::kLong && (isTooLong(src) || isTooLong(dst))) return tpxErrSizeTooLarge;
-    initLanczos({Form::kTag, src, dst, dataType, pSpec}, numLobes, pInitBuf);
+    initLanczos(request, numLobes, pInitBuf);
     return tpxOk;
 }
 

@@ -17,7 +17,10 @@ class FlushToZero {
     unsigned before = _mm_getcsr();
 
  public:
-    FlushToZero() { _mm_setcsr(before | kFlush | kMaskUnderflow); }
+    // For good, until someone else changes it.
+    static void install() { _mm_setcsr(_mm_getcsr() | kFlush | kMaskUnderflow); }
+
+    FlushToZero() { install(); }
     ~FlushToZero() { _mm_setcsr((_mm_getcsr() & ~kTouched) | (before & kTouched)); }
     FlushToZero(const FlushToZero&) = delete;
     FlushToZero& operator=(const FlushToZero&) = delete;

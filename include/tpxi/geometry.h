@@ -57,6 +57,9 @@ TPX_API TpxStatus tpxiResizeGetSize_L(TpxiSizeL srcSize, TpxiSizeL dstSize, TpxD
  * tpxWarnNoOperation (a size of exactly 0); tpxErrSize (a size below 1, or a source smaller than the kind
  * needs: linear 2, cubic 4, Lanczos twice the lobes, super-sampling the destination's);
  * tpxErrUnsupportedMode (lobes other than 2 or 3); tpxOk.
+ * The short Lanczos forms test lobes and source last, when they have begun the plan and set the thread's
+ * floating-point control to flush results to zero with underflow masked: after these two errors the control
+ * stays so, and the plan is partly written and serves nothing. Every other call leaves the control as it was.
  * _L forms: after tpxErrSize come tpxErrDataType and tpxErrSizeTooLarge (a length from 0x20000000 up);
  * tpxiResizeLanczosInit_L tests the lobes right after the sizes below 1, then the type, then the source. */
 TPX_API TpxStatus tpxiResizeNearestInit_8u(TpxiSize srcSize, TpxiSize dstSize, TpxiResizeSpec* pSpec);
