@@ -9,7 +9,7 @@
 
 #include "frame/entry/entry.h"
 #include "frame/images/pointwise.h"
-#include "frame/simd/real.h"
+#include "frame/simd/through_real.h"
 
 namespace tpx {
 

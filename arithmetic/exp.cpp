@@ -1,7 +1,7 @@
 // tpxiExp: exponential.
 #include "arithmetic/unary.h"
 #include "frame/simd/math.h"
-#include "frame/simd/real.h"
+#include "frame/simd/through_real.h"
 
 namespace tpx {
 namespace {
@@ -13,10 +13,10 @@ template <class T>
 struct Window {
     explicit Window(int n) {
         // Above, the largest sample gives 0; below, the smallest one saturates.
-        n = clamp(n, -50000, 100000);
+        n = clampTo(n, -50000, 100000);
         const double half = (n - 1) * kLn2; // exp of it, scaled, is one half
         const int whole = int(half) - (half < int(half));
-        first = T(clamp(whole, kMin<T>, kMax<T>));
+        first = T(clampTo(whole, kMin<T>, kMax<T>));
         alignas(32) T results[16];
         for (int i = 0; i < 16; i += 4) {
             const V64f a = splat<V64f>(double(first) + i) + V64f{0, 1, 2, 3};
@@ -24,7 +24,7 @@ struct Window {
             // that can be a tie, and is taken exactly.
             V64f t = (a - splat<V64f>(n * kLn2High)) - splat<V64f>(n * kLn2Low);
             t = minOf(maxOf(t, splat<V64f>(-10)), splat<V64f>(20));
-            const V64f one = splat<V64f>(powerOfTwo<double>(-clamp(n, -100, 100)));
+            const V64f one = splat<V64f>(powerOfTwo<double>(-clampTo(n, -100, 100)));
             const V32s r = roundToRange<T>(a == V64f{} ? one : exponential(t));
             for (int j = 0; j < 4; j++) results[i + j] = T(r[j]);
         }

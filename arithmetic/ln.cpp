@@ -1,7 +1,7 @@
 // tpxiLn: natural logarithm.
 #include "arithmetic/unary.h"
 #include "frame/simd/math.h"
-#include "frame/simd/real.h"
+#include "frame/simd/through_real.h"
 
 namespace tpx {
 namespace {
@@ -51,7 +51,7 @@ struct Ln {
         if constexpr (std::is_same_v<T, float>) {
             return body(FloatLogarithm{});
         } else {
-            n = clamp(n, -20, 20); // past these every logarithm but 0 saturates, or rounds to 0
+            n = clampTo(n, -20, 20); // past these every logarithm but 0 saturates, or rounds to 0
             // Single precision decides the rounding of every logarithm of 8 bits, and of 16 bits while results
             // stay small (tested sample by sample).
             if (sizeof(T) == 1 || n >= -1) return body(IntegerLogarithm<float, T>(n));

@@ -1,6 +1,6 @@
 // tpxiSqr: square.
 #include "arithmetic/unary.h"
-#include "frame/simd/real.h"
+#include "frame/simd/through_real.h"
 
 namespace tpx {
 namespace {
@@ -63,8 +63,8 @@ struct Sqr {
             return body([](V32f x) { return x * x; });
         } else {
             // From 2 * bits + 1 on the largest square rounds to 0; from -bits down 1 saturates.
-            if (n > 0) return body(shrinkingRule<T>(clamp(n, 1, 2 * kBits<T> + 1)));
-            const auto growing = growingRule<T>(-clamp(n, -kValueBits<T>, 0));
+            if (n > 0) return body(shrinkingRule<T>(clampTo(n, 1, 2 * kBits<T> + 1)));
+            const auto growing = growingRule<T>(-clampTo(n, -kValueBits<T>, 0));
             if constexpr (std::is_same_v<T, Tpx8u>) {
                 // No sample above 15 stays below saturation: the 16 results that there are make a table.
                 Table16<Tpx8u> table;

@@ -1,6 +1,6 @@
 // tpxiSqrt: square root.
 #include "arithmetic/unary.h"
-#include "frame/simd/real.h"
+#include "frame/simd/through_real.h"
 
 namespace tpx {
 namespace {
@@ -51,7 +51,7 @@ struct Sqrt {
         if constexpr (std::is_same_v<T, float>) {
             return body(FloatRoot<true>{});
         } else {
-            n = clamp(n, -20, 20); // past these every root saturates, or rounds to 0
+            n = clampTo(n, -20, 20); // past these every root saturates, or rounds to 0
             if (sizeof(T) == 1 || n >= 0) return body(IntegerRoot<float, T>(n));
             return body(IntegerRoot<double, T>(n));
         }

@@ -1,8 +1,8 @@
 // tpxiBinToGray, tpxiGrayToBin: images of one bit a pixel, least significant bit first.
-#include "frame/simd/control.h"
 #include "frame/entry/entry.h"
 #include "frame/runs/memory_runs.h"
-#include "frame/simd/real.h"
+#include "frame/simd/control.h"
+#include "frame/simd/through_real.h"
 
 namespace tpx {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "frame/entry/entry.h"
 #include "frame/runs/memory_runs.h"
-#include "frame/simd/real.h"
+#include "frame/simd/through_real.h"
 
 namespace tpx {
 

@@ -44,7 +44,7 @@ struct To32u {
 template <class F>
 F scale(int n) {
     if constexpr (sizeof(F) == 8) {
-        return powerOfTwo<F>(-clamp(n, -1008, 1022)); // numbers, all of them
+        return powerOfTwo<F>(-clampTo(n, -1008, 1022)); // numbers, all of them
     } else {
         if (n > 149) return 0;
         if (n > 126) return __builtin_bit_cast(F, Tpx32u(1) << (149 - n)); // denormal
@@ -70,7 +70,7 @@ TpxStatus convertReal(const S* src, int srcStep, D* dst, int dstStep, TpxiSize r
         } else {
             // Samples are scaled exactly, in two steps that no factor of a sample in range leaves: beyond these
             // limits any number is less than a half, or denormals too are above 2^32. Zero stays 0.
-            const int m = clamp(n, -190, 160);
+            const int m = clampTo(n, -190, 160);
             return run(bits, To32u<kHalf>{scale<S>(m / 2), scale<S>(m - m / 2)});
         }
     });

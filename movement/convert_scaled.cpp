@@ -76,7 +76,7 @@ TpxStatus convertScaled(const S* src, int srcStep, D* dst, int dstStep, TpxiSize
             });
     if (n == 0) return run(Narrow<S, D>{});
     // From the number of value bits on, whatever is not 0 saturates.
-    if (n < 0) return run(Grow<S, D>{-clamp(n, -kValueBits, 0)});
+    if (n < 0) return run(Grow<S, D>{-clampTo(n, -kValueBits, 0)});
     if (mode == tpxRoundTowardZero) return run(Shrink<S, D, tpxRoundTowardZero>{n});
     if (mode == tpxRoundNearestEven) return run(Shrink<S, D, tpxRoundNearestEven>{n});
     return run(Shrink<S, D, tpxRoundHalfAway>{n});

@@ -1,7 +1,7 @@
 // The smallest and the largest samples of an image's channels.
 #pragma once
 
-#include "frame/simd/real.h"
+#include "frame/simd/through_real.h"
 #include "statistics/tally.h"
 
 namespace tpx {

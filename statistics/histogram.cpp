@@ -5,7 +5,7 @@
 // the levels.
 #include "frame/entry/entry.h"
 #include "frame/runs/memory_runs.h"
-#include "frame/simd/real.h"
+#include "frame/simd/through_real.h"
 #include "statistics/levels.h"
 
 namespace tpx {
@@ -201,7 +201,7 @@ struct ByteTables {
 
 template <class T>
 constexpr Tpx32s entryOf(Tpx32s level) {
-    return clamp(level, kMin<T>, kMax<T> + 1) - kMin<T>;
+    return clampTo(level, kMin<T>, kMax<T> + 1) - kMin<T>;
 }
 
 Tpx32u sumEntries(const Counter* table, ptrdiff_t begin, ptrdiff_t end) {

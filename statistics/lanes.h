@@ -1,7 +1,7 @@
 // Sums as lanes of a tally: of samples, of products, of squares, and of what a term makes of samples.
 #pragma once
 
-#include "frame/simd/real.h"
+#include "frame/simd/through_real.h"
 #include "statistics/tally.h"
 
 namespace tpx {

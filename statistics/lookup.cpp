@@ -3,7 +3,7 @@
 
 #include "frame/entry/entry.h"
 #include "frame/runs/pixel_runs.h"
-#include "frame/simd/real.h"
+#include "frame/simd/through_real.h"
 #include "statistics/lookup_spec.h"
 
 namespace tpx {

@@ -4,7 +4,7 @@
 #include <limits.h>
 
 #include "frame/entry/entry.h"
-#include "frame/simd/real.h"
+#include "frame/simd/through_real.h"
 
 namespace tpx {
 namespace {
@@ -75,7 +75,7 @@ void fillTable(T* table, int begin, int end, const CubicSegment& segment) {
 template <class T>
 void buildTable(T* table, Curve curve, const Tpx32s* levels, const Tpx32s* values, ptrdiff_t n) {
     for (int x = 0; x <= int(std::make_unsigned_t<T>(~0)); x++) table[x] = T(x);
-    const auto limited = [&](ptrdiff_t k) { return clamp(levelAt(levels, k), kMin<T>, kMax<T> + 1); };
+    const auto limited = [&](ptrdiff_t k) { return clampTo(levelAt(levels, k), kMin<T>, kMax<T> + 1); };
     for (ptrdiff_t k = 0; k + 1 < n; k++)
         if (limited(k) < limited(k + 1))
             fillTable(table, limited(k), limited(k + 1), segmentOf(curve, levels, values, k, n));
@@ -87,14 +87,14 @@ void buildTable(T* table, Curve curve, const Tpx32s* levels, const Tpx32s* value
 template <class T, class L>
 Tpx32f searchedLevel(const L* levels, ptrdiff_t k) {
     if constexpr (kHasTable<T>)
-        return Tpx32f(clamp(levelAt(levels, k), kMin<T>, kMax<T> + 1));
+        return Tpx32f(clampTo(levelAt(levels, k), kMin<T>, kMax<T> + 1));
     else
         return levelAt(levels, k);
 }
 template <class T, class L>
 Tpx32f searchedValue(const L* values, ptrdiff_t k) {
     if constexpr (kHasTable<T>)
-        return Tpx32f(clamp(levelAt(values, k), kMin<T>, kMax<T>));
+        return Tpx32f(clampTo(levelAt(values, k), kMin<T>, kMax<T>));
     else
         return levelAt(values, k);
 }

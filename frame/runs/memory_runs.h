@@ -7,7 +7,7 @@
 
 namespace tpx {
 
-// ---- Copies (frame/runs/memory_runs.cpp) ---------------------------------------------------------------------
+// ---- Copies (frame/runs/memory_runs.cpp) --------------------------------------------------------------------
 
 // Forwards. The ranges may overlap if the destination lies below the source.
 void copyRow(void* dst, const void* src, int64_t bytes);
@@ -18,9 +18,9 @@ void copyRowBackward(void* dst, const void* src, int64_t bytes);
 // Past the caches, line by line. The ranges do not overlap. The caller fences once, after its last row.
 void copyRowStreaming(void* dst, const void* src, int64_t bytes);
 
-// writeRun (frame/runs/runs.h) past the caches: dst[i...] = at(i, k), where k is the register's place in its group
-// of G, as in mapGroups. fetch(i, n) asks for what n samples from i on will need, plain(i, n) writes them into
-// the caches. The destination is no source. The caller fences once, after its last row.
+// writeRun (frame/runs/runs.h) past the caches: dst[i...] = at(i, k), where k is the register's place in its
+// group of G, as in mapGroups. fetch(i, n) asks for what n samples from i on will need, plain(i, n) writes them
+// into the caches. The destination is no source. The caller fences once, after its last row.
 //
 // Stores past the caches leave the processor as whole lines if nothing else comes between the parts of a line,
 // so results are gathered in a small block and moved out in one go. Four places are worked on side by side, and
@@ -109,7 +109,7 @@ inline Pattern makePattern(const void* pixel, int pixelBytes) {
     V8u period[kPieces];
     for (int i = 0; i < kPieces; i++) {
         const V8u phases = load(kPatternPhases.of[pixelBytes] + i * int(sizeof(V8u)));
-        period[i] = V8u(_mm_shuffle_epi8(__m128i(one), __m128i(phases)));
+        period[i] = shuffleBytes(one, phases);
     }
     Pattern pattern;
     for (int i = 0; i < int(sizeof pattern.bytes / sizeof(V8u)); i++)

@@ -34,7 +34,7 @@ struct Slope {
 
 // The direction is in the instruction and x - whole is exact, so the control register has no say.
 inline V32f roundHalfAway(V32f x) {
-    const V32f whole = V32f(_mm256_round_ps(x, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC));
+    const V32f whole = rounded<Rounding::TowardZero>(x);
     const V32f rest = x - whole;
     const V32f up = rest >= 0.5f ? splat<V32f>(1) : V32f{}, down = rest <= -0.5f ? splat<V32f>(1) : V32f{};
     return whole + up - down;

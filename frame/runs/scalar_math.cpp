@@ -3,8 +3,8 @@
 // Errors, in units in the last place, measured against a library of 64-bit significands under rounding to
 // nearest: sine and cosine below 0.80 over all finite arguments, ExpOne 0.76, LogOne 0.85, PowOne 0.75; a
 // denormal result is rounded twice and stays below 0.80. ExpOneF: 0.74. The square roots are the processor's.
-#include "frame/simd/math.h"
 #include "frame/runs/routines.h"
+#include "frame/simd/math.h"
 
 namespace tpx {
 namespace {
@@ -15,11 +15,6 @@ constexpr double kInfinity = __builtin_huge_val();
 inline Tpx64u bitsOf(double x) { return bitsAs<Tpx64u>(x); }
 inline double fromBits(Tpx64u bits) { return bitsAs<double>(bits); }
 inline double magnitudeOf(double x) { return fromBits(bitsOf(x) & ~kSignBit); }
-
-template <int Direction>
-inline double rounded(double x) {
-    return _mm_cvtsd_f64(_mm_round_sd(_mm_set_sd(x), _mm_set_sd(x), Direction | _MM_FROUND_NO_EXC));
-}
 
 // ---- Numbers of twice the precision ----------------------------------------------------------------------
 // The exact sum is by D. E. Knuth, the exact product by T. J. Dekker and G. W. Veltkamp (Numerische Mathematik
@@ -99,7 +94,7 @@ struct Angle {
 // For 0 <= x < 90112: at most 57368 quarters, 16 bits. The difference to the first product is exact, since the
 // two are so close, and the next ones keep what they lose.
 inline Angle reduced(double x) {
-    const double n = rounded<_MM_FROUND_TO_NEAREST_INT>(x * 0x1.45F306DC9C883p-1);
+    const double n = rounded<Rounding::Nearest>(x * 0x1.45F306DC9C883p-1);
     Twofold rest = exactSum(x - n * kHalfPi[0], -n * kHalfPi[1]);
     rest = rest + exactSum(-n * kHalfPi[2], -n * kHalfPi[3]);
     return {Tpx64u(Tpx32s(n)), rest};
@@ -202,7 +197,7 @@ inline double power(double x, double y) {
     if (y == 0 || x == 1) return 1;
     if (x != x || y != y) return x + y;
     const double base = magnitudeOf(x);
-    const auto isWhole = [](double v) { return rounded<_MM_FROUND_TO_NEG_INF>(v) == v; };
+    const auto isWhole = [](double v) { return rounded<Rounding::Down>(v) == v; };
     if (x < 0 && base < kInfinity && !isWhole(y)) return kInfinity - kInfinity;
 
     const bool odd = isWhole(y) && !isWhole(0.5 * y);
@@ -225,17 +220,15 @@ inline double power(double x, double y) {
 using namespace tpx;
 
 double TPXS(FabsOne)(double x) { return magnitudeOf(x); }
-double TPXS(FloorOne)(double x) { return rounded<_MM_FROUND_TO_NEG_INF>(x); }
-double TPXS(CeilOne)(double x) { return rounded<_MM_FROUND_TO_POS_INF>(x); }
-double TPXS(SqrtOne)(double x) { return _mm_cvtsd_f64(_mm_sqrt_sd(_mm_set_sd(x), _mm_set_sd(x))); }
+double TPXS(FloorOne)(double x) { return rounded<Rounding::Down>(x); }
+double TPXS(CeilOne)(double x) { return rounded<Rounding::Up>(x); }
+double TPXS(SqrtOne)(double x) { return squareRoot(x); }
 double TPXS(SinOne)(double x) { return sineOrCosine<kSelectSine>(x, ownsSinOne); }
 double TPXS(CosOne)(double x) { return sineOrCosine<kSelectCosine>(x, ownsCosOne); }
 double TPXS(ExpOne)(double x) { return exponential(splat<V64f>(x))[0]; }
 double TPXS(LogOne)(double x) { return logarithm(splat<V64f>(x))[0]; }
 double TPXS(PowOne)(double x, double y) { return power(x, y); }
 
-float TPXS(FloorOneF)(float x) {
-    return _mm_cvtss_f32(_mm_round_ss(_mm_set_ss(x), _mm_set_ss(x), _MM_FROUND_TO_NEG_INF | _MM_FROUND_NO_EXC));
-}
-float TPXS(SqrtOneF)(float x) { return _mm_cvtss_f32(_mm_sqrt_ss(_mm_set_ss(x))); }
+float TPXS(FloorOneF)(float x) { return rounded<Rounding::Down>(x); }
+float TPXS(SqrtOneF)(float x) { return squareRoot(x); }
 float TPXS(ExpOneF)(float x) { return exponential(splat<V32f>(x))[0]; }

@@ -28,21 +28,12 @@ inline ptrdiff_t bytesToLine(const void* p) {
     return static_cast<ptrdiff_t>(-reinterpret_cast<uintptr_t>(p) & (kLineBytes - 1));
 }
 
-// The address lies on a register's boundary.
-template <class T>
-inline void streamStore(T* p, Vec<T> v) {
-    if constexpr (sizeof(v) == 32)
-        _mm256_stream_si256(reinterpret_cast<__m256i*>(p), bitsAs<__m256i>(v));
-    else
-        _mm_stream_si128(reinterpret_cast<__m128i*>(p), bitsAs<__m128i>(v));
-}
-
 // Moves whole lines past the caches; both addresses lie on lines.
 inline void streamLines(Tpx8u* dst, const Tpx8u* lines, ptrdiff_t bytes) {
     for (ptrdiff_t i = 0; i < bytes; i += ptrdiff_t(sizeof(V32f))) {
         V32f v;
         __builtin_memcpy(&v, lines + i, sizeof v);
-        _mm256_stream_ps(reinterpret_cast<float*>(dst + i), v);
+        streamStore(reinterpret_cast<float*>(dst + i), v);
     }
 }
 
@@ -62,8 +53,5 @@ inline ptrdiff_t walkFourStreams(ptrdiff_t len, ptrdiff_t turnLength, ptrdiff_t 
     }
     return i;
 }
-
-// Ends a call that has streamed, so that the result is visible to whoever synchronises with the caller.
-inline void streamFence() { _mm_sfence(); }
 
 } // namespace tpx

@@ -2,11 +2,9 @@
 // caller has set there.
 #pragma once
 
-#include "tpxi/types.h"
+#include "frame/simd/core.h"
 
 namespace tpx {
-
-enum class Rounding : Tpx32u { Nearest = 0, TowardZero = 0x6000, OfThread = 0x10000 };
 
 // Installs a rounding direction while it lives. Exceptions do not trap, and results too small for a normal
 // number are zeros, which no rounding to integers tells from the numbers they were; samples that are denormal
@@ -18,7 +16,7 @@ class FloatControl {
     explicit FloatControl(Rounding rounding) {
         constexpr Tpx32u kNoTraps = 0x1F80, kFlushToZero = 0x8000, kRounding = 0x6000;
         asm volatile("vstmxcsr %0" : "=m"(callers_)::"memory");
-        const Tpx32u direction = rounding == Rounding::OfThread ? callers_ & kRounding : Tpx32u(rounding);
+        const Tpx32u direction = rounding == Rounding::OfThread ? callers_ & kRounding : Tpx32u(rounding) << 13;
         install(kNoTraps | kFlushToZero | direction);
     }
     ~FloatControl() { install(callers_); }

@@ -100,12 +100,6 @@ inline V sumOfThree(V big, V middle, V small) {
     return sum + ((middle - (sum - big)) + small);
 }
 
-// The value where the mask is set, 0 elsewhere.
-template <class V, class M>
-inline V masked(M mask, V value) {
-    return bitsAs<V>(bitsAs<VecBits<LaneOf<V>>>(mask) & bitsAs<VecBits<LaneOf<V>>>(value));
-}
-
 // ---- The functions --------------------------------------------------------------------------------------
 
 // Natural logarithm. -infinity at zeros of either sign, NaN for negative arguments.

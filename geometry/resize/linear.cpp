@@ -154,7 +154,7 @@ class RowPass8u {
         for (int64_t g = 0; g < groups; g++) {
             const Tpx32s* const at = indexOf(g);
             if ((int64_t(at[kPixels - 1]) - at[0] + 2) * N > 16) return false;
-            const int64_t start = lesser((int64_t(at[0]) - index[0]) * N, rowBytes - 16);
+            const int64_t start = minOf((int64_t(at[0]) - index[0]) * N, rowBytes - 16);
             starts[g] = Tpx32u(start);
             Tpx8u* shuffle = shuffles + 2 * kSamples * g;
             for (int k = 0; k < kPixels; k++) {
@@ -198,10 +198,10 @@ class RowPass8u {
         starts = reinterpret_cast<Tpx32u*>(alignUp(shuffles + bytesOf(width), 4));
         const Tpx16s* const fromPlan = weightsOf<Tpx8u>(axis);
         const int64_t lastGroup = (groups - 1) * kPixels;
-        for (int k = 0; k < kPixels; k++) lastIndex[k] = index[lesser(lastGroup + k, width - 1)];
+        for (int k = 0; k < kPixels; k++) lastIndex[k] = index[minOf(lastGroup + k, width - 1)];
         Tpx16s* weight = weights;
         for (int64_t j = 0; j < groups * kPixels; j++) {
-            const int q = weightAlongX<Tpx8u>(fromPlan, x + lesser(j, width - 1));
+            const int q = weightAlongX<Tpx8u>(fromPlan, x + minOf(j, width - 1));
             for (int c = 0; c < N; c++) *weight++ = Tpx16s(-2 * q);
         }
         prepared = prepareLoads(width);

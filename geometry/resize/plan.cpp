@@ -328,7 +328,7 @@ TpxStatus initialiseLanczos(typename Form::Size srcSize, typename Form::Size dst
 // Bytes of the work buffer for a tile of the plan, or a negative status.
 int64_t workSize(const TpxiResizeSpec& plan, TpxiSizeL tile, int64_t channels) {
     const TpxiResizeAxis &x = plan.axisX, &y = plan.axisY;
-    const int64_t w = lesser<int64_t>(tile.width, x.dstLen), h = lesser<int64_t>(tile.height, y.dstLen);
+    const int64_t w = minOf<int64_t>(tile.width, x.dstLen), h = minOf<int64_t>(tile.height, y.dstLen);
     const int64_t lobesX = plan.lobesX, lobesY = plan.lobesY;
 
     if (plan.dataType == tpxDataType64f) {
@@ -352,8 +352,8 @@ int64_t workSize(const TpxiResizeSpec& plan, TpxiSizeL tile, int64_t channels) {
         }
         case tpxInterpolationSuper: {
             const float covered = Tpx32f(x.srcRatio) * Tpx32f(w) / Tpx32f(x.dstRatio) + 3.0f;
-            const int64_t columns = lesser<int64_t>(int64_t(covered), x.srcLen);
-            const int64_t rows = lesser<int64_t>(y.dstRatio, tile.height);
+            const int64_t columns = minOf<int64_t>(int64_t(covered), x.srcLen);
+            const int64_t rows = minOf<int64_t>(y.dstRatio, tile.height);
             int64_t ring;
             if (__builtin_mul_overflow(4 * channels * roundUp32(columns) + 8, rows, &ring) ||
                 __builtin_add_overflow(bytes + 32, ring, &bytes))
@@ -427,7 +427,7 @@ TpxStatus getSrcRoi(const TpxiResizeSpec* pSpec, typename Form::Point dstRoiOffs
     const auto along = [&](const TpxiResizeAxis& axis, int64_t d, int64_t len, Length& offset, Length& extent) {
         const int64_t from = srcOffset(plan, axis, d);
         offset = Length(from);
-        extent = Length(srcExtent(plan, axis, d, lesser(len, axis.dstLen - d), from));
+        extent = Length(srcExtent(plan, axis, d, minOf(len, axis.dstLen - d), from));
     };
     along(plan.axisX, dstRoiOffset.x, dstRoiSize.width, pSrcRoiOffset->x, pSrcRoiSize->width);
     along(plan.axisY, dstRoiOffset.y, dstRoiSize.height, pSrcRoiOffset->y, pSrcRoiSize->height);

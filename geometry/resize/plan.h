@@ -6,6 +6,7 @@
 #include <stddef.h>
 
 #include "frame/runs/routines.h"
+#include "frame/simd/core.h"
 #include "tpxi/geometry.h"
 
 // One axis: where each destination position lies in the source, and with which weights.
@@ -103,11 +104,6 @@ inline bool isOutside(Point offset, const TpxiResizeSpec& plan) {
 template <class Size>
 inline bool isLarger(Size tile, const TpxiResizeSpec& plan) {
     return tile.width > plan.axisX.dstLen || tile.height > plan.axisY.dstLen;
-}
-
-template <class Int>
-constexpr Int lesser(Int a, Int b) {
-    return a < b ? a : b;
 }
 
 } // namespace tpx

@@ -49,18 +49,6 @@ inline TpxStatus checkTile(const TileCall<Form, T>& call, TpxInterpolationType i
     return tpxOk;
 }
 
-// One sample at an address of any alignment.
-template <class T>
-inline T peek(const T* p) {
-    T value;
-    __builtin_memcpy(&value, p, sizeof value);
-    return value;
-}
-template <class T>
-inline void poke(T* p, T value) {
-    __builtin_memcpy(p, &value, sizeof value);
-}
-
 // What a call returns whose tile has been computed.
 template <class Form, class T>
 inline TpxStatus doneTile(const TileCall<Form, T>& call) {
@@ -102,8 +90,8 @@ inline Tile makeTile(const TileCall<Form, T>& call, int channels) {
             call.dstStep,
             x,
             y,
-            lesser<int64_t>(call.size.width, plan.axisX.dstLen - x),
-            lesser<int64_t>(call.size.height, plan.axisY.dstLen - y),
+            minOf<int64_t>(call.size.width, plan.axisX.dstLen - x),
+            minOf<int64_t>(call.size.height, plan.axisY.dstLen - y),
             call.buffer};
 }
 
@@ -115,7 +103,7 @@ struct Strips {
 inline Strips stripsOf(const Tile& tile, TpxBorderType border) {
     const TpxiResizeAxis &ax = tile.plan.axisX, &ay = tile.plan.axisY;
     const auto strip = [&](TpxBorderType inMemory, int64_t count, int64_t size) -> int64_t {
-        return (border & inMemory) || count < 0 ? 0 : lesser(count, size);
+        return (border & inMemory) || count < 0 ? 0 : minOf(count, size);
     };
     return {strip(tpxBorderInMemLeft, ax.leadCount - tile.x, tile.width),
             strip(tpxBorderInMemTop, ay.leadCount - tile.y, tile.height),

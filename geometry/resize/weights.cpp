@@ -155,7 +155,7 @@ void buildSuper(TpxiResizeAxis& axis) {
         Tpx32f* const weight = axis.pCoef32f + i * run;
         int64_t at = int64_t(scale * double(i)), k = 0;
         const auto put = [&](double w) {
-            index[k] = Tpx32s(lesser(at, last)); // only a weight of zero may lie past the period
+            index[k] = Tpx32s(minOf(at, last)); // only a weight of zero may lie past the period
             weight[k++] = w <= 1e-07 ? 0 : Tpx32f(w);
         };
         put(uncovered);

@@ -1,0 +1,248 @@
+// Registers of samples, and the SIMD operations on any of them: loads and stores, constants, choosing.
+//
+// Vec<T> is a register of samples of type T. Operators, comparisons and ?: work on it lane by lane, so a rule
+// is written as it would be for one sample. Nothing else states how wide a register is.
+#pragma once
+
+#include <immintrin.h>
+#include <stddef.h>
+
+#include <type_traits>
+
+#include "tpxi/types.h"
+
+namespace tpx {
+
+// ---- Single numbers --------------------------------------------------------------------------------------
+
+template <class T>
+inline constexpr int kBits = int(sizeof(T)) * 8;
+template <class T>
+inline constexpr T kMax = std::is_signed_v<T> ? T((1u << (kBits<T> - 1)) - 1) : T(~0u);
+template <class T>
+inline constexpr T kMin = std::is_signed_v<T> ? T(-kMax<T> - 1) : T(0);
+
+// Directions of rounding, as instructions and the control register number them.
+enum class Rounding { Nearest, Down, Up, TowardZero, OfThread };
+
+// One sample at an address of any alignment.
+template <class T>
+inline T peek(const T* p) {
+    T value;
+    __builtin_memcpy(&value, p, sizeof value);
+    return value;
+}
+template <class T>
+inline void poke(T* p, T value) {
+    __builtin_memcpy(p, &value, sizeof value);
+}
+
+// ---- Registers -----------------------------------------------------------------------------------------
+
+// AVX has 32-byte arithmetic for floating point alone; integers work in 16 bytes.
+template <class T>
+inline constexpr int kRegisterBytes = std::is_floating_point_v<T> ? 32 : 16;
+
+template <class T>
+struct VecOf {
+    typedef T type __attribute__((vector_size(kRegisterBytes<T>)));
+};
+template <class T>
+using Vec = typename VecOf<T>::type;
+
+template <class T>
+inline constexpr int kLanes = kRegisterBytes<T> / int(sizeof(T));
+
+using V8u = Vec<Tpx8u>;
+using V8s = Vec<Tpx8s>;
+using V16u = Vec<Tpx16u>;
+using V16s = Vec<Tpx16s>;
+using V32u = Vec<Tpx32u>;
+using V32s = Vec<Tpx32s>;
+using V64u = Vec<Tpx64u>;
+using V32f = Vec<Tpx32f>;
+using V64f = Vec<Tpx64f>;
+
+template <class V>
+using LaneOf = std::remove_cvref_t<decltype(V{}[0])>;
+
+// Two registers that together hold the lanes of one register of samples half their width.
+template <class V>
+struct Pair {
+    V low, high;
+};
+
+// N registers.
+template <class V, int N>
+struct Several {
+    V at[N];
+};
+
+// The integer with the width of a floating-point sample, and its register (32 bytes, unlike Vec<Tpx32s>):
+// what a comparison of Vec<T> gives, and how the bits of a float are worked on.
+template <class T>
+using BitsOf = std::conditional_t<sizeof(T) == 8, Tpx64s, Tpx32s>;
+template <class T>
+struct VecBitsOf {
+    typedef BitsOf<T> type __attribute__((vector_size(kRegisterBytes<T>)));
+};
+template <class T>
+using VecBits = typename VecBitsOf<T>::type;
+using B32f = VecBits<Tpx32f>;
+using B64f = VecBits<Tpx64f>;
+
+// Integers in a register of the width that floating point has, and in two as Vec has them.
+inline B32f join(Pair<V32s> a) {
+    return B32f(_mm256_insertf128_si256(_mm256_castsi128_si256(__m128i(a.low)), __m128i(a.high), 1));
+}
+inline Pair<V32s> split(B32f a) {
+    return {V32s(_mm256_castsi256_si128(__m256i(a))), V32s(_mm256_extractf128_si256(__m256i(a), 1))};
+}
+
+// ---- Memory and constants: addresses need no alignment --------------------------------------------------
+
+template <class T>
+inline Vec<T> load(const T* p) {
+    Vec<T> v;
+    __builtin_memcpy(&v, p, sizeof v);
+    return v;
+}
+
+template <class T>
+inline void store(T* p, Vec<T> v) {
+    __builtin_memcpy(p, &v, sizeof v);
+}
+
+// The same bits seen as other lanes.
+template <class To, class From>
+inline To bitsAs(From v) {
+    static_assert(sizeof(To) == sizeof(From));
+    To to;
+    __builtin_memcpy(&to, &v, sizeof to);
+    return to;
+}
+
+// A line of the caches. Lines that go past them are written whole, on their own boundaries: a half-written one
+// costs a read of memory.
+inline constexpr ptrdiff_t kLineBytes = 64;
+
+// Asks for the lines that will be read some turns after these bytes; they may lie outside the image. The
+// processor by itself is late, above all with several sources.
+inline void fetchAhead(const void* p, ptrdiff_t bytes) {
+    constexpr ptrdiff_t kAhead = 512;
+    for (ptrdiff_t i = kAhead; i < kAhead + bytes; i += kLineBytes)
+        _mm_prefetch(reinterpret_cast<const char*>(reinterpret_cast<uintptr_t>(p) + uintptr_t(i)), _MM_HINT_T0);
+}
+
+// Brings the line of an address near, whatever lies there.
+inline void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_T0); }
+
+// Past the caches, to an address on a register's boundary. They pay for what is read no more; a call that has
+// streamed ends with the fence, so that the result is visible to whoever synchronises with the caller.
+template <class T>
+inline void streamStore(T* p, Vec<T> v) {
+    if constexpr (sizeof(v) == 32)
+        _mm256_stream_si256(reinterpret_cast<__m256i*>(p), bitsAs<__m256i>(v));
+    else
+        _mm_stream_si128(reinterpret_cast<__m128i*>(p), bitsAs<__m128i>(v));
+}
+inline void streamFence() { _mm_sfence(); }
+// Orders reads too, after loads that may have gone past the caches.
+inline void readFence() { _mm_mfence(); }
+
+// One value in every lane.
+template <class V>
+inline V splat(LaneOf<V> value) {
+    return value - V{};
+}
+template <>
+inline V32f splat<V32f>(float value) {
+    return _mm256_set1_ps(value);
+}
+template <>
+inline V64f splat<V64f>(double value) {
+    return _mm256_set1_pd(value);
+}
+
+// ---- Choosing ------------------------------------------------------------------------------------------
+
+// a < b ? a : b, of registers and of single numbers, so `b` where one of them is NaN or both are zeros; the
+// instructions for floats do just that, but g++ does not find them. maxOf likewise.
+template <class V>
+constexpr V minOf(V a, V b) {
+    if constexpr (std::is_same_v<V, V32f>)
+        return V(_mm256_min_ps(a, b));
+    else if constexpr (std::is_same_v<V, V64f>)
+        return V(_mm256_min_pd(a, b));
+    else
+        return a < b ? a : b;
+}
+template <class V>
+constexpr V maxOf(V a, V b) {
+    if constexpr (std::is_same_v<V, V32f>)
+        return V(_mm256_max_ps(a, b));
+    else if constexpr (std::is_same_v<V, V64f>)
+        return V(_mm256_max_pd(a, b));
+    else
+        return a > b ? a : b;
+}
+
+// Limited to low..high; NaN gives `low`.
+template <class V>
+constexpr V clampTo(V x, std::type_identity_t<V> low, std::type_identity_t<V> high) {
+    return minOf(maxOf(x, low), high);
+}
+
+// The lanes of `a` where the mask, a comparison's result kept in a variable, is set; of `b` elsewhere.
+template <class V, class M>
+inline V select(M mask, V a, V b) {
+    using Lane = LaneOf<V>;
+    if constexpr (std::is_same_v<Lane, float>)
+        return V(_mm256_blendv_ps(bitsAs<__m256>(b), bitsAs<__m256>(a), bitsAs<__m256>(mask)));
+    else if constexpr (std::is_same_v<Lane, double>)
+        return V(_mm256_blendv_pd(bitsAs<__m256d>(b), bitsAs<__m256d>(a), bitsAs<__m256d>(mask)));
+    else
+        return bitsAs<V>(_mm_blendv_epi8(bitsAs<__m128i>(b), bitsAs<__m128i>(a), bitsAs<__m128i>(mask)));
+}
+
+// The lanes of `a` whose bit of Mask is set, bit i for lane i; of `b` elsewhere.
+template <int Mask, class V>
+inline V selectLanes(V a, V b) {
+    if constexpr (std::is_same_v<V, V32f>) {
+        return V(_mm256_blend_ps(b, a, Mask));
+    } else if constexpr (std::is_same_v<V, V64f>) {
+        return V(_mm256_blend_pd(b, a, Mask));
+    } else {
+        constexpr int kBytes = sizeof(LaneOf<V>);
+        static_assert(kBytes == 2 || kBytes == 4);
+        constexpr auto kUnits = [](int mask) { // of 16 bits
+            int units = 0;
+            for (int i = 0; i < 8; i++) units |= (mask >> i * 2 / kBytes & 1) << i;
+            return units;
+        };
+        return bitsAs<V>(_mm_blend_epi16(bitsAs<__m128i>(b), bitsAs<__m128i>(a), kUnits(Mask)));
+    }
+}
+
+// The value where the mask is set, 0 elsewhere.
+template <class V, class M>
+inline V masked(M mask, V value) {
+    return bitsAs<V>(bitsAs<VecBits<LaneOf<V>>>(mask) & bitsAs<VecBits<LaneOf<V>>>(value));
+}
+
+// 0 in the lanes where the mask is set, `a` elsewhere.
+template <class V, class M>
+inline V without(M mask, V a) {
+    return V(_mm_andnot_si128(__m128i(mask), __m128i(a)));
+}
+
+// Whether any bit of a mask is set.
+template <class V>
+inline bool any(V mask) {
+    if constexpr (sizeof(V) == 32)
+        return !_mm256_testz_si256(bitsAs<__m256i>(mask), bitsAs<__m256i>(mask));
+    else
+        return !_mm_testz_si128(bitsAs<__m128i>(mask), bitsAs<__m128i>(mask));
+}
+
+} // namespace tpx

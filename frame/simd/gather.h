@@ -1,0 +1,96 @@
+// Loads of what does not fill a register or does not lie together: pixels of four samples, and pairs of
+// neighbours at positions of a table. No sample is read but those that are asked for.
+#pragma once
+
+#include "frame/simd/real.h"
+#include "frame/simd/shuffle.h"
+
+namespace tpx {
+
+// ---- Four samples of floating point, 16 or 32 bytes ------------------------------------------------------
+
+template <class T>
+struct FourOf {
+    typedef T type __attribute__((vector_size(4 * sizeof(T))));
+};
+template <class T>
+using Four = typename FourOf<T>::type;
+
+// Four samples at any address, as single precision if they are integers.
+inline Four<double> loadFour(const double* p) { return load(p); }
+inline Four<float> loadFour(const float* p) { return Four<float>(_mm_loadu_ps(p)); }
+template <class T>
+inline Four<float> loadFour(const T* p) {
+    static_assert(sizeof(T) < 4);
+    return Four<float>(_mm_cvtepi32_ps(__m128i(loadAs<Tpx32s>(p))));
+}
+
+inline void storeFour(float* p, Four<float> a) { __builtin_memcpy(p, &a, sizeof a); }
+inline void storeFour(double* p, Four<double> a) { store(p, a); }
+
+// Lane K in all four.
+template <int K, class V>
+inline V broadcastLane(V a) {
+    static_assert(sizeof(V) == 4 * sizeof(LaneOf<V>));
+    return V(__builtin_shufflevector(a, a, K, K, K, K));
+}
+
+// As toInteger.
+inline V32s toInteger(Four<float> a) { return V32s(_mm_cvtps_epi32(__m128(a))); }
+
+// Four floats in both halves of a register; four from either of two addresses.
+inline V32f loadFourTwice(const float* p) {
+    return V32f(_mm256_broadcast_ps(reinterpret_cast<const __m128*>(p)));
+}
+inline V32f loadFours(const float* low, const float* high) { return V32f(_mm256_loadu2_m128(high, low)); }
+
+// ---- Registers of pieces ---------------------------------------------------------------------------------
+
+inline V8u fromPieces(Tpx64s a, Tpx64s b) { return V8u(_mm_set_epi64x(b, a)); }
+inline V8u fromPieces(Tpx32s a, Tpx32s b, Tpx32s c, Tpx32s d) { return V8u(_mm_setr_epi32(a, b, c, d)); }
+inline V8u fromPieces(Tpx16s a, Tpx16s b, Tpx16s c, Tpx16s d, Tpx16s e, Tpx16s f, Tpx16s g, Tpx16s h) {
+    return V8u(_mm_setr_epi16(a, b, c, d, e, f, g, h));
+}
+// The first eight bytes.
+inline Tpx64s firstPiece(V8u a) { return _mm_cvtsi128_si64(__m128i(a)); }
+
+// ---- Pairs of neighbours ---------------------------------------------------------------------------------
+
+// Doubles 0 and 1 at four addresses: the first ones, the second ones.
+inline Pair<V64f> loadPairsAt(const double* a, const double* b, const double* c, const double* d) {
+    const auto both = [](const double* low, const double* high) {
+        return V64f(_mm256_insertf128_pd(_mm256_castpd128_pd256(_mm_loadu_pd(low)), _mm_loadu_pd(high), 1));
+    };
+    const V64f ac = both(a, c), bd = both(b, d);
+    return {interleaveLow(ac, bd), interleaveHigh(ac, bd)};
+}
+
+// Pairs of 16-bit samples in lanes of 32 bits, eight of them, to floats.
+template <class T>
+inline Pair<V32f> splitPairs(V8u low, V8u high) {
+    static_assert(sizeof(T) == 2);
+    using Lanes = std::conditional_t<std::is_signed_v<T>, V32s, V32u>;
+    const auto a = bitsAs<Lanes>(low), b = bitsAs<Lanes>(high);
+    return {toFloat({V32s(a << 16 >> 16), V32s(b << 16 >> 16)}), toFloat({V32s(a >> 16), V32s(b >> 16)})};
+}
+
+// Samples at[i] and at[i] + 1 of a row, as floating point, for a register of positions.
+inline Pair<V64f> gatherNeighbours(const double* row, const Tpx32s* at) {
+    return loadPairsAt(row + at[0], row + at[1], row + at[2], row + at[3]);
+}
+inline Pair<V32f> gatherNeighbours(const float* row, const Tpx32s* at) {
+    const auto pair = [&](int k) { return peek(reinterpret_cast<const double*>(row + at[k])); };
+    const auto two = [&](int k) { return _mm_castpd_ps(_mm_set_pd(pair(k + 1), pair(k))); };
+    const auto four = [&](int k) { return joinHalves<V32f>(two(k), two(k + 4)); };
+    const V32f a = four(0), b = four(2);
+    return {evenLanes(a, b), oddLanes(a, b)};
+}
+template <class T>
+inline Pair<V32f> gatherNeighbours(const T* row, const Tpx32s* at) {
+    static_assert(sizeof(T) == 2);
+    const auto pair = [&](int k) { return peek(reinterpret_cast<const Tpx32s*>(row + at[k])); };
+    return splitPairs<T>(fromPieces(pair(0), pair(1), pair(2), pair(3)),
+                         fromPieces(pair(4), pair(5), pair(6), pair(7)));
+}
+
+} // namespace tpx
