@@ -10,8 +10,7 @@
 #pragma once
 
 #include "frame/entry/entry.h"
-#include "frame/runs/memory_runs.h"
-#include "frame/runs/table_runs.h"
+#include "frame/images/pointwise.h"
 
 namespace tpx {
 

@@ -1,6 +1,6 @@
 // tpxiBinToGray, tpxiGrayToBin: images of one bit a pixel, least significant bit first.
 #include "frame/entry/entry.h"
-#include "frame/runs/memory_runs.h"
+#include "frame/images/pointwise.h"
 #include "frame/simd/control.h"
 #include "frame/simd/through_real.h"
 

@@ -5,7 +5,7 @@
 #include "frame/images/border.h"
 
 #include "frame/entry/entry.h"
-#include "frame/runs/memory_runs.h"
+#include "frame/images/pointwise.h"
 #include "frame/runs/reverse.h"
 
 namespace tpx {

@@ -1,6 +1,6 @@
 // tpxiCopy between pixels and single channels or planes, tpxiSet of one channel, tpxiDup.
 #include "frame/entry/entry.h"
-#include "frame/runs/pixel_runs.h"
+#include "frame/images/pixels.h"
 
 namespace tpx {
 namespace {

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "frame/entry/entry.h"
-#include "frame/runs/memory_runs.h"
+#include "frame/images/pointwise.h"
 #include "frame/simd/through_real.h"
 
 namespace tpx {

@@ -1,6 +1,6 @@
 // tpxiCopy: pixels from one image to another, as bits.
 #include "frame/entry/entry.h"
-#include "frame/runs/memory_runs.h"
+#include "frame/images/pointwise.h"
 #include "frame/runs/streaming.h"
 #include "movement/pixel_shuffle.h"
 

@@ -2,8 +2,8 @@
 // a channel. Blocks are shuffled by controls that are made from the order once a call.
 #pragma once
 
-#include "frame/runs/memory_runs.h"
-#include "frame/runs/pixel_runs.h"
+#include "frame/images/pointwise.h"
+#include "frame/images/pixels.h"
 
 namespace tpx {
 

@@ -1,6 +1,6 @@
 // tpxiSet: a region filled with one pixel value.
 #include "frame/entry/entry.h"
-#include "frame/runs/memory_runs.h"
+#include "frame/images/pointwise.h"
 #include "frame/runs/streaming.h"
 
 namespace tpx {

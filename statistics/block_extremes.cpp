@@ -4,7 +4,7 @@
 // cache; then the columns of each block are folded into one sample. A sample that is folded in twice changes
 // nothing, so cut rows, columns and registers overlap their neighbours.
 #include "frame/entry/entry.h"
-#include "frame/runs/memory_runs.h"
+#include "frame/images/pointwise.h"
 #include "statistics/extremes.h"
 
 namespace tpx {

@@ -4,7 +4,7 @@
 // value, whose sections are the bins. Other samples go as floats, in blocks of one channel, to a search among
 // the levels.
 #include "frame/entry/entry.h"
-#include "frame/runs/memory_runs.h"
+#include "frame/images/pointwise.h"
 #include "frame/simd/through_real.h"
 #include "statistics/levels.h"
 

@@ -1,5 +1,5 @@
 // tpxiLUT: samples through functions of levels, from the tables of a spec or by searches in its levels.
-#include "frame/runs/table_runs.h"
+#include "frame/images/pointwise.h"
 
 #include "frame/entry/entry.h"
 #include "frame/runs/pixel_runs.h"

@@ -1,6 +1,6 @@
 // tpxiLUTPalette: samples replaced by the entries of the caller's tables.
 #include "frame/entry/entry.h"
-#include "frame/runs/table_runs.h"
+#include "frame/images/pointwise.h"
 
 namespace tpx {
 namespace {

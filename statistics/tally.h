@@ -12,6 +12,7 @@
 // Lanes are made of other lanes: a norm is a term in front of a sum (lanes.h).
 #pragma once
 
+#include "frame/images/walk.h"
 #include "frame/runs/runs.h"
 
 namespace tpx {

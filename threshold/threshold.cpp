@@ -1,6 +1,6 @@
 // tpxiThreshold: samples clamped or replaced against thresholds.
 #include "frame/entry/entry.h"
-#include "frame/runs/memory_runs.h"
+#include "frame/images/pointwise.h"
 
 namespace tpx {
 namespace {
@@ -53,27 +53,26 @@ inline V32f replaceOutside(V32f x, V32f low, V32f lowValue, V32f high, V32f high
     return low <= x ? upper : lowValue; // the lower threshold has the last word: NaN gives its value
 }
 
-// ---- One walk for all layouts ----------------------------------------------------------------------------
+// ---- Constants and checks ---------------------------------------------------------------------------------
 
+// As callers give constants: a sample for C1, an array for layouts of several channels.
+template <Layout L, class T>
+using Given = std::conditional_t<L == Layout::C1, T, const T*>;
 template <class T>
-struct Images {
-    const T* src;
-    ptrdiff_t srcStep;
-    T* dst;
-    ptrdiff_t dstStep;
-    TpxiSize roi;
-};
+const T* arrayOf(const T& sample) {
+    return &sample;
+}
+template <class T>
+const T* arrayOf(const T* const& samples) {
+    return samples;
+}
 
-// Pixels of three samples have three registers of constants, which repeat.
-template <Layout L>
-inline constexpr int kGroup = L == Layout::C3 ? 3 : 1;
-
-// One value a channel, as registers. Of AC4 three are read.
+// One value a channel, as the registers that repeat with the pixels.
 template <Layout L, class T>
 struct Constant {
     explicit Constant(const T* values) {
         T pixel[4] = {};
-        __builtin_memcpy(pixel, values, sizeof(T) * (L == Layout::AC4 ? 3 : channelsOf(L)));
+        __builtin_memcpy(pixel, values, sizeof(T) * coloursOf(L));
         const Pattern pattern = makePattern(pixel, channelsOf(L) * int(sizeof(T)));
         for (int k = 0; k < kGroup<L>; k++)
             registers[k] = load(reinterpret_cast<const T*>(pattern.bytes) + k * kLanes<T>);
@@ -83,61 +82,43 @@ struct Constant {
     Vec<T> registers[kGroup<L>];
 };
 
+// The images of a call. In place they are one.
+template <class T>
+struct Images {
+    ImageView<const T> src;
+    ImageView<T> dst;
+    TpxiSizeL roi;
+};
+
 // Checks of the images, then of the arrays of constants.
 template <class T, class... Arrays>
 TpxStatus check(const Images<T>& images, const Arrays*... arrays) {
-    if (anyNull(images.src, images.dst)) return tpxErrNullPointer;
+    if (anyNull(images.src.data, images.dst.data)) return tpxErrNullPointer;
     if (isEmpty(images.roi)) return tpxErrSize;
-    if (images.srcStep < 1 || images.dstStep < 1) return tpxErrStep;
+    if (images.src.step < 1 || images.dst.step < 1) return tpxErrStep;
     return anyNull(arrays...) ? tpxErrNullPointer : tpxOk;
-}
-
-// Above this traffic in bytes (reads and writes) the cache's size is asked for.
-constexpr uint64_t kFloor = 4194304;
-
-// dst = rule(src, k) with k the register's place in its group.
-template <Layout L, class T, class Rule>
-void mapImages(const Images<T>& images, Rule rule) {
-    ptrdiff_t len = ptrdiff_t(images.roi.width) * channelsOf(L), height = images.roi.height;
-    joinRows(len, height, sizeof(T), images.srcStep, images.dstStep);
-    const uint64_t traffic = 2 * uint64_t(len) * uint64_t(height) * sizeof(T);
-    const bool stream = L != Layout::AC4 && images.src != images.dst && exceedsCache(traffic, kFloor);
-    walkRows(images.src, images.srcStep, images.dst, images.dstStep, height, [&](const T* s, T* d) {
-        const auto single = [&](auto x) { return rule(x, 0); };
-        const auto cached = [&](T* to, ptrdiff_t n, const T* from) {
-            if constexpr (L == Layout::C1)
-                mapRun(from, to, n, single);
-            else
-                mapGroups<kGroup<L>>(from, to, n, rule);
-        };
-        // A line that is streamed begins with a pixel of four only if the row does.
-        const bool linesOfPixels = L != Layout::C4 || reinterpret_cast<uintptr_t>(d) % (4 * sizeof(T)) == 0;
-        if constexpr (L == Layout::AC4)
-            mapColours<T>(s, d, len, single);
-        else if (stream && linesOfPixels)
-            streamGroups<kGroup<L>>(s, d, len, rule, cached);
-        else
-            cached(d, len, s);
-    });
-    if (stream) streamFence();
 }
 
 // ---- Operations ------------------------------------------------------------------------------------------
 
+template <Layout L, class T, class Rule>
+TpxStatus map(const Images<T>& images, Rule rule) {
+    mapImageByChannel<L>(samplesOf(images.roi, channelsOf(L)), rule, images.dst, images.src);
+    return tpxOk;
+}
+
 template <Layout L, class Side, class T>
 TpxStatus clampSide(const Images<T>& images, const T* threshold) {
     if (const TpxStatus status = check(images, threshold)) return status;
-    mapImages<L>(images, [t = Constant<L, T>(threshold)](auto x, int k) { return Side::clamp(x, t[k]); });
-    return tpxOk;
+    return map<L>(images, [t = Constant<L, T>(threshold)](auto x, int k) { return Side::clamp(x, t[k]); });
 }
 
 template <Layout L, class Side, class T>
 TpxStatus replaceSide(const Images<T>& images, const T* threshold, const T* value) {
     if (const TpxStatus status = check(images, threshold, value)) return status;
-    mapImages<L>(images, [t = Constant<L, T>(threshold), v = Constant<L, T>(value)](auto x, int k) {
+    return map<L>(images, [t = Constant<L, T>(threshold), v = Constant<L, T>(value)](auto x, int k) {
         return Side::replace(x, t[k], v[k]);
     });
-    return tpxOk;
 }
 
 bool isSide(TpxCmpOp op) { return op == tpxCmpLess || op == tpxCmpGreater; }
@@ -150,6 +131,7 @@ TpxStatus clampBy(const Images<T>& images, const T* threshold, TpxCmpOp op) {
                                : clampSide<L, Below>(images, threshold);
 }
 
+// The word comes before everything else.
 template <Layout L, class T>
 TpxStatus replaceBy(const Images<T>& images, const T* threshold, const T* value, TpxCmpOp op) {
     if (!isSide(op)) return tpxErrUnsupportedMode;
@@ -161,60 +143,122 @@ template <Layout L, class T>
 TpxStatus replaceBoth(const Images<T>& images, const T* thresholdLT, const T* valueLT, const T* thresholdGT,
                       const T* valueGT) {
     if (const TpxStatus status = check(images, thresholdLT, valueLT, thresholdGT, valueGT)) return status;
-    for (int c = 0; c < (L == Layout::C1 ? 1 : 3); c++)
+    for (int c = 0; c < coloursOf(L); c++)
         if (thresholdGT[c] < thresholdLT[c]) return tpxErrThresholdBounds;
     using C = Constant<L, T>;
-    mapImages<L>(images,
-                 [low = C(thresholdLT), lowValue = C(valueLT), high = C(thresholdGT), highValue = C(valueGT)](
-                     auto x, int k) { return replaceOutside(x, low[k], lowValue[k], high[k], highValue[k]); });
-    return tpxOk;
+    return map<L>(images,
+                  [low = C(thresholdLT), lowValue = C(valueLT), high = C(thresholdGT), highValue = C(valueGT)](
+                      auto x, int k) { return replaceOutside(x, low[k], lowValue[k], high[k], highValue[k]); });
 }
 
 } // namespace
 } // namespace tpx
 
+using namespace tpx;
+
 // ---- Entries ---------------------------------------------------------------------------------------------
 
-// The two forms of a name: source to destination, and in place. `constants` are the parameters after the size,
-// in parentheses; `call` is the operation and `arguments` what it is given after the images.
-#define TPX_UNWRAP(...) __VA_ARGS__
-#define TPX_THRESHOLD(name, T, L, constants, call, ...)                                                    \
-    TPX_ENTRY(tpxiThreshold##name##_##T##_##L##R)                                                          \
-    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize, TPX_UNWRAP constants) { \
-        using namespace tpx;                                                                               \
-        return TPX_UNWRAP call(Images<Tpx##T>{pSrc, srcStep, pDst, dstStep, roiSize}, __VA_ARGS__);        \
+// Each instance has two: source to destination, and in place.
+#define TPX_CLAMP(T, L, name, Side)                                                                  \
+    TPX_ENTRY(name##_##T##_##L##R)                                                                   \
+    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize,                   \
+     Given<Layout::L, Tpx##T> threshold) {                                                           \
+        return clampSide<Layout::L, Side, Tpx##T>({{pSrc, srcStep}, {pDst, dstStep}, wide(roiSize)}, \
+                                                  arrayOf(threshold));                               \
+    }                                                                                                \
+    TPX_ENTRY(name##_##T##_##L##IR)                                                                  \
+    (Tpx##T * pSrcDst, int srcDstStep, TpxiSize roiSize, Given<Layout::L, Tpx##T> threshold) {       \
+        return clampSide<Layout::L, Side, Tpx##T>(                                                   \
+            {{pSrcDst, srcDstStep}, {pSrcDst, srcDstStep}, wide(roiSize)}, arrayOf(threshold));      \
+    }
+#define TPX_REPLACE(T, L, name, Side)                                                                  \
+    TPX_ENTRY(name##_##T##_##L##R)                                                                     \
+    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize,                     \
+     Given<Layout::L, Tpx##T> threshold, Given<Layout::L, Tpx##T> value) {                             \
+        return replaceSide<Layout::L, Side, Tpx##T>({{pSrc, srcStep}, {pDst, dstStep}, wide(roiSize)}, \
+                                                    arrayOf(threshold), arrayOf(value));               \
+    }                                                                                                  \
+    TPX_ENTRY(name##_##T##_##L##IR)                                                                    \
+    (Tpx##T * pSrcDst, int srcDstStep, TpxiSize roiSize, Given<Layout::L, Tpx##T> threshold,           \
+     Given<Layout::L, Tpx##T> value) {                                                                 \
+        return replaceSide<Layout::L, Side, Tpx##T>(                                                   \
+            {{pSrcDst, srcDstStep}, {pSrcDst, srcDstStep}, wide(roiSize)}, arrayOf(threshold),         \
+            arrayOf(value));                                                                           \
+    }
+#define TPX_CLAMP_BY(T, L, name)                                                                               \
+    TPX_ENTRY(name##_##T##_##L##R)                                                                             \
+    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize,                             \
+     Given<Layout::L, Tpx##T> threshold, TpxCmpOp cmpOp) {                                                     \
+        return clampBy<Layout::L, Tpx##T>({{pSrc, srcStep}, {pDst, dstStep}, wide(roiSize)},                   \
+                                          arrayOf(threshold), cmpOp);                                          \
+    }                                                                                                          \
+    TPX_ENTRY(name##_##T##_##L##IR)                                                                            \
+    (Tpx##T * pSrcDst, int srcDstStep, TpxiSize roiSize, Given<Layout::L, Tpx##T> threshold, TpxCmpOp cmpOp) { \
+        return clampBy<Layout::L, Tpx##T>({{pSrcDst, srcDstStep}, {pSrcDst, srcDstStep}, wide(roiSize)},       \
+                                          arrayOf(threshold), cmpOp);                                          \
+    }
+#define TPX_REPLACE_BY(T, L, name)                                                                         \
+    TPX_ENTRY(name##_##T##_##L##R)                                                                         \
+    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize,                         \
+     Given<Layout::L, Tpx##T> threshold, Given<Layout::L, Tpx##T> value, TpxCmpOp cmpOp) {                 \
+        return replaceBy<Layout::L, Tpx##T>({{pSrc, srcStep}, {pDst, dstStep}, wide(roiSize)},             \
+                                            arrayOf(threshold), arrayOf(value), cmpOp);                    \
     }                                                                                                      \
-    TPX_ENTRY(tpxiThreshold##name##_##T##_##L##IR)                                                         \
-    (Tpx##T * pSrcDst, int srcDstStep, TpxiSize roiSize, TPX_UNWRAP constants) {                           \
-        using namespace tpx;                                                                               \
-        return TPX_UNWRAP call(Images<Tpx##T>{pSrcDst, srcDstStep, pSrcDst, srcDstStep, roiSize},          \
-                               __VA_ARGS__);                                                               \
+    TPX_ENTRY(name##_##T##_##L##IR)                                                                        \
+    (Tpx##T * pSrcDst, int srcDstStep, TpxiSize roiSize, Given<Layout::L, Tpx##T> threshold,               \
+     Given<Layout::L, Tpx##T> value, TpxCmpOp cmpOp) {                                                     \
+        return replaceBy<Layout::L, Tpx##T>({{pSrcDst, srcDstStep}, {pSrcDst, srcDstStep}, wide(roiSize)}, \
+                                            arrayOf(threshold), arrayOf(value), cmpOp);                    \
+    }
+#define TPX_REPLACE_BOTH(T, L, name)                                                                         \
+    TPX_ENTRY(name##_##T##_##L##R)                                                                           \
+    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize,                           \
+     Given<Layout::L, Tpx##T> thresholdLT, Given<Layout::L, Tpx##T> valueLT,                                 \
+     Given<Layout::L, Tpx##T> thresholdGT, Given<Layout::L, Tpx##T> valueGT) {                               \
+        return replaceBoth<Layout::L, Tpx##T>({{pSrc, srcStep}, {pDst, dstStep}, wide(roiSize)},             \
+                                              arrayOf(thresholdLT), arrayOf(valueLT), arrayOf(thresholdGT),  \
+                                              arrayOf(valueGT));                                             \
+    }                                                                                                        \
+    TPX_ENTRY(name##_##T##_##L##IR)                                                                          \
+    (Tpx##T * pSrcDst, int srcDstStep, TpxiSize roiSize, Given<Layout::L, Tpx##T> thresholdLT,               \
+     Given<Layout::L, Tpx##T> valueLT, Given<Layout::L, Tpx##T> thresholdGT,                                 \
+     Given<Layout::L, Tpx##T> valueGT) {                                                                     \
+        return replaceBoth<Layout::L, Tpx##T>({{pSrcDst, srcDstStep}, {pSrcDst, srcDstStep}, wide(roiSize)}, \
+                                              arrayOf(thresholdLT), arrayOf(valueLT), arrayOf(thresholdGT),  \
+                                              arrayOf(valueGT));                                             \
     }
 
-// A constant of a layout: a sample for C1, whose address the operations take, or an array.
-#define TPX_SAMPLE(T, name) Tpx##T name
-#define TPX_ARRAY(T, name) const Tpx##T name[]
-
-#define TPX_ONE_VALUE(T, L, P, at)                                                                             \
-    TPX_THRESHOLD(_GTVal, T, L, (P(T, threshold), P(T, value)), (replaceSide<Layout::L, Above>), at threshold, \
-                  at value)                                                                                    \
-    TPX_THRESHOLD(_LTVal, T, L, (P(T, threshold), P(T, value)), (replaceSide<Layout::L, Below>), at threshold, \
-                  at value)
-#define TPX_LAYOUT(T, L, P, at)                                                                            \
-    TPX_THRESHOLD(, T, L, (P(T, threshold), TpxCmpOp cmpOp), (clampBy<Layout::L>), at threshold, cmpOp)    \
-    TPX_THRESHOLD(_GT, T, L, (P(T, threshold)), (clampSide<Layout::L, Above>), at threshold)               \
-    TPX_THRESHOLD(_LT, T, L, (P(T, threshold)), (clampSide<Layout::L, Below>), at threshold)               \
-    TPX_THRESHOLD(_Val, T, L, (P(T, threshold), P(T, value), TpxCmpOp cmpOp), (replaceBy<Layout::L>),      \
-                  at threshold, at value, cmpOp)                                                           \
-    TPX_ONE_VALUE(T, L, P, at)                                                                             \
-    TPX_THRESHOLD(_LTValGTVal, T, L, (P(T, thresholdLT), P(T, valueLT), P(T, thresholdGT), P(T, valueGT)), \
-                  (replaceBoth<Layout::L>), at thresholdLT, at valueLT, at thresholdGT, at valueGT)
-#define TPX_TYPE(T)                  \
-    TPX_LAYOUT(T, C1, TPX_SAMPLE, &) \
-    TPX_LAYOUT(T, C3, TPX_ARRAY, )   \
-    TPX_LAYOUT(T, AC4, TPX_ARRAY, )  \
-    TPX_ONE_VALUE(T, C4, TPX_ARRAY, )
-TPX_TYPE(8u)
-TPX_TYPE(16u)
-TPX_TYPE(16s)
-TPX_TYPE(32f)
+#define TPX_TYPES(INSTANCE, L, ...) \
+    INSTANCE(8u, L, __VA_ARGS__)    \
+    INSTANCE(16u, L, __VA_ARGS__)   \
+    INSTANCE(16s, L, __VA_ARGS__)   \
+    INSTANCE(32f, L, __VA_ARGS__)
+TPX_TYPES(TPX_CLAMP_BY, C1, tpxiThreshold)
+TPX_TYPES(TPX_CLAMP_BY, C3, tpxiThreshold)
+TPX_TYPES(TPX_CLAMP_BY, AC4, tpxiThreshold)
+TPX_TYPES(TPX_CLAMP, C1, tpxiThreshold_GT, Above)
+TPX_TYPES(TPX_CLAMP, C3, tpxiThreshold_GT, Above)
+TPX_TYPES(TPX_CLAMP, AC4, tpxiThreshold_GT, Above)
+TPX_TYPES(TPX_CLAMP, C1, tpxiThreshold_LT, Below)
+TPX_TYPES(TPX_CLAMP, C3, tpxiThreshold_LT, Below)
+TPX_TYPES(TPX_CLAMP, AC4, tpxiThreshold_LT, Below)
+TPX_TYPES(TPX_REPLACE_BY, C1, tpxiThreshold_Val)
+TPX_TYPES(TPX_REPLACE_BY, C3, tpxiThreshold_Val)
+TPX_TYPES(TPX_REPLACE_BY, AC4, tpxiThreshold_Val)
+TPX_TYPES(TPX_REPLACE, C1, tpxiThreshold_GTVal, Above)
+TPX_TYPES(TPX_REPLACE, C3, tpxiThreshold_GTVal, Above)
+TPX_TYPES(TPX_REPLACE, C4, tpxiThreshold_GTVal, Above)
+TPX_TYPES(TPX_REPLACE, AC4, tpxiThreshold_GTVal, Above)
+TPX_TYPES(TPX_REPLACE, C1, tpxiThreshold_LTVal, Below)
+TPX_TYPES(TPX_REPLACE, C3, tpxiThreshold_LTVal, Below)
+TPX_TYPES(TPX_REPLACE, C4, tpxiThreshold_LTVal, Below)
+TPX_TYPES(TPX_REPLACE, AC4, tpxiThreshold_LTVal, Below)
+TPX_TYPES(TPX_REPLACE_BOTH, C1, tpxiThreshold_LTValGTVal)
+TPX_TYPES(TPX_REPLACE_BOTH, C3, tpxiThreshold_LTValGTVal)
+TPX_TYPES(TPX_REPLACE_BOTH, AC4, tpxiThreshold_LTValGTVal)
+#undef TPX_CLAMP
+#undef TPX_REPLACE
+#undef TPX_CLAMP_BY
+#undef TPX_REPLACE_BY
+#undef TPX_REPLACE_BOTH
+#undef TPX_TYPES

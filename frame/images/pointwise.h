@@ -1,10 +1,84 @@
-// Pointwise work on two images, sample by sample.
+// Pointwise work on whole images: dst = rule(src...), sample by sample, from one image or two.
 #pragma once
 
+#include "frame/images/walk.h"
 #include "frame/runs/memory_runs.h"
+#include "frame/runs/table_runs.h"
 
 namespace tpx {
 
+enum class Streaming { Never, Maybe };
+
+// cached(len, d, s...) and streamed(len, d, s...) make a row. In place, where a source is the destination, its
+// lines are in the caches already.
+template <Streaming M, class T, class Cached, class Streamed, class... Src>
+inline void walkPointwise(Extent e, Cached cached, Streamed streamed, const ImageView<T>& dst,
+                          const ImageView<Src>&... src) {
+    if constexpr (M == Streaming::Never) {
+        walkJoined(e, cached, dst, src...);
+    } else {
+        const bool inPlace = (... || (static_cast<const void*>(src.data) == dst.data));
+        walkStreaming(!inPlace && goesPastCaches(kStreamPointwise, trafficOf(e, dst, src...)), e, cached,
+                      streamed, dst, src...);
+    }
+}
+
+// A rule on registers of samples. Widths count samples; those of AC4 are of whole pixels whose alpha stays.
+template <Layout L, Streaming M = Streaming::Maybe, class T, class Rule, class... Src>
+inline void mapImage(Extent e, Rule rule, const ImageView<T>& dst, const ImageView<Src>&... src) {
+    if constexpr (L == Layout::AC4)
+        walkJoined(
+            e, [&](ptrdiff_t len, T* d, const Src*... s) { applyColours<T>(d, len, rule, s...); }, dst, src...);
+    else
+        walkPointwise<M>(
+            e, [&](ptrdiff_t len, T* d, const Src*... s) { applyRun(d, len, rule, s...); },
+            [&](ptrdiff_t len, T* d, const Src*... s) { streamRun(d, len, rule, s...); }, dst, src...);
+}
+
+// A rule whose constants differ by channel: rule(x, k), where k tells which of the registers that repeat with
+// pixels of three samples is meant; it is 0 in the other layouts.
+template <Layout L>
+inline constexpr int kGroup = L == Layout::C3 ? 3 : 1;
+
+template <Layout L, class T, class Rule>
+inline void mapImageByChannel(Extent e, Rule rule, const ImageView<T>& dst, const ImageView<const T>& src) {
+    const auto single = [&](auto x) { return rule(x, 0); };
+    if constexpr (L == Layout::C1 || L == Layout::AC4) {
+        mapImage<L>(e, single, dst, src);
+    } else {
+        const auto cached = [&](ptrdiff_t len, T* d, const T* s) { mapGroups<kGroup<L>>(s, d, len, rule); };
+        const auto streamed = [&](ptrdiff_t len, T* d, const T* s) {
+            // A line that is streamed begins with a pixel of four only if the row does.
+            if (L == Layout::C4 && reinterpret_cast<uintptr_t>(d) % (4 * sizeof(T)) != 0)
+                return cached(len, d, s);
+            streamGroups<kGroup<L>>(s, d, len, rule,
+                                    [&](T* to, ptrdiff_t n, const T* from) { cached(n, to, from); });
+        };
+        walkPointwise<Streaming::Maybe>(e, cached, streamed, dst, src);
+    }
+}
+
+// Entries of tables by the samples' bits, of EntryBytes each.
+template <Layout L, int EntryBytes, class S>
+void mapImageByTables(TpxiSizeL roi, const Tables& tables, const ImageView<const S>& src, void* dst,
+                      ptrdiff_t dstStep) {
+    struct Entry {
+        Tpx8u bytes[EntryBytes];
+    };
+    walkJoined(
+        samplesOf(roi, channelsOf(L)),
+        [&](ptrdiff_t len, const S* s, Entry* d) {
+            lookupRow<L, S, EntryBytes>(s, reinterpret_cast<Tpx8u*>(d), len, tables);
+        },
+        src, ImageView<Entry>{static_cast<Entry*>(dst), dstStep});
+}
+
+// ---- Going away ------------------------------------------------------------------------------------------
+
+template <Layout L, int EntryBytes, class S>
+void lookupImage(const S* src, int srcStep, void* dst, int dstStep, TpxiSize roi, const Tables& tables) {
+    mapImageByTables<L, EntryBytes>(wide(roi), tables, ImageView<const S>{src, srcStep}, dst, dstStep);
+}
 template <class T>
 struct TwoImages {
     const T* src1;
@@ -14,28 +88,11 @@ struct TwoImages {
     T* dst;
     ptrdiff_t dstStep;
 };
-
-// Above this traffic in bytes (reads and writes) the cache's size is asked for.
-inline constexpr uint64_t kTwoImagesFloor = 4194304;
-
-// dst = rule(src1, src2). `len` is in samples. The destination's alpha stays as it was where it is to be kept;
-// else results may go past the caches, if the family lets them.
 template <bool KeepAlpha, bool MayStream, class T, class Rule>
 void combineImages(const TwoImages<T>& a, ptrdiff_t len, ptrdiff_t height, Rule rule) {
-    joinRows(len, height, sizeof(T), a.src1Step, a.src2Step, a.dstStep);
-    const uint64_t traffic = 3 * uint64_t(len) * uint64_t(height) * sizeof(T);
-    const bool inPlace = a.src1 == a.dst || a.src2 == a.dst; // its lines are in the cache already
-    const bool stream = !KeepAlpha && MayStream && !inPlace && exceedsCache(traffic, kTwoImagesFloor);
-    walkRows(a.src1, a.src1Step, a.src2, a.src2Step, a.dst, a.dstStep, height,
-             [&](const T* x, const T* y, T* d) {
-                 if constexpr (KeepAlpha)
-                     applyColours<T>(d, len, rule, x, y);
-                 else if (MayStream && stream)
-                     streamRun(d, len, rule, x, y);
-                 else
-                     applyRun(d, len, rule, x, y);
-             });
-    if (stream) streamFence();
+    mapImage<KeepAlpha ? Layout::AC4 : Layout::C1, MayStream ? Streaming::Maybe : Streaming::Never>(
+        Extent{len, height}, rule, ImageView<T>{a.dst, a.dstStep}, ImageView<const T>{a.src1, a.src1Step},
+        ImageView<const T>{a.src2, a.src2Step});
 }
 
 } // namespace tpx

@@ -1,46 +1,66 @@
-// Layouts, checks that every family shares, and the walk of rows.
+// The walk of rows: the only loop over the rows of a region.
+//
+// What is walked is an ImageView, or a side of pixels (frame/images/pixels.h): row(y) gives what the row's work
+// takes, and isGapless(width) tells whether rows of that width follow each other without a gap. Widths are in
+// the units that the side counts, samples or pixels.
 #pragma once
 
-#include <stddef.h>
-
-#include "tpxi/types.h"
+#include "frame/entry/checks.h"
+#include "frame/images/view.h"
+#include "frame/runs/streaming.h"
 
 namespace tpx {
 
-// ---- Layouts -------------------------------------------------------------------------------------------
+struct Extent {
+    ptrdiff_t width, height;
+};
 
-// How channels lie in a pixel. AC4 stores four and computes three; the destination's fourth is kept.
-enum class Layout { C1, C3, C4, AC4 };
-
-constexpr int channelsOf(Layout layout) { return layout == Layout::C1 ? 1 : layout == Layout::C3 ? 3 : 4; }
-
-// ---- Checks --------------------------------------------------------------------------------------------
-
-template <class... P>
-inline bool anyNull(const P*... pointers) {
-    return (... || (pointers == nullptr));
+// Bytes that go to and from memory.
+template <class... Side>
+constexpr uint64_t trafficOf(Extent e, const Side&...) {
+    return uint64_t(e.width) * uint64_t(e.height) * uint64_t((... + Side::kUnitBytes));
 }
 
+// The samples of a region.
 template <class Size>
-inline bool isEmpty(Size size) {
-    return size.width < 1 || size.height < 1;
+constexpr Extent samplesOf(Size roi, int channels) {
+    return {ptrdiff_t(roi.width) * channels, ptrdiff_t(roi.height)};
 }
 
-// ---- Rows ------------------------------------------------------------------------------------------------
-
-// A step may be negative and need not be a whole number of samples.
-template <class T>
-inline T* addBytes(T* p, ptrdiff_t bytes) {
-    return reinterpret_cast<T*>(reinterpret_cast<uintptr_t>(p) + uintptr_t(bytes));
+// Calls row(width, side's row...) for every row, from the first to the last.
+template <class Row, class... Side>
+inline void walkRows(Extent e, Row row, const Side&... sides) {
+    for (ptrdiff_t y = 0; y < e.height; y++) row(e.width, sides.row(y)...);
 }
 
-// A step rounded down to a whole number of samples.
+// Rows that follow each other without a gap on every side are one long row.
+template <class... Side>
+inline Extent joinRows(Extent e, const Side&... sides) {
+    return (... && sides.isGapless(e.width)) ? Extent{e.width * e.height, 1} : e;
+}
+template <class Row, class... Side>
+inline void walkJoined(Extent e, Row row, const Side&... sides) {
+    walkRows(joinRows(e, sides...), row, sides...);
+}
+
+// The walk of whatever may go past the caches: cached(width, rows...) or streamed(width, rows...), as `stream`
+// says for the whole call. Ends with the fence if it has streamed.
+template <class Cached, class Streamed, class... Side>
+inline void walkStreaming(bool stream, Extent e, Cached cached, Streamed streamed, const Side&... sides) {
+    if (!stream) return walkJoined(e, cached, sides...);
+    walkJoined(e, streamed, sides...);
+    streamFence();
+}
+
+// ---- Going away ------------------------------------------------------------------------------------------
+
+inline bool exceedsCache(uint64_t bytes, uint64_t floor) { return goesPastCaches({floor}, bytes); }
+inline bool fillsCache(uint64_t bytes, uint64_t floor) { return goesPastCaches({floor, 0, true}, bytes); }
+
 template <class T>
 constexpr ptrdiff_t wholeStep(ptrdiff_t step) {
     return step & -ptrdiff_t(sizeof(T));
 }
-
-// Rows that follow each other without a gap in every image become one: all steps are the row's length in bytes.
 template <class... Steps>
 inline void joinRows(ptrdiff_t& len, ptrdiff_t& height, ptrdiff_t sampleBytes, Steps... steps) {
     const bool gapless = (... && (steps == len * sampleBytes));
@@ -49,8 +69,6 @@ inline void joinRows(ptrdiff_t& len, ptrdiff_t& height, ptrdiff_t sampleBytes, S
         height = 1;
     }
 }
-
-// Calls row(src, dst) for each of `height` pairs of rows.
 template <class S, class D, class Row>
 inline void walkRows(const S* src, ptrdiff_t srcStep, D* dst, ptrdiff_t dstStep, ptrdiff_t height, Row row) {
     for (ptrdiff_t y = 0; y < height; y++) {
@@ -59,8 +77,6 @@ inline void walkRows(const S* src, ptrdiff_t srcStep, D* dst, ptrdiff_t dstStep,
         dst = addBytes(dst, dstStep);
     }
 }
-
-// Likewise for rows of two sources.
 template <class S, class D, class Row>
 inline void walkRows(const S* src1, ptrdiff_t src1Step, const S* src2, ptrdiff_t src2Step, D* dst,
                      ptrdiff_t dstStep, ptrdiff_t height, Row row) {
@@ -71,7 +87,6 @@ inline void walkRows(const S* src1, ptrdiff_t src1Step, const S* src2, ptrdiff_t
         dst = addBytes(dst, dstStep);
     }
 }
-
 template <class D, class Row>
 inline void walkRows(D* dst, ptrdiff_t dstStep, ptrdiff_t height, Row row) {
     for (ptrdiff_t y = 0; y < height; y++) {

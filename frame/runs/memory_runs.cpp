@@ -16,7 +16,6 @@ constexpr int64_t kBlock = sizeof(Block);
 
 constexpr int64_t kCopySwitch = 0x8000;       // from here on copies use string moves
 constexpr int64_t kZeroSwitch = 0x8000;       // up to here zeroing uses vector stores
-constexpr int64_t kStreamingFloor = 0x200000; // up to here fills never stream
 constexpr int64_t kLongestPiece = 0x7FFFFFE0; // of a copy of samples wider than a byte
 constexpr int64_t kLongestRun = 0x7FFFFFFF;
 
@@ -213,7 +212,7 @@ template <class T, bool MayStream = true>
 inline void setRow(const T& val, void* dst, int64_t len) {
     const int64_t bytes = len * int64_t(sizeof(T));
     const Pattern pattern = makePattern(&val, sizeof(T));
-    if (!MayStream || !exceedsCache(uint64_t(bytes), kStreamingFloor)) return fillRow(dst, bytes, pattern);
+    if (!MayStream || !goesPastCaches(kStreamRunFill, uint64_t(bytes))) return fillRow(dst, bytes, pattern);
     fillRowStreaming(dst, bytes, pattern);
     streamFence();
 }
@@ -271,7 +270,7 @@ template <class T>
 inline TpxStatus zeroSamples(T* pDst, int len) {
     if (const TpxStatus status = checkRun(pDst, len); status != tpxOk) return status;
     const int64_t bytes = len * int64_t(sizeof(T));
-    if (bytes > (sizeof(T) == 1 ? kZeroSwitch : kStreamingFloor))
+    if (bytes > (sizeof(T) == 1 ? kZeroSwitch : int64_t(kStreamRunFill.floor)))
         ownsZero_8u(reinterpret_cast<Tpx8u*>(pDst), bytes);
     else
         zeroRow(pDst, bytes);

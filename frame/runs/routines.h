@@ -10,7 +10,8 @@
 
 extern "C" {
 
-// ---- Copy, set, zero (frame/runs/memory_runs.cpp): source and destination do not overlap ---------------------
+// ---- Copy, set, zero (frame/runs/memory_runs.cpp): source and destination do not overlap
+// ---------------------
 TpxStatus TPXS(Copy_8u)(const Tpx8u* pSrc, Tpx8u* pDst, int len);
 TpxStatus TPXS(Copy_16s)(const Tpx16s* pSrc, Tpx16s* pDst, int len);
 TpxStatus TPXS(Copy_32s)(const Tpx32s* pSrc, Tpx32s* pDst, int len);
@@ -30,7 +31,8 @@ TpxStatus TPXS(Zero_32f)(Tpx32f* pDst, int len);
 TpxStatus TPXS(Zero_64f)(Tpx64f* pDst, int len);
 TpxStatus TPXS(Zero_32fc)(Tpx32fc* pDst, int len);
 
-// ---- Reversal, constants, slopes, extremes (frame/runs/sample_runs.cpp) --------------------------------------
+// ---- Reversal, constants, slopes, extremes (frame/runs/sample_runs.cpp)
+// --------------------------------------
 TpxStatus TPXS(Flip_8u)(const Tpx8u* pSrc, Tpx8u* pDst, int len);
 TpxStatus TPXS(Flip_16u)(const Tpx16u* pSrc, Tpx16u* pDst, int len);
 TpxStatus TPXS(Flip_32f)(const Tpx32f* pSrc, Tpx32f* pDst, int len);
@@ -56,16 +58,18 @@ TpxStatus TPXS(MinEvery_16u_I)(const Tpx16u* pSrc, Tpx16u* pSrcDst, int len);
 TpxStatus TPXS(MinEvery_16s_I)(const Tpx16s* pSrc, Tpx16s* pSrcDst, int len);
 TpxStatus TPXS(MinEvery_32f_I)(const Tpx32f* pSrc, Tpx32f* pSrcDst, int len);
 
-// ---- Sorting (frame/runs/sort.cpp) ---------------------------------------------------------------------------
+// ---- Sorting (frame/runs/sort.cpp)
+// ---------------------------------------------------------------------------
 TpxStatus TPXS(SortAscend_32f_I)(Tpx32f* pSrcDst, int len);
 // Bytes that the radix sort of `len` samples needs; a length below 1 is found before a bad data type.
 TpxStatus TPXS(SortRadixGetBufferSize)(int len, TpxDataType dataType, int* pSize);
 TpxStatus TPXS(SortRadixAscend_32f_I)(Tpx32f* pSrcDst, int len, Tpx8u* pBuffer);
 
-// ---- Scalars (frame/runs/scalar_math.cpp): no status ---------------------------------------------------------
-// Floor and ceiling do not depend on the control register's rounding. The others are right to less than 1 unit
-// in the last place when it says to nearest, for all arguments; the measured bounds stand in the file. Special
-// values are those of C99, except that the sine and cosine of infinity and NaN are x * -0.0, a NaN.
+// ---- Scalars (frame/runs/scalar_math.cpp): no status
+// --------------------------------------------------------- Floor and ceiling do not depend on the control
+// register's rounding. The others are right to less than 1 unit in the last place when it says to nearest, for
+// all arguments; the measured bounds stand in the file. Special values are those of C99, except that the sine
+// and cosine of infinity and NaN are x * -0.0, a NaN.
 double TPXS(FabsOne)(double x);
 double TPXS(FloorOne)(double x);
 double TPXS(CeilOne)(double x);
@@ -82,7 +86,8 @@ float TPXS(ExpOneF)(float x);
 
 namespace tpx {
 
-// Workers for callers that have checked their arguments (frame/runs/memory_runs.cpp). Lengths in samples, from 1.
+// Workers for callers that have checked their arguments (frame/runs/memory_runs.cpp). Lengths in samples,
+// from 1.
 void ownsCopy_8u(const Tpx8u* pSrc, Tpx8u* pDst, int64_t len);
 void ownsSet_8u(Tpx8u val, Tpx8u* pDst, int64_t len);
 void ownsSet_16u(Tpx16u val, Tpx16u* pDst, int64_t len);

@@ -7,8 +7,8 @@
 // rule may gather flags ("a negative sample was seen"), which a repeated sample does not change.
 #pragma once
 
+#include "frame/entry/checks.h"
 #include "frame/simd/simd.h"
-#include "frame/images/walk.h"
 
 namespace tpx {
 

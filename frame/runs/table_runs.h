@@ -1,7 +1,7 @@
 // Samples replaced by the entries of tables.
 #pragma once
 
-#include "frame/images/walk.h"
+#include "frame/entry/checks.h"
 
 namespace tpx {
 
@@ -42,17 +42,6 @@ inline void lookupRow(const S* src, Tpx8u* dst, ptrdiff_t len, const Tables& tab
         __builtin_memcpy(&sample, src + i + k, sizeof sample);
         put(i, k, sample & t.mask);
     }
-}
-
-template <Layout L, int EntryBytes, class S>
-void lookupImage(const S* src, int srcStep, void* dst, int dstStep, TpxiSize roi, const Tables& tables) {
-    ptrdiff_t len = ptrdiff_t(roi.width) * channelsOf(L), height = roi.height;
-    if (srcStep == len * ptrdiff_t(sizeof(S)) && dstStep == len * EntryBytes) {
-        len *= height;
-        height = 1;
-    }
-    walkRows(src, srcStep, static_cast<Tpx8u*>(dst), dstStep, height,
-             [&](const S* s, Tpx8u* d) { lookupRow<L, S, EntryBytes>(s, d, len, tables); });
 }
 
 } // namespace tpx

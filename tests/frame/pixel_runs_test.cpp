@@ -1,5 +1,5 @@
 // Runs of pixels past the caches: the same pixels as through them, from every address.
-#include "frame/runs/pixel_runs.h"
+#include "frame/images/pixels.h"
 
 #include "tests/support/samples.h"
 

@@ -324,11 +324,17 @@ TEST(MemoryRuns, WhatExceedsTheCache) {
     };
     for (const auto& row : table) {
         cache = {row.status, row.size};
-        EXPECT_EQ(exceedsCache(row.bytes, 50), row.exceeds) << row.bytes << " of " << row.size;
-        EXPECT_EQ(fillsCache(row.bytes, 50), row.fills) << row.bytes << " of " << row.size;
+        EXPECT_EQ(goesPastCaches({50}, row.bytes), row.exceeds) << row.bytes << " of " << row.size;
+        EXPECT_EQ(goesPastCaches({50, 0, true}, row.bytes), row.fills) << row.bytes << " of " << row.size;
     }
     cache = {tpxOk, 100, 0, 128}; // lines that the kernels do not write whole
-    EXPECT_FALSE(exceedsCache(101, 50));
+    EXPECT_FALSE(goesPastCaches({50}, 101));
+    cache = {tpxOk, INT32_MAX}; // whatever is told, one thread counts on its share
+    EXPECT_FALSE(goesPastCaches({50}, kLargestShare));
+    EXPECT_TRUE(goesPastCaches({50}, kLargestShare + 1));
+    cache = {tpxOk, 100};
+    EXPECT_TRUE(goesPastCaches({50, 8}, 101, 8));
+    EXPECT_FALSE(goesPastCaches({50, 8}, 101, 7));
     cache = {};
 }
 

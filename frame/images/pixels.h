@@ -6,8 +6,8 @@
 // shorter than a block goes through a block of its own.
 #pragma once
 
+#include "frame/images/walk.h"
 #include "frame/runs/runs.h"
-#include "frame/runs/streaming.h"
 
 namespace tpx {
 
@@ -32,7 +32,8 @@ template <class T, int N, int Pixels = kBlockPixels<T>, bool OneChannel = false>
 struct Interleaved {
     using Writable = Interleaved<std::remove_const_t<T>, N, Pixels, OneChannel>;
     static constexpr int kRegisters = N, kPixels = Pixels;
-    static constexpr ptrdiff_t kSample = sizeof(T), kPixel = N * kSample;
+    static constexpr ptrdiff_t kSample = sizeof(T), kPixel = N * kSample,
+                               kUnitBytes = OneChannel ? kSample : kPixel;
 
     ByteLike<T>* p;
     ptrdiff_t step;
@@ -60,7 +61,7 @@ struct Interleaved {
         moved.p = p + x * kPixel;
         return moved;
     }
-    bool rowsFollow(ptrdiff_t width) const { return step == width * kPixel; }
+    bool isGapless(ptrdiff_t width) const { return step == width * kPixel; }
 
     Block<N> load(ptrdiff_t x) const {
         Block<N> b{};
@@ -107,6 +108,7 @@ struct Planes {
     using Writable = Planes<std::remove_const_t<T>, N>;
     using Plane = Interleaved<T, 1>;
     static constexpr int kRegisters = N, kPixels = kBlockPixels<T>;
+    static constexpr ptrdiff_t kUnitBytes = N * sizeof(T);
 
     ByteLike<T>* p[N];
     ptrdiff_t step;
@@ -127,7 +129,7 @@ struct Planes {
         for (auto& plane : moved.p) plane += x * ptrdiff_t(sizeof(T));
         return moved;
     }
-    bool rowsFollow(ptrdiff_t width) const { return step == width * ptrdiff_t(sizeof(T)); }
+    bool isGapless(ptrdiff_t width) const { return step == width * ptrdiff_t(sizeof(T)); }
 
     Block<N> load(ptrdiff_t x) const {
         Block<N> b;
@@ -231,20 +233,13 @@ inline void mapPixelRunStreaming(ptrdiff_t pixels, Rule rule, Dst dst, Src... sr
     if (x < pixels) mapPixelRun(pixels - x, rule, dst.from(x), src.from(x)...);
 }
 
-// The same for every row of a region. Rows that follow each other without a gap are one run.
+// The same for every row of a region.
 template <class Rule, class Dst, class... Src>
 inline void mapPixels(TpxiSize roi, bool stream, Rule rule, Dst dst, Src... src) {
-    ptrdiff_t width = roi.width, height = roi.height;
-    if (dst.rowsFollow(width) && (... && src.rowsFollow(width))) {
-        width *= height;
-        height = 1;
-    }
-    if (stream) {
-        for (ptrdiff_t y = 0; y < height; y++) mapPixelRunStreaming(width, rule, dst.row(y), src.row(y)...);
-        streamFence();
-    } else {
-        for (ptrdiff_t y = 0; y < height; y++) mapPixelRun(width, rule, dst.row(y), src.row(y)...);
-    }
+    walkStreaming(
+        stream, Extent{roi.width, roi.height},
+        [&](ptrdiff_t width, Dst d, Src... s) { mapPixelRun(width, rule, d, s...); },
+        [&](ptrdiff_t width, Dst d, Src... s) { mapPixelRunStreaming(width, rule, d, s...); }, dst, src...);
 }
 
 } // namespace tpx
