@@ -2,7 +2,7 @@
 #include "frame/images/pointwise.h"
 
 #include "frame/entry/entry.h"
-#include "frame/runs/pixel_runs.h"
+#include "frame/images/pointwise.h"
 #include "frame/simd/through_real.h"
 #include "statistics/lookup_spec.h"
 
