@@ -52,16 +52,4 @@ class BlockLayout {
 // A size as the short forms tell it.
 inline constexpr uint64_t kLongestBlock = 0x7FFFFFFF;
 
-// One sample or record at an address of any alignment.
-template <class T>
-inline T peek(const T* p) {
-    T value;
-    __builtin_memcpy(&value, p, sizeof value);
-    return value;
-}
-template <class T>
-inline void poke(T* p, T value) {
-    __builtin_memcpy(p, &value, sizeof value);
-}
-
 } // namespace tpx
