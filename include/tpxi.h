@@ -22,8 +22,10 @@
 #include "tpxi/frame.h"
 
 #include "tpxi/arithmetic.h"
+#include "tpxi/borders.h"
+#include "tpxi/convert.h"
+#include "tpxi/copy.h"
 #include "tpxi/geometry.h"
-#include "tpxi/movement.h"
 #include "tpxi/statistics.h"
 #include "tpxi/threshold.h"
 

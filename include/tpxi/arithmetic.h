@@ -190,7 +190,8 @@ TPX_API TpxStatus tpxiExp_32f_C3IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize roi
  *
  * _L: sizes and steps of 64 bits. A call whose steps and bytes are below 2^31 - 1 in magnitude has the statuses
  * of the short form. A larger one: tpxOk for a width or height below 1, whatever the pointers;
- * tpxErrNullPointer; tpxOk. */
+ * tpxErrNullPointer; tpxOk. The bytes of the image are counted in 64 bits: from 2^63 on the count wraps, and
+ * sizes whose wrapped count is small are taken for those of a short call, cut to 32 bits. */
 
 TPX_API TpxStatus tpxiAdd_8u_C1RSfs(const Tpx8u* pSrc1, int src1Step, const Tpx8u* pSrc2, int src2Step,
                                     Tpx8u* pDst, int dstStep, TpxiSize roiSize, int scaleFactor);

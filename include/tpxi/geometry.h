@@ -121,7 +121,8 @@ TPX_API TpxStatus tpxiResizeGetBufferSize_64f(const TpxiResizeSpec* pSpec, TpxiS
 TPX_API TpxStatus tpxiResizeGetBufferSize_L(const TpxiResizeSpec* pSpec, TpxiSizeL dstSize, Tpx32u numChannels,
                                             TpxSizeL* pBufSize);
 
-/* Pixels that a tile reads on each side of its source rectangle.
+/* Pixels that a tile reads on each side of its source rectangle where the source image goes on: linear reads
+ * up to one pixel beyond the rectangle that tpxiResizeGetSrcRoi tells.
  * Statuses, in order: tpxErrNullPointer; tpxErrContext; tpxOk. */
 TPX_API TpxStatus tpxiResizeGetBorderSize_8u(const TpxiResizeSpec* pSpec, TpxiBorderSize* pBorderSize);
 TPX_API TpxStatus tpxiResizeGetBorderSize_16u(const TpxiResizeSpec* pSpec, TpxiBorderSize* pBorderSize);
@@ -146,7 +147,9 @@ TPX_API TpxStatus tpxiResizeGetSrcOffset_64f(const TpxiResizeSpec* pSpec, TpxiPo
 TPX_API TpxStatus tpxiResizeGetSrcOffset_L(const TpxiResizeSpec* pSpec, TpxiPointL dstOffset,
                                            TpxiPointL* pSrcOffset);
 
-/* The source rectangle of a tile. A tile past the destination's edge is trimmed first.
+/* The source rectangle of a tile. A tile past the destination's edge is trimmed first. On sides where the
+ * source image goes on, linear also reads the pixel next to the rectangle (tpxiResizeGetBorderSize).
+ *
  * Statuses, in order: tpxErrNullPointer; tpxErrSize (below 1); tpxErrContext; tpxErrOutOfRange (an offset
  * outside the destination); tpxWarnValueAdjusted (a tile larger than the plan's destination); tpxOk. */
 TPX_API TpxStatus tpxiResizeGetSrcRoi_8u(const TpxiResizeSpec* pSpec, TpxiPoint dstRoiOffset,
@@ -177,7 +180,8 @@ TPX_API TpxStatus tpxiResizeGetSrcRoi_L(const TpxiResizeSpec* pSpec, TpxiPointL 
  * arithmetic's.
  *
  * Statuses, in order: tpxErrBorder (linear); tpxErrNullPointer; tpxWarnNoOperation (a size of exactly 0);
- * tpxErrContext (not a plan of this width, or of 64f where it must be or must not); tpxErrSize (below 1);
+ * tpxErrContext (not a plan of this width; 64f: a plan of another type; _L: a plan of 64f given to another
+ * type. The short calls of other types do not look at the plan's type and take it); tpxErrSize (below 1);
  * tpxErrStep (a step that is not a whole number of samples); tpxErrOutOfRange (an offset outside the
  * destination); tpxErrUnsupportedMode (an antialiasing plan); tpxErrContext (a plan of another kind);
  * tpxWarnValueAdjusted (a tile larger than the plan's destination: the part that fits is done); tpxOk. */

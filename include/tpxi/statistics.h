@@ -9,9 +9,10 @@ TPX_EXTERN_C_BEGIN
 /* ---- Sums and means: tpxiSum, tpxiMean ----------------------------------------------------------------
  * The sum of all samples of a channel, and the sum over the number of pixels. C1 stores one value, C3 and C4 an
  * array with an entry a channel. Sums of integers are exact up to 2^53. 32f samples are added in double
- * precision; the hint is taken for all its values and changes nothing. The number of pixels of a mean is width
- * x height in 32 bits, wrapped around; C1 divides by it, C3 and C4 multiply by its reciprocal, so that their
- * last bits can differ. Steps are in bytes and are not tested: 0 and negative steps walk the memory as given.
+ * precision, rows that follow each other without a gap as one row, so that the last bits can depend on the
+ * step; the hint is taken for all its values and changes nothing. The number of pixels of a mean is width x
+ * height in 32 bits, wrapped around; C1 divides by it, C3 and C4 multiply by its reciprocal, so that their last
+ * bits can differ. Steps are in bytes and are not tested: 0 and negative steps walk the memory as given.
  *
  * Statuses, in order: tpxErrNullPointer; tpxErrSize (width or height below 1); tpxOk. */
 
@@ -296,7 +297,9 @@ TPX_API TpxStatus tpxiMaxEvery_32f_AC4IR(const Tpx32f* pSrc, int srcStep, Tpx32f
  * The sum of the products of samples at the same place, for each channel: C1 stores one value, C3 and AC4
  * arrays of 3, C4 of 4. Products of 8 and 16 bits are added exactly and rounded once; those of 32 bits are made
  * and added in double precision. 32f: hint tpxHintAccurate makes the products in double precision, any other
- * hint in single precision; both add them in double precision.
+ * hint in single precision; both add them in double precision. Rows that follow each other without a gap are
+ * added as one row: the last bits of sums that are rounded (32 bits, integers and floats) can depend on the
+ * steps.
  *
  * Statuses, in order: tpxErrNullPointer; tpxErrSize (width or height below 1, or a step of 0); tpxOk. A
  * negative step walks the memory as given. */
@@ -350,15 +353,16 @@ TPX_API TpxStatus tpxiDotProd_32f64f_C4R(const Tpx32f* pSrc1, int src1Step, cons
 TPX_API TpxStatus tpxiDotProd_32f64f_AC4R(const Tpx32f* pSrc1, int src1Step, const Tpx32f* pSrc2, int src2Step,
                                           TpxiSize roiSize, Tpx64f pDp[3], TpxHintAlgorithm hint);
 
-/* ---- Norms: tpxiNorm, tpxiNormDiff, tpxiNormRel
- * --------------------------------------------------------------- For each channel: Inf is the largest |x|, L1
- * the sum of |x|, L2 the square root of the sum of x^2; x is a sample of the image, or for NormDiff the exact
- * difference of two images' samples. NormRel is the norm of pSrc - pSrcRef over the norm of pSrcRef; L2 takes
- * one root, of the ratio of the sums. C1 stores one value, C3 and C4 an array.
+/* ---- Norms: tpxiNorm, tpxiNormDiff, tpxiNormRel -------------------------------------------------------
+ * For each channel: Inf is the largest |x|, L1 the sum of |x|, L2 the square root of the sum of x^2; x is a
+ * sample of the image, or for NormDiff the exact difference of two images' samples. NormRel is the norm of
+ * pSrc - pSrcRef over the norm of pSrcRef; L2 takes one root, of the ratio of the sums. C1 stores one value, C3
+ * and C4 an array.
  *
  * Sums over integers are exact up to 2^53. 32f L1 and L2: hint tpxHintAccurate works in double precision
  * throughout, any other hint makes terms and short sums of them in single precision, which overflow and lose
- * digits earlier. NaN samples are passed over by Inf.
+ * digits earlier. Rows that follow each other without a gap are added as one row: the last bits of 32f L1 and
+ * L2 can depend on the steps. NaN samples are passed over by Inf.
  *
  * Statuses, in order: tpxErrNullPointer; tpxErrSize (width or height below 1); tpxErrStep (a step below 1);
  * NormRel: tpxWarnDivByZero (the reference of a channel is zero, for 32f below the smallest normal double: the
@@ -553,10 +557,9 @@ TPX_API TpxStatus tpxiNormRel_L2_32f_C3R(const Tpx32f* pSrc, int srcStep, const 
 TPX_API TpxStatus tpxiNormRel_L2_32f_C4R(const Tpx32f* pSrc, int srcStep, const Tpx32f* pSrcRef, int srcRefStep,
                                          TpxiSize roiSize, Tpx64f pValue[4], TpxHintAlgorithm hint);
 
-/* ---- Histograms: tpxiHistogram
- * ---------------------------------------------------------------------------------- Counts the samples of each
- * channel between levels: bin k of nLevels - 1 counts levels[k] <= x < levels[k + 1]. Samples outside all
- * levels, and NaN, are not counted.
+/* ---- Histograms: tpxiHistogram ------------------------------------------------------------------------
+ * For each channel, bin k of nLevels - 1 counts the samples with levels[k] <= x < levels[k + 1]. Samples
+ * outside all levels, and NaN, are not counted.
  *
  * A spec holds the levels. It lies in memory of the caller, at any address, of the size that
  * tpxiHistogramGetBufferSize gives, and points into itself: it must not be moved. Calls only read it, so that
