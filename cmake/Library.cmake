@@ -1,4 +1,4 @@
-# libtpxie9: the sources of every room, and the entry table generated from the public headers.
+# libtpxie9: the sources of every folder, and the entry table generated from the public headers.
 file(GLOB_RECURSE TPX_SOURCES CONFIGURE_DEPENDS
      ${PROJECT_SOURCE_DIR}/frame/*.cpp
      ${PROJECT_SOURCE_DIR}/arithmetic/*.cpp
@@ -26,7 +26,9 @@ set_target_properties(tpxi_objects PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_V
                                               VISIBILITY_INLINES_HIDDEN ON CXX_EXTENSIONS ON)
 # No contraction: a product and a sum are rounded one by one, on every target alike.
 set(TPX_CODE_OPTIONS -mavx -ffp-contract=off -fno-math-errno -fno-trapping-math -fno-exceptions -fno-rtti
-                     -fno-threadsafe-statics -fno-stack-protector -fno-asynchronous-unwind-tables)
+                     -fno-threadsafe-statics -fno-stack-protector -fno-asynchronous-unwind-tables
+                     # A section for each function and object, so that the linker can drop what nothing uses.
+                     -ffunction-sections -fdata-sections)
 target_compile_options(tpxi_objects PRIVATE ${TPX_CODE_OPTIONS})
 
 add_library(tpxie9 SHARED ${TPX_ENTRY_TABLE} $<TARGET_OBJECTS:tpxi_objects>)
@@ -48,6 +50,8 @@ target_link_libraries(tpxie9 PRIVATE tpxcore $<$<BOOL:${TPX_SANITIZE}>:tpx_flags
 set_target_properties(tpxie9 PROPERTIES VERSION 2017.0.3 SOVERSION 2017.0.0 LINKER_LANGUAGE CXX)
 if(NOT TPX_SANITIZE)
     # Freestanding: no start files, no standard libraries; only libtpxcore may be left undefined.
-    target_link_options(tpxie9 PRIVATE -nostdlib -nostartfiles -Wl,--no-undefined -Wl,--gc-sections)
+    # The load hooks are named to the linker: an empty constructor is dropped by compilers.
+    target_link_options(tpxie9 PRIVATE -nostdlib -nostartfiles -Wl,--no-undefined -Wl,--gc-sections
+                                       -Wl,-init,initializer -Wl,-fini,destructor)
 endif()
 target_link_options(tpxie9 PRIVATE -Wl,-z,noexecstack -Wl,--as-needed)

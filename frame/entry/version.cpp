@@ -10,10 +10,11 @@ constexpr TpxLibraryVersion kVersion = {
 
 TPX_ENTRY(tpxiGetLibVersion)() { return &kVersion; }
 
-// There is nothing to set up or to tear down: any function can be called first.
+// The dynamic section names these two (cmake/Library.cmake). There is nothing to set up or to tear down: any
+// function can be called first.
 extern "C" {
-[[gnu::constructor]] void initializer();
-[[gnu::destructor]] void destructor();
+void initializer();
+void destructor();
 void initializer() {}
 void destructor() {}
 }

@@ -1,5 +1,5 @@
 # What the built library shows to the outside: its exports, what it leaves undefined, the form of its stubs,
-# and the instructions that it uses.
+# its load hooks, and the instructions that it uses.
 #   cmake -DLIBRARY=libtpxie9.so -DENTRIES=entries.S -P boundary.cmake
 function(run out)
     execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE text COMMAND_ERROR_IS_FATAL ANY)
@@ -81,6 +81,23 @@ string(REGEX MATCHALL "NEEDED[^\n]*" needed "${dynamic}")
 if(NOT needed MATCHES "^NEEDED[^;]*libtpxcore\\.so\\.2017\\.0\\.0\\]$")
     message(FATAL_ERROR "needed: ${needed}")
 endif()
+
+# The loader calls both hooks, which are internal.
+foreach(hook IN ITEMS INIT/initializer FINI/destructor)
+    get_filename_component(tag ${hook} DIRECTORY)
+    get_filename_component(name ${hook} NAME)
+    if(NOT symbols MATCHES " ([0-9a-f]+) +[0-9]+ FUNC +LOCAL +[A-Z]+ +[0-9]+ ${name}\n")
+        message(FATAL_ERROR "${name} is not an internal function")
+    endif()
+    math(EXPR address "0x${CMAKE_MATCH_1}")
+    if(NOT dynamic MATCHES "\\(${tag}\\) +0x([0-9a-f]+)\n")
+        message(FATAL_ERROR "the dynamic section has no ${tag}")
+    endif()
+    math(EXPR called "0x${CMAKE_MATCH_1}")
+    if(NOT called EQUAL address)
+        message(FATAL_ERROR "${tag} is not ${name}")
+    endif()
+endforeach()
 
 # Nothing wider than AVX: no zmm, no opmask, no upper 16 registers, no 256-bit integer arithmetic, no fused
 # multiply-add, no bit-manipulation extensions.
