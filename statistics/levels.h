@@ -26,18 +26,6 @@ inline bool levelsRise(const T* levels, ptrdiff_t count) {
     return rise;
 }
 
-// The rank among levels that rise, of which there is at least one; for single samples.
-template <class T>
-inline ptrdiff_t rankAmong(const T* levels, ptrdiff_t count, T x) {
-    ptrdiff_t at = 0;
-    while (count > 1) {
-        const ptrdiff_t half = count / 2;
-        at += levelAt(levels, at + half) <= x ? half : 0;
-        count -= half;
-    }
-    return at + (levelAt(levels, at) <= x);
-}
-
 // ---- Ways to rank a register of samples ------------------------------------------------------------------
 
 // Levels at even distances: the distance from the first tells the rank but for one comparison. With 0.5 added,

@@ -49,7 +49,6 @@ void expectRanks(const std::vector<float>& levels, bool rise, uint64_t calls = 1
     if (!rise) return;
     check(CountedRanks{at, n});
     check(HalvedRanks(at, n));
-    for (const float x : samples) ASSERT_EQ(rankAmong(at, n, x), model(levels, x, rise)) << x;
 }
 
 TEST(Levels, WaysAgreeAmongRisingLevels) {
