@@ -195,7 +195,7 @@ TpxStatus pack(const T* src, int srcStep, Tpx8u* dst, int dstStep, int bitOffset
     if (status != tpxOk) return status;
     const int offset = bitOffset % kByteBits;
     if constexpr (std::is_floating_point_v<T>) {
-        const FloatControl control(Rounding::OfThread);
+        const FloatControl control(roundingAs(Rounding::OfThread));
         if (offset == 0)
             packRows<true>(src, srcStep, dst, dstStep, offset, roi, threshold);
         else

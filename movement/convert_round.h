@@ -67,7 +67,8 @@ struct ToSmall {
 // body(whether to add a half), in the control that this needs.
 template <class Body>
 inline TpxStatus withRounding(TpxRoundMode mode, Body body) {
-    const FloatControl control(mode == tpxRoundNearestEven ? Rounding::Nearest : Rounding::TowardZero);
+    const FloatControl control(
+        roundingAs(mode == tpxRoundNearestEven ? Rounding::Nearest : Rounding::TowardZero));
     if (mode == tpxRoundNearestEven || mode == tpxRoundTowardZero) return body(std::false_type{});
     return body(std::true_type{});
 }

@@ -25,7 +25,7 @@ struct ToFloat {
 
 template <class S>
 TpxStatus convertRounding(const S* src, int srcStep, Tpx32f* dst, int dstStep, TpxiSize roi) {
-    const FloatControl control(Rounding::OfThread);
+    const FloatControl control(roundingAs(Rounding::OfThread));
     return convert<Steps::Tested, Layout::C1>(src, srcStep, dst, dstStep, roi, ToFloat<S>{});
 }
 

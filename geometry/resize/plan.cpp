@@ -1,5 +1,6 @@
 // Sizing, initialising and querying a resize plan.
 #include "geometry/resize/plan.h"
+#include "frame/simd/control.h"
 
 #include "frame/entry/entry.h"
 #include "frame/images/walk.h"
@@ -232,7 +233,7 @@ void initTaps(const Request& request, TpxInterpolationType interpolation, int lo
     Tables tables = takeIndices(plan);
     const int taps = 2 * lobes;
     auto fractions = reinterpret_cast<Tpx32f*>(alignUp(pInitBuf, 64));
-    const FlushToZero guard;
+    const FloatControl control(kFlushingToZero);
     TpxiResizeAxis* const axes[] = {&plan.axisY, &plan.axisX};
     for (TpxiResizeAxis* axis : axes) {
         tables.take(axis->pCoef32f, int64_t(taps) * axis->dstLen, 32);
@@ -253,7 +254,7 @@ void initCubic(const Request& request, Tpx32f valueB, Tpx32f valueC, Tpx8u* pIni
 // written, tables and borders are not, and the control register stays set for building.
 void abandonLanczos(const Request& request, Tpx32u numLobes) {
     begin(request, tpxInterpolationLanczos, int(numLobes)).border = {};
-    FlushToZero::install();
+    FloatControl::install(kFlushingToZero);
 }
 
 void initLanczos(const Request& request, Tpx32u numLobes, Tpx8u* pInitBuf) {

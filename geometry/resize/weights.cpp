@@ -1,4 +1,5 @@
 #include "geometry/resize/weights.h"
+#include "frame/simd/real.h"
 
 namespace tpx {
 
@@ -124,7 +125,7 @@ void fillLanczos(const Tpx32f* fractions, int64_t count, const Table& table, Tpx
             weights[k] = weight;
             sum += weight;
         }
-        const Tpx32f r = _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(sum)));
+        const Tpx32f r = reciprocalEstimate(sum);
         const Tpx32f reciprocal = 2 * r - sum * r * r;
         for (int k = 0; k < 2 * Lobes; k++) weights[k] *= reciprocal;
     }

@@ -4,27 +4,9 @@
 // on the same positions for the same sizes, rounding included.
 #pragma once
 
-#include <immintrin.h>
-
 #include "geometry/resize/plan.h"
 
 namespace tpx {
-
-// Sets results to be flushed to zero with underflow masked, until it goes out of scope.
-class FlushToZero {
-    static constexpr unsigned kFlush = 0x8000, kMaskUnderflow = 0x0800, kUnderflowSeen = 0x0010;
-    static constexpr unsigned kTouched = kFlush | kMaskUnderflow | kUnderflowSeen;
-    unsigned before = _mm_getcsr();
-
- public:
-    // For good, until someone else changes it.
-    static void install() { _mm_setcsr(_mm_getcsr() | kFlush | kMaskUnderflow); }
-
-    FlushToZero() { install(); }
-    ~FlushToZero() { _mm_setcsr((_mm_getcsr() & ~kTouched) | (before & kTouched)); }
-    FlushToZero(const FlushToZero&) = delete;
-    FlushToZero& operator=(const FlushToZero&) = delete;
-};
 
 // Fills the index table of an interpolating axis, counts the positions at either end whose taps reach outside
 // (`reach` source positions on each side), and gives store(i, fraction) the distance from the index.
