@@ -6,16 +6,13 @@ namespace {
 
 // ---- Rules of 32-bit results: Half is as in movement/convert_round.h -------------------------------------
 
-// Registers of 32-bit integers as the bits of floats, which are wider.
-inline B32f toIntegerBits(V32f x) { return bitsAs<B32f>(_mm256_cvtps_epi32(x)); }
-
 // What is out of range converts to 0x80000000; that is inverted above the range, where the sample has no sign.
 template <bool Half>
 struct To32s {
     Tpx32f factor;
     V32f operator()(const Tpx32f* p) const {
         const V32f x = load(p) * splat<V32f>(factor);
-        const B32f bits = toIntegerBits(Half ? addHalf(x) : x);
+        const B32f bits = toIntegerJoined(Half ? addHalf(x) : x);
         const B32f above = ~B32f(x < splat<V32f>(0x1p31f)); // NaN too
         return select(bitsAs<B32f>(x), bitsAs<V32f>(bits), bitsAs<V32f>(bits ^ above));
     }
@@ -33,7 +30,7 @@ struct To32u {
         const V32f half = splat<V32f>(0x1p31f);
         const B32f upper = positive >= half;
         const V32f low = positive - bitsAs<V32f>(upper & bitsAs<B32f>(half));
-        const B32f bits = toIntegerBits(Half ? low + splat<V32f>(0.5f) : low);
+        const B32f bits = toIntegerJoined(Half ? low + splat<V32f>(0.5f) : low);
         return bitsAs<V32f>((bits ^ (upper & bitsAs<B32f>(splat<V32f>(-0.0f)))) | above);
     }
 };

@@ -1,4 +1,4 @@
-// Non-temporal stores: when they pay, and the words for them. They pay where a result is larger than the
+// Non-temporal stores: when they pay, and streams of them. They pay where a result is larger than the
 // largest cache; one that fits would soon be wanted again. The decision is taken once a call.
 #pragma once
 
