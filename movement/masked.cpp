@@ -1,7 +1,7 @@
 // tpxiCopy and tpxiSet under a mask: only pixels whose mask byte is not zero are changed.
 #include "frame/entry/entry.h"
-#include "frame/images/pointwise.h"
 #include "frame/images/pixels.h"
+#include "frame/images/pointwise.h"
 
 namespace tpx {
 namespace {

@@ -2,8 +2,8 @@
 // a channel. Blocks are shuffled by controls that are made from the order once a call.
 #pragma once
 
-#include "frame/images/pointwise.h"
 #include "frame/images/pixels.h"
+#include "frame/images/pointwise.h"
 
 namespace tpx {
 

@@ -6,8 +6,8 @@
 // none does. Levels may lie at any address.
 #pragma once
 
-#include "frame/simd/simd.h"
 #include "frame/images/walk.h"
+#include "frame/simd/simd.h"
 
 namespace tpx {
 

@@ -1,6 +1,6 @@
 // Sorting a run of floats: in place by comparison, and by the bits of the samples with a work buffer.
-#include "frame/runs/routines.h"
 #include "frame/entry/checks.h"
+#include "frame/runs/routines.h"
 
 namespace tpx {
 namespace {

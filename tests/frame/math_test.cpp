@@ -1,4 +1,5 @@
-// Logarithm and exponential of registers: the bounds that frame/simd/math.h states, range ends and special values.
+// Logarithm and exponential of registers: the bounds that frame/simd/math.h states, range ends and special
+// values.
 #include "frame/simd/math.h"
 
 #include <gtest/gtest.h>

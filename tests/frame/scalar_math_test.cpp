@@ -1,4 +1,5 @@
-// The scalar functions: the bounds that frame/runs/scalar_math.cpp states, special values, the control register.
+// The scalar functions: the bounds that frame/runs/scalar_math.cpp states, special values, the control
+// register.
 #include <gtest/gtest.h>
 
 #include <cfenv>
