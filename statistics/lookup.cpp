@@ -1,7 +1,4 @@
 // tpxiLUT: samples through functions of levels, from the tables of a spec or by searches in its levels.
-#include "frame/images/pixels.h"
-#include "frame/images/pointwise.h"
-
 #include "frame/entry/entry.h"
 #include "frame/images/pixels.h"
 #include "frame/images/pointwise.h"
