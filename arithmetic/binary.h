@@ -9,44 +9,11 @@
 
 #include "frame/entry/entry.h"
 #include "frame/images/pointwise.h"
-#include "frame/simd/through_real.h"
+#include "frame/simd/rounding.h"
 
 namespace tpx {
 
 // ---- The rule of the scale factor: s * 2^-n, rounded to nearest with ties to even, saturated ------------
-
-// n > 0. Halves go up, after 1 has been taken off the sums whose result would be even: a tie lands on the even
-// side. Unsigned lanes of any value; n up to their width.
-template <class W>
-struct HalfEven {
-    int n;
-    W resultBit;
-
-    explicit HalfEven(int n)
-        : n(n), resultBit(n < kBits<LaneOf<W>> ? splat<W>(LaneOf<W>(LaneOf<W>(1) << n)) : W{}) {}
-    W operator()(W s) const {
-        const W even = W((s & resultBit) == W{}) & splat<W>(1);
-        return average(shiftRight(subSat(s, even), n - 1), W{});
-    }
-};
-// Signed lanes below 2^30 in magnitude, or n up to 29.
-template <>
-struct HalfEven<V32s> {
-    int n;
-    V32s resultBit, half;
-
-    explicit HalfEven(int n) : n(n), resultBit(splat<V32s>(1 << n)), half(splat<V32s>(1 << (n - 1))) {}
-    V32s operator()(V32s s) const { return shiftRight(s + V32s((s & resultBit) == V32s{}) + half, n); }
-};
-// Lanes from 0 up to 2^14; n up to 14. The rounding product is the shift that lets halves go up.
-template <>
-struct HalfEven<V16s> {
-    V16s resultBit, factor;
-
-    explicit HalfEven(int n)
-        : resultBit(splat<V16s>(Tpx16s(1 << n))), factor(splat<V16s>(Tpx16s(1 << (15 - n)))) {}
-    V16s operator()(V16s s) const { return multiplyRounded(s + V16s((s & resultBit) == V16s{}), factor); }
-};
 
 template <class W>
 struct ExactLanes {
@@ -65,16 +32,6 @@ struct ExactLanes<Pair<W>> {
     }
 };
 
-// The saturated result shifted left by k > 0. By the sample's width, all that is left is whether it is 0, and
-// its sign.
-template <class T>
-inline Vec<T> grow(Vec<T> x, int k) {
-    // Unsigned lanes are limited to the first power of two that saturates, so that none leaves the wider lane.
-    if constexpr (!std::is_signed_v<T>) x = minOf(x, splat<Vec<T>>(T(1u << (kBits<T> - k))));
-    const auto w = widen(x);
-    return narrow<T>(std::remove_const_t<decltype(w)>{shiftLeft(w.low, k), shiftLeft(w.high, k)});
-}
-
 // Picks the rule of the call's regime once: body(rule), for factors below kZeroFrom.
 template <class Op, class T, class Body>
 inline void withScaledRule(int n, Body body) {
@@ -86,7 +43,7 @@ inline void withScaledRule(int n, Body body) {
         if constexpr (requires { Op::halved(Vec<T>{}, Vec<T>{}); })
             if (n == 1) return body([](Vec<T> a, Vec<T> b) { return Op::halved(a, b); });
         using Lanes = ExactLanes<decltype(Op::exact(Vec<T>{}, Vec<T>{}))>;
-        const HalfEven<typename Lanes::type> halfEven(n);
+        const RoundedShift<tpxRoundNearestEven, typename Lanes::type, Headroom::Half> halfEven(n);
         body([halfEven](Vec<T> a, Vec<T> b) { return Lanes::template map<T>(Op::exact(a, b), halfEven); });
     } else if (n == -1) {
         body([](Vec<T> a, Vec<T> b) {
@@ -94,8 +51,8 @@ inline void withScaledRule(int n, Body body) {
             return addSat(s, s);
         });
     } else {
-        const int k = n < -kBits<T> ? kBits<T> : -n;
-        body([k](Vec<T> a, Vec<T> b) { return grow<T>(Op::saturated(a, b), k); });
+        const int k = n < -kValueBits<T> ? kValueBits<T> : -n;
+        body([k](Vec<T> a, Vec<T> b) { return shiftLeftSat(Op::saturated(a, b), k); });
     }
 }
 

@@ -1,7 +1,7 @@
 // tpxiExp: exponential.
 #include "arithmetic/unary.h"
 #include "frame/simd/math.h"
-#include "frame/simd/through_real.h"
+#include "frame/simd/rounding.h"
 
 namespace tpx {
 namespace {
@@ -25,7 +25,7 @@ struct Window {
             V64f t = (a - splat<V64f>(n * kLn2High)) - splat<V64f>(n * kLn2Low);
             t = minOf(maxOf(t, splat<V64f>(-10)), splat<V64f>(20));
             const V64f one = splat<V64f>(powerOfTwo<double>(-clampTo(n, -100, 100)));
-            const V32s r = roundToRange<T>(a == V64f{} ? one : exponential(t));
+            const V32s r = toLanesOf<T>(a == V64f{} ? one : exponential(t));
             for (int j = 0; j < 4; j++) results[i + j] = T(r[j]);
         }
         table = Table16<T>(results);

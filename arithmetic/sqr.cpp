@@ -1,13 +1,9 @@
 // tpxiSqr: square.
 #include "arithmetic/unary.h"
-#include "frame/simd/through_real.h"
+#include "frame/simd/rounding.h"
 
 namespace tpx {
 namespace {
-
-// 8-bit samples whose square fits 16, and so on: bits of the largest value.
-template <class T>
-constexpr int kValueBits = kBits<T> - std::is_signed_v<T>;
 
 // rule(m * m) in lanes of twice the width, saturated back to T.
 template <class T, class M, class Rule>
@@ -25,7 +21,7 @@ inline auto shrinkingRule(int n) {
         return throughSquare<T>(magnitude(x), [n](auto square) {
             using W = decltype(square);
             const W odd = splat<W>(LaneOf<W>(n & 1));
-            return average(shiftRight(subSat(square, odd), n - 1), W{});
+            return HalvesUp<W>(n)(subSat(square, odd));
         });
     };
 }

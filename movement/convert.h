@@ -19,21 +19,6 @@ inline auto makeSeveral(Rule rule) {
     return parts;
 }
 
-// Saturating narrowing to a register of T. Signed lanes, or unsigned ones below 2^(width - 1).
-template <class T, class V>
-inline Vec<T> narrowAll(const Several<V, 1>& a) {
-    return bitsAs<Vec<T>>(a.at[0]);
-}
-template <class T, class V>
-inline Vec<T> narrowAll(const Several<V, 2>& a) {
-    return narrow<T>(Pair<V>{a.at[0], a.at[1]});
-}
-template <class T, class V>
-inline Vec<T> narrowAll(const Several<V, 4>& a) {
-    return narrow<T>(
-        Pair<V16s>{narrow<Tpx16s>(Pair<V>{a.at[0], a.at[1]}), narrow<Tpx16s>(Pair<V>{a.at[2], a.at[3]})});
-}
-
 // ---- Rows -----------------------------------------------------------------------------------------------
 
 // Above this traffic in bytes (reads and writes) the cache's size is asked for.

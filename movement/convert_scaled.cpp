@@ -19,41 +19,21 @@ inline Vec<D> throughWork(const S* p, Scale scale) {
     }));
 }
 
-// n > 0: the magnitude shifted right, the sign restored. Rounding is by half of what is shifted out, added
-// where it cannot overflow: behind a shift by n - 1. With ties to even, 1 is first taken off where the quotient
-// is even, which makes a tie less than half and changes no other quotient.
+// n > 0: shifted right in the mode.
 template <class S, class D, TpxRoundMode Mode>
 struct Shrink {
     int n;
     Vec<D> operator()(const S* p) const {
-        return throughWork<D>(p, [n = n](auto x) {
-            auto m = magnitude(x);
-            using M = decltype(m);
-            if constexpr (Mode == tpxRoundTowardZero) {
-                m = shiftRight(m, n);
-            } else {
-                if constexpr (Mode == tpxRoundNearestEven) m = subSat(m, ~shiftRight(m, n) & splat<M>(1));
-                m = average(shiftRight(m, n - 1), M{});
-            }
-            if constexpr (std::is_same_v<M, decltype(x)>)
-                return m;
-            else
-                return withSign(m, x);
-        });
+        return throughWork<D>(p, [n = n](auto x) { return RoundedShift<Mode, decltype(x)>(n)(x); });
     }
 };
 
-// k = -n > 0: shifted left. The sample is first limited to the last that does not saturate and the next above.
+// k = -n > 0: shifted left.
 template <class S, class D>
 struct Grow {
     int k;
     Vec<D> operator()(const S* p) const {
-        return throughWork<D>(p, [k = k](auto x) {
-            using X = decltype(x);
-            x = minOf(x, splat<X>(LaneOf<X>((kMax<D> >> k) + 1)));
-            if constexpr (std::is_signed_v<LaneOf<X>>) x = maxOf(x, splat<X>(LaneOf<X>(kMin<D> >> k)));
-            return X(shiftLeft(bitsAs<decltype(magnitude(x))>(x), k));
-        });
+        return throughWork<D>(p, [k = k](auto x) { return shiftLeftLimited<D>(x, k); });
     }
 };
 
@@ -64,7 +44,7 @@ TpxStatus convertScaled(const S* src, int srcStep, D* dst, int dstStep, TpxiSize
     const auto run = [&](auto rule) {
         return convert<Steps::Free, Layout::C1>(src, srcStep, dst, dstStep, roi, rule);
     };
-    constexpr int kShiftedOut = 64, kValueBits = kBits<D> - std::is_signed_v<D>;
+    constexpr int kShiftedOut = 64;
     if (n > ZeroAbove) return run(Shrink<S, D, tpxRoundTowardZero>{kShiftedOut});
     // Beyond 2^24 floating point rounds 32-bit samples, but to no less than that: up to this factor they
     // saturate all the same.
@@ -76,7 +56,7 @@ TpxStatus convertScaled(const S* src, int srcStep, D* dst, int dstStep, TpxiSize
             });
     if (n == 0) return run(Narrow<S, D>{});
     // From the number of value bits on, whatever is not 0 saturates.
-    if (n < 0) return run(Grow<S, D>{-clampTo(n, -kValueBits, 0)});
+    if (n < 0) return run(Grow<S, D>{-clampTo(n, -kValueBits<D>, 0)});
     if (mode == tpxRoundTowardZero) return run(Shrink<S, D, tpxRoundTowardZero>{n});
     if (mode == tpxRoundNearestEven) return run(Shrink<S, D, tpxRoundNearestEven>{n});
     return run(Shrink<S, D, tpxRoundHalfAway>{n});

@@ -2,16 +2,9 @@
 // ties to even whatever the control register says, and saturated.
 #pragma once
 
-#include "frame/simd/simd.h"
+#include "frame/simd/rounding.h"
 
 namespace tpx {
-
-// Rounded and limited to the range of T, as integers of 32 bits.
-template <class T, class V>
-inline auto roundToRange(V x) {
-    const V limited = clampTo(x, splat<V>(kMin<T>), splat<V>(kMax<T>));
-    return toInteger(roundNearest(limited));
-}
 
 // rule(x) on registers of F, which is float or double.
 template <class F, class Rule>
@@ -24,10 +17,9 @@ inline Vec<T> throughReal16(Vec<T> x, Rule rule) {
     const auto wide = widen(x);
     const Pair<V32s> w{V32s(wide.low), V32s(wide.high)};
     if constexpr (std::is_same_v<F, float>)
-        return narrow<T>(roundToRange<T>(rule(toFloat(w))));
+        return toSamples<T>(Several<V32f, 1>{rule(toFloat(w))});
     else
-        return narrow<T>(
-            Pair<V32s>{roundToRange<T>(rule(toDouble(w.low))), roundToRange<T>(rule(toDouble(w.high)))});
+        return toSamples<T>(Several<V64f, 2>{rule(toDouble(w.low)), rule(toDouble(w.high))});
 }
 template <class F, class Rule>
 inline V16u throughReal(V16u x, Rule rule) {
