@@ -1,6 +1,6 @@
 #include "../families.h"
 #include "../frame/pointwise.h"
-#include "../scalar/scalar.h"
+#include "models/models.h"
 
 namespace bench {
 namespace {
@@ -24,9 +24,9 @@ void addFloat(const char* function, Combine<Tpx32f> ours, G scalar, Sizes sizes 
 
 } // namespace
 
-#define SCALED(Op, rule, T, factor, low, high, sizes)                                                       \
-    addScaled<Tpx##T>("tpxi" #Op "_" #T "_C1RSfs, " #factor, tpxi##Op##_##T##_C1RSfs, scalar::rule<Tpx##T>, \
-                      factor, low, high, Sizes::sizes)
+#define SCALED(Op, rule, T, factor, low, high, sizes)                                 \
+    addScaled<Tpx##T>("tpxi" #Op "_" #T "_C1RSfs, " #factor, tpxi##Op##_##T##_C1RSfs, \
+                      tpx::model::rule<Tpx##T>, factor, low, high, Sizes::sizes)
 
 void addBinary() {
     SCALED(Add, add, 8u, 0, 0, 255, all);
@@ -47,13 +47,13 @@ void addBinary() {
     SCALED(Mul, mul, 16s, 0, -200, 200, all);
     SCALED(Mul, mul, 16s, 1, -250, 250, middle);
     SCALED(Mul, mul, 16u, 0, 0, 300, middle);
-    addScaled<Tpx8u>("tpxiAdd_8u_C3RSfs, 0", tpxiAdd_8u_C3RSfs, scalar::add<Tpx8u>, 0, 0, 255, Sizes::middle,
-                     3);
-    addScaled<Tpx8u>("tpxiAdd_8u_AC4RSfs, 0", tpxiAdd_8u_AC4RSfs, scalar::addKeepAlpha<Tpx8u>, 0, 0, 255,
+    addScaled<Tpx8u>("tpxiAdd_8u_C3RSfs, 0", tpxiAdd_8u_C3RSfs, tpx::model::add<Tpx8u>, 0, 0, 255,
+                     Sizes::middle, 3);
+    addScaled<Tpx8u>("tpxiAdd_8u_AC4RSfs, 0", tpxiAdd_8u_AC4RSfs, tpx::model::addKeepAlpha<Tpx8u>, 0, 0, 255,
                      Sizes::middle, 4);
-    addFloat("tpxiAdd_32f_C1R", tpxiAdd_32f_C1R, scalar::add<Tpx32f>, Sizes::all);
-    addFloat("tpxiSub_32f_C1R", tpxiSub_32f_C1R, scalar::sub<Tpx32f>);
-    addFloat("tpxiMul_32f_C1R", tpxiMul_32f_C1R, scalar::mul<Tpx32f>);
+    addFloat("tpxiAdd_32f_C1R", tpxiAdd_32f_C1R, tpx::model::add<Tpx32f>, Sizes::all);
+    addFloat("tpxiSub_32f_C1R", tpxiSub_32f_C1R, tpx::model::sub<Tpx32f>);
+    addFloat("tpxiMul_32f_C1R", tpxiMul_32f_C1R, tpx::model::mul<Tpx32f>);
 }
 
 } // namespace bench

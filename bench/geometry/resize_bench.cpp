@@ -1,7 +1,7 @@
 #include "../families.h"
 #include "../frame/image.h"
 #include "../frame/pointwise.h"
-#include "../scalar/scalar.h"
+#include "models/models.h"
 #include "yardsticks.h"
 
 namespace bench {
@@ -72,14 +72,15 @@ template <typename T>
 std::function<void(const Image<T>&, const Image<T>&)> scalarResize(const Scaling& s) {
     constexpr ptrdiff_t kSize = sizeof(T);
     if (s.kind == Kind::linear)
-        return [s, x = scalar::Axis<T>(s.from.width, s.to.width),
-                y = scalar::Axis<T>(s.from.height, s.to.height)](const Image<T>& src, const Image<T>& dst) {
-            scalar::resizeLinear(src.data(), src.step() / kSize, dst.data(), dst.step() / kSize, s.channels, x,
-                                 y);
+        return [s, x = tpx::model::Axis(s.from.width, s.to.width),
+                y = tpx::model::Axis(s.from.height, s.to.height)](const Image<T>& src, const Image<T>& dst) {
+            tpx::model::resizeLinear(src.data(), src.step() / kSize, dst.data(), dst.step() / kSize, s.channels,
+                                     x, y);
         };
-    return [s, x = scalar::nearestAxis(s.from.width, s.to.width),
-            y = scalar::nearestAxis(s.from.height, s.to.height)](const Image<T>& src, const Image<T>& dst) {
-        scalar::resizeNearest(src.data(), src.step() / kSize, dst.data(), dst.step() / kSize, s.channels, x, y);
+    return [s, x = tpx::model::nearestAxis(s.from.width, s.to.width),
+            y = tpx::model::nearestAxis(s.from.height, s.to.height)](const Image<T>& src, const Image<T>& dst) {
+        tpx::model::resizeNearest(src.data(), src.step() / kSize, dst.data(), dst.step() / kSize, s.channels, x,
+                                  y);
     };
 }
 

@@ -1,6 +1,6 @@
 #include "../families.h"
 #include "../frame/pointwise.h"
-#include "../scalar/scalar.h"
+#include "models/models.h"
 
 #include <array>
 
@@ -48,9 +48,9 @@ void addBorder(const char* name, int channels, F ours, Scalar scalar) {
 template <typename T, typename F>
 void addByRule(const char* name, int channels, F ours, int (*from)(int, int)) {
     addBorder<T>(name, channels, ours, [=](const Image<T>& src, const Image<T>& dst) {
-        scalar::resizeNearest(src.data(), src.step() / ptrdiff_t(sizeof(T)), dst.data(),
-                              dst.step() / ptrdiff_t(sizeof(T)), channels, axis(src.size().width, from),
-                              axis(src.size().height, from));
+        tpx::model::resizeNearest(src.data(), src.step() / ptrdiff_t(sizeof(T)), dst.data(),
+                                  dst.step() / ptrdiff_t(sizeof(T)), channels, axis(src.size().width, from),
+                                  axis(src.size().height, from));
     });
 }
 
@@ -71,9 +71,9 @@ void addConst(const char* name, int channels, F function, const Value& value) {
             else
                 pixel = value.data();
             for (int y = 0; y < dst.size().height; ++y)
-                scalar::set(pixel, static_cast<size_t>(channels), dst.row(y), dst.rowSamples());
+                tpx::model::set(pixel, static_cast<size_t>(channels), dst.row(y), dst.rowSamples());
             for (int y = 0; y < src.size().height; ++y)
-                scalar::copy(src.row(y), dst.row(y + kMargin) + kMargin * channels, src.rowSamples());
+                tpx::model::copy(src.row(y), dst.row(y + kMargin) + kMargin * channels, src.rowSamples());
         });
 }
 

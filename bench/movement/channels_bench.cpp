@@ -2,7 +2,7 @@
 // the larger of the two images.
 #include "../families.h"
 #include "../frame/pointwise.h"
-#include "../scalar/scalar.h"
+#include "models/models.h"
 
 #include <array>
 
@@ -62,8 +62,8 @@ void moveScalar(const Move& what, const Picture<T>& src, const Picture<T>& dst, 
             from[k] = src.channel(what.feeds[k][0], y);
             to[k] = dst.channel(what.feeds[k][1], y);
         }
-        scalar::moveChannels(from.data(), src.form.storedChannels(), to.data(), dst.form.storedChannels(),
-                             what.feeds.size(), what.masked ? mask.row(y) : nullptr, src.size.width);
+        tpx::model::moveChannels(from.data(), src.form.storedChannels(), to.data(), dst.form.storedChannels(),
+                                 what.feeds.size(), what.masked ? mask.row(y) : nullptr, src.size.width);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "../families.h"
 #include "../frame/pointwise.h"
-#include "../scalar/scalar.h"
+#include "models/models.h"
 
 #include <cmath>
 
@@ -58,7 +58,7 @@ template <typename S, typename D, typename F>
 void addCast(const char* name, F function, int channels = 1, Sizes sizes = Sizes::middle) {
     addConversion<S, D>(
         name, {std::is_signed_v<S> ? -300.0 : 0.0, sizeof(S) == 1 ? 255.0 : 300.0, channels, 1, 1, sizes},
-        function, scalar::convertInteger<S, D>);
+        function, tpx::model::convertInteger<S, D>);
 }
 
 // Extra arguments are the rounding mode, or it and the scale factor.
@@ -70,7 +70,7 @@ void addRounded(const char* name, F function, Sizes sizes, int mode, Factor... n
     addConversion<S, D>(
         name, {std::is_signed_v<S> ? -300.0 : 0.0, sizeof(S) == 2 ? 65535.0 : 70000.0, 1, 1, 1, sizes}, ours,
         [=](const S* src, D* dst, size_t length) {
-            scalar::convertRounded<S, D>(src, dst, length, mode, (0 + ... + n));
+            tpx::model::convertRounded<S, D>(src, dst, length, mode, (0 + ... + n));
         });
 }
 
@@ -79,9 +79,10 @@ void addUnpack(const char* name, F function) {
     const auto ours = [=](const Tpx8u* src, int srcStep, T* dst, int dstStep, TpxiSize size) {
         return function(src, srcStep, 0, dst, dstStep, size, T{3}, T{9});
     };
-    addConversion<Tpx8u, T>(
-        name, {.low = 0, .high = 255, .perSource = 8}, ours,
-        [](const Tpx8u* src, T* dst, size_t length) { scalar::unpackBits<T>(src, dst, length, T{3}, T{9}); });
+    addConversion<Tpx8u, T>(name, {.low = 0, .high = 255, .perSource = 8}, ours,
+                            [](const Tpx8u* src, T* dst, size_t length) {
+                                tpx::model::unpackBits<T>(src, dst, length, T{3}, T{9});
+                            });
 }
 
 template <typename T, typename F>
@@ -91,7 +92,7 @@ void addPack(const char* name, F function) {
     };
     addConversion<T, Tpx8u>(
         name, {.low = 0, .high = 255, .perDestination = 8}, ours,
-        [](const T* src, Tpx8u* dst, size_t length) { scalar::packBits<T>(src, dst, length, T{100}); });
+        [](const T* src, Tpx8u* dst, size_t length) { tpx::model::packBits<T>(src, dst, length, T{100}); });
 }
 
 } // namespace

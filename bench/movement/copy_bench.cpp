@@ -1,6 +1,6 @@
 #include "../families.h"
 #include "../frame/pointwise.h"
-#include "../scalar/scalar.h"
+#include "models/models.h"
 
 #include <array>
 
@@ -34,9 +34,9 @@ void addSet(const char* name, F function, int channels, const Value& value, Size
         },
         [=](const T*, T* dst, size_t length) {
             if constexpr (std::is_arithmetic_v<Value>)
-                scalar::set(&value, 1, dst, length);
+                tpx::model::set(&value, 1, dst, length);
             else
-                scalar::set(value.data(), value.size(), dst, length);
+                tpx::model::set(value.data(), value.size(), dst, length);
         },
         std::move(others));
 }
@@ -44,11 +44,11 @@ void addSet(const char* name, F function, int channels, const Value& value, Size
 } // namespace
 
 void addCopies() {
-    addCopy<Tpx8u>("tpxiCopy_8u_C1R", tpxiCopy_8u_C1R, 1, scalar::copy<Tpx8u>, Sizes::all);
-    addCopy<Tpx8u>("tpxiCopy_8u_C3R", tpxiCopy_8u_C3R, 3, scalar::copy<Tpx8u>);
-    addCopy<Tpx8u>("tpxiCopy_8u_AC4R", tpxiCopy_8u_AC4R, 4, scalar::copyKeepAlpha<Tpx8u>);
-    addCopy<Tpx16s>("tpxiCopy_16s_C1R", tpxiCopy_16s_C1R, 1, scalar::copy<Tpx16s>);
-    addCopy<Tpx32f>("tpxiCopy_32f_C1R", tpxiCopy_32f_C1R, 1, scalar::copy<Tpx32f>, Sizes::all);
+    addCopy<Tpx8u>("tpxiCopy_8u_C1R", tpxiCopy_8u_C1R, 1, tpx::model::copy<Tpx8u>, Sizes::all);
+    addCopy<Tpx8u>("tpxiCopy_8u_C3R", tpxiCopy_8u_C3R, 3, tpx::model::copy<Tpx8u>);
+    addCopy<Tpx8u>("tpxiCopy_8u_AC4R", tpxiCopy_8u_AC4R, 4, tpx::model::copyKeepAlpha<Tpx8u>);
+    addCopy<Tpx16s>("tpxiCopy_16s_C1R", tpxiCopy_16s_C1R, 1, tpx::model::copy<Tpx16s>);
+    addCopy<Tpx32f>("tpxiCopy_32f_C1R", tpxiCopy_32f_C1R, 1, tpx::model::copy<Tpx32f>, Sizes::all);
 
     const Other<Tpx8u> memset = {kMemset, [](const Image<Tpx8u>&, const Image<Tpx8u>& dst) {
                                      if (dst.rowBytes() == static_cast<size_t>(dst.step())) {

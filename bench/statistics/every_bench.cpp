@@ -2,7 +2,7 @@
 #include "../families.h"
 #include "../frame/pointwise.h"
 #include "../frame/reading.h"
-#include "../scalar/scalar.h"
+#include "models/models.h"
 
 namespace bench {
 namespace {
@@ -10,7 +10,7 @@ namespace {
 template <typename T>
 void addEvery(const char* function, Combine<T> ours, Sizes sizes) {
     addCombining<T>({.group = "Extremes of two images", .function = function, .high = 100, .sizes = sizes},
-                    ours, scalar::minEvery<T>);
+                    ours, tpx::model::minEvery<T>);
 }
 
 // In place: the destination holds the result of the round before. The copy does not read its own.
@@ -46,8 +46,8 @@ void addBlocks(const char* function, BlockMinMax<T> ours, int side, Sizes which)
                             nullptr, nullptr);
             };
             const auto runScalar = [=] {
-                scalar::blockMinMax(i->src.data(), i->src.step() / ptrdiff_t(sizeof(T)), size, block,
-                                    i->scalarMin.data(), i->scalarMax.data());
+                tpx::model::blockMinMax(i->src.data(), i->src.step() / ptrdiff_t(sizeof(T)), size, block,
+                                        i->scalarMin.data(), i->scalarMax.data());
             };
             check(runOurs());
             runScalar();
@@ -69,9 +69,9 @@ void addBlocks(const char* function, BlockMinMax<T> ours, int side, Sizes which)
 void addExtremesOfTwoAndBlocks() {
     addEvery<Tpx8u>("tpxiMinEvery_8u_C1R", tpxiMinEvery_8u_C1R, Sizes::all);
     addEvery<Tpx32f>("tpxiMinEvery_32f_C1R", tpxiMinEvery_32f_C1R, Sizes::all);
-    IN_PLACE(8u, C3, 3, scalar::maxEvery<Tpx8u>);
-    IN_PLACE(8u, AC4, 4, scalar::maxEveryKeepAlpha<Tpx8u>);
-    IN_PLACE(16s, C1, 1, scalar::maxEvery<Tpx16s>);
+    IN_PLACE(8u, C3, 3, tpx::model::maxEvery<Tpx8u>);
+    IN_PLACE(8u, AC4, 4, tpx::model::maxEveryKeepAlpha<Tpx8u>);
+    IN_PLACE(16s, C1, 1, tpx::model::maxEvery<Tpx16s>);
     BLOCKS(8u, 16, all);
     BLOCKS(8u, 8, withinCache);
     BLOCKS(8u, 2, middle);

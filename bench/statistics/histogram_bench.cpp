@@ -2,7 +2,7 @@
 #include "../families.h"
 #include "../frame/pointwise.h"
 #include "../frame/reading.h"
-#include "../scalar/scalar.h"
+#include "models/models.h"
 
 #include <cmath>
 
@@ -72,11 +72,11 @@ void addHistogram(const What& what, Count<T> ours) {
                 for (auto& channel : plain->bins) std::fill(channel.begin(), channel.end(), 0);
                 for (int y = 0; y < size.height; ++y)
                     if constexpr (sizeof(T) == 1)
-                        scalar::countBytes(src->row(y), plain->hist.size(), src->rowSamples(),
-                                           plain->hist.data());
+                        tpx::model::countBytes(src->row(y), plain->hist.size(), src->rowSamples(),
+                                               plain->hist.data());
                     else
-                        scalar::countBetween(src->row(y), plain->hist.size(), src->rowSamples(), plain->levels,
-                                             plain->hist.data());
+                        tpx::model::countBetween(src->row(y), plain->hist.size(), src->rowSamples(),
+                                                 plain->levels, plain->hist.data());
             };
             if (src->bytes() < beyondCacheBytes() / 2) {
                 run();

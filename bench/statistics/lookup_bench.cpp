@@ -1,7 +1,7 @@
 // Lookup tables and palettes.
 #include "../families.h"
 #include "../frame/pointwise.h"
-#include "../scalar/scalar.h"
+#include "models/models.h"
 
 #include <algorithm>
 #include <limits>
@@ -59,7 +59,7 @@ void addIntegers(const char* function, int channels, TpxDataType type, Init init
             return ours(src, srcStep, dst, dstStep, size, specIn(spec));
         },
         [=](const T* src, T* dst, size_t length) {
-            scalar::lookup(src, dst, length, channels, tables.data());
+            tpx::model::lookup(src, dst, length, channels, tables.data());
         });
 }
 
@@ -80,7 +80,7 @@ void addFloats(const char* function, int channels, int count, bool linear, Ours 
             return ours(src, srcStep, dst, dstStep, size, specIn(spec));
         },
         [=](const Tpx32f* src, Tpx32f* dst, size_t length) {
-            scalar::lookupBetween(src, dst, length, linear, levels, values);
+            tpx::model::lookupBetween(src, dst, length, linear, levels, values);
         });
 }
 
@@ -116,7 +116,7 @@ void addPacked(const char* function, Ours ours) {
             };
             const auto runScalar = [=] {
                 for (int y = 0; y < size.height; ++y)
-                    scalar::lookupPacked<entryBytes>(src->row(y), dst->row(y), size.width, table);
+                    tpx::model::lookupPacked<entryBytes>(src->row(y), dst->row(y), size.width, table);
             };
             const Image<Tpx8u> got(size, entryBytes);
             check(runOurs(got));
@@ -140,7 +140,7 @@ void addPalette(const char* function, int channels, Ours ours) {
         },
         [=](const T* src, T* dst, size_t length) {
             static const std::vector<std::vector<T>> tables(4, palette<T>());
-            scalar::lookup(src, dst, length, channels, tables.data());
+            tpx::model::lookup(src, dst, length, channels, tables.data());
         });
 }
 

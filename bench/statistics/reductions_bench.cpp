@@ -2,7 +2,7 @@
 #include "../families.h"
 #include "../frame/pointwise.h"
 #include "../frame/reading.h"
-#include "../scalar/scalar.h"
+#include "models/models.h"
 
 #include <benchmark/benchmark.h>
 
@@ -77,20 +77,21 @@ double sumOfRows(const Image<T>& src1, const Image<T>& src2, double (*row)(const
 }
 template <typename T>
 double plainSum(const Image<T>& src, const Image<T>& other) {
-    return sumOfRows<T>(src, other, [](const T* x, const T*, size_t n) { return scalar::sum(x, n); });
+    return sumOfRows<T>(src, other, [](const T* x, const T*, size_t n) { return tpx::model::sum(x, n); });
 }
 template <typename T>
 double plainProducts(const Image<T>& src1, const Image<T>& src2) {
-    return sumOfRows<T>(src1, src2, scalar::sumOfProducts<T>);
+    return sumOfRows<T>(src1, src2, tpx::model::sumOfProducts<T>);
 }
 template <typename T>
 double plainL1(const Image<T>& src, const Image<T>& other) {
-    return sumOfRows<T>(
-        src, other, [](const T* x, const T*, size_t n) { return scalar::sumOfMagnitudes<T>(x, nullptr, n); });
+    return sumOfRows<T>(src, other, [](const T* x, const T*, size_t n) {
+        return tpx::model::sumOfMagnitudes<T>(x, nullptr, n);
+    });
 }
 template <typename T>
 double plainL1Diff(const Image<T>& src1, const Image<T>& src2) {
-    return sumOfRows<T>(src1, src2, scalar::sumOfMagnitudes<T>);
+    return sumOfRows<T>(src1, src2, tpx::model::sumOfMagnitudes<T>);
 }
 template <typename T>
 double plainL2(const Image<T>& src, const Image<T>&) {
@@ -100,7 +101,7 @@ template <typename T>
 double plainLeast(const Image<T>& src, const Image<T>&) {
     T best = *src.row(0);
     for (int y = 0; y < src.size().height; ++y)
-        best = std::min(best, src.row(y)[scalar::least(src.row(y), src.rowSamples())]);
+        best = std::min(best, src.row(y)[tpx::model::least(src.row(y), src.rowSamples())]);
     return best;
 }
 
@@ -108,7 +109,7 @@ template <typename T>
 double plainMost(const Image<T>& src, const Image<T>&) {
     T best = *src.row(0);
     for (int y = 0; y < src.size().height; ++y)
-        best = std::max(best, scalar::most(src.row(y), src.rowSamples()));
+        best = std::max(best, tpx::model::most(src.row(y), src.rowSamples()));
     return best;
 }
 

@@ -1,6 +1,6 @@
 #include "../families.h"
 #include "../frame/pointwise.h"
-#include "../scalar/scalar.h"
+#include "models/models.h"
 
 namespace bench {
 namespace {
@@ -17,11 +17,11 @@ template <typename T>
 inline constexpr T kHighValue[] = {120, 110, 100};
 
 template <typename T>
-using Rule = void (*)(const T*, T*, size_t, const scalar::Thresholds<T>&);
+using Rule = void (*)(const T*, T*, size_t, const tpx::model::Thresholds<T>&);
 
 template <typename T>
 void addThreshold(const char* function, size_t channels, Sizes sizes, Process<T> ours, Rule<T> rule) {
-    const scalar::Thresholds<T> by = {
+    const tpx::model::Thresholds<T> by = {
         channels, std::min<size_t>(channels, 3), kLow<T>, kLowValue<T>, kHigh<T>, kHighValue<T>};
     addPointwise<T>(
         {.group = "Thresholds", .function = function, .channels = int(channels), .high = 127, .sizes = sizes},
@@ -37,7 +37,7 @@ void addThreshold(const char* function, size_t channels, Sizes sizes, Process<T>
         [](const Tpx##T* src, int srcStep, Tpx##T* dst, int dstStep, TpxiSize size) {                  \
             return tpxiThreshold_##word##_##T##_##L##R(src, srcStep, dst, dstStep, size, __VA_ARGS__); \
         },                                                                                             \
-        scalar::threshold##rule<Tpx##T>);
+        tpx::model::threshold##rule<Tpx##T>);
 #define LAYOUT(T, L, channels, at, sizes)                                                      \
     FORM(GT, Gt, T, L, channels, sizes, at kLow<Tpx##T>)                                       \
     FORM(LT, Lt, T, L, channels, middle, at kLow<Tpx##T>)                                      \

@@ -10,27 +10,8 @@
 #include "frame/runs/memory_runs.h"
 #include "frame/runs/routines.h"
 #include "frame/runs/streaming.h"
+#include "tests/support/cache.h"
 #include "tests/support/guarded.h"
-#include "tpxcore.h"
-
-// Take the place of the companion's functions in this program, to see when they are asked.
-static struct {
-    TpxStatus status = tpxOk;
-    int size = 1 << 25;
-    int queries = 0;
-    int line = 64;
-} cache;
-
-TpxStatus tpx_get_cache_line_size(int* pSizeByte) {
-    *pSizeByte = cache.line;
-    return tpxOk;
-}
-
-TpxStatus tpxGetMaxCacheSizeB(int* pSizeByte) {
-    cache.queries++;
-    if (cache.status == tpxOk) *pSizeByte = cache.size;
-    return cache.status;
-}
 
 using namespace tpx;
 using namespace tpx::test;
@@ -243,7 +224,7 @@ std::vector<int64_t> fillLengths() {
 
 template <class T, class Fill>
 void checkFill(T val, Fill fill) {
-    cache = {tpxOk, 1 << 20}; // below the floor, so that everything above it streams
+    const SmallCache cache; // everything above the floor streams
     sweep(fillLengths<T>(), 1, [&](int64_t n, int, int misalign, Edge edge) {
         GuardedRun dst(n * int64_t(sizeof(T)), size_t(misalign), edge);
         ASSERT_TRUE(keepsDirectionFlag([&] { fill(dst.as<T>(), int(n)); }));
@@ -294,9 +275,9 @@ TEST(MemoryRuns, Zero) {
 TEST(MemoryRuns, OnlyFillsAboveTheFloorAskForTheCache) {
     GuardedBytes memory(0x200004);
     const auto queries = [&](auto call) {
-        cache = {};
+        const SmallCache cache(1 << 25);
         call();
-        return cache.queries;
+        return cache.queries();
     };
     EXPECT_EQ(queries([&] { TPXS(Set_8u)(1, memory.data(), 0x200000); }), 0);
     EXPECT_EQ(queries([&] { TPXS(Set_8u)(1, memory.data(), 0x200001); }), 1);
@@ -323,19 +304,20 @@ TEST(MemoryRuns, WhatExceedsTheCache) {
         {tpxOk, INT32_MAX, uint64_t{1} << 40, true, true} //
     };
     for (const auto& row : table) {
-        cache = {row.status, row.size};
+        const SmallCache cache(row.size, 64, row.status);
         EXPECT_EQ(goesPastCaches({50}, row.bytes), row.exceeds) << row.bytes << " of " << row.size;
         EXPECT_EQ(goesPastCaches({50, 0, true}, row.bytes), row.fills) << row.bytes << " of " << row.size;
     }
-    cache = {tpxOk, 100, 0, 128}; // lines that the kernels do not write whole
-    EXPECT_FALSE(goesPastCaches({50}, 101));
-    cache = {tpxOk, INT32_MAX}; // whatever is told, one thread counts on its share
-    EXPECT_FALSE(goesPastCaches({50}, kLargestShare));
-    EXPECT_TRUE(goesPastCaches({50}, kLargestShare + 1));
-    cache = {tpxOk, 100};
-    EXPECT_TRUE(goesPastCaches({50, 8}, 101, 8));
-    EXPECT_FALSE(goesPastCaches({50, 8}, 101, 7));
-    cache = {};
+    const auto exceeds = [](StreamRule rule, uint64_t bytes, ptrdiff_t row, int size, int line) {
+        const SmallCache cache(size, line);
+        return goesPastCaches(rule, bytes, row);
+    };
+    EXPECT_FALSE(exceeds({50}, 101, 0, 100, 128)); // lines that the kernels do not write whole
+    // Whatever is told, one thread counts on its share.
+    EXPECT_FALSE(exceeds({50}, kLargestShare, 0, INT32_MAX, 64));
+    EXPECT_TRUE(exceeds({50}, kLargestShare + 1, 0, INT32_MAX, 64));
+    EXPECT_TRUE(exceeds({50, 8}, 101, 8, 100, 64));
+    EXPECT_FALSE(exceeds({50, 8}, 101, 7, 100, 64));
 }
 
 // ---- Runs of samples ------------------------------------------------------------------------------------

@@ -3,12 +3,14 @@
 #include <xmmintrin.h>
 
 #include "geometry/resize/plan.h"
+#include "models/resize.h"
 #include "tests/support/checks.h"
 #include "tests/support/guarded.h"
-#include "tests/support/resize_model.h"
+#include "tests/support/resize_plan.h"
 
 namespace {
 
+using namespace tpx::model;
 using namespace tpx::test;
 
 constexpr auto kNearest = tpxInterpolationNearest, kLinear = tpxInterpolationLinear,
@@ -494,14 +496,15 @@ TEST(ResizePlan, SourceRectanglesOfTiles) {
 
 // ---- Weights ------------------------------------------------------------------------------------------
 
-// The family of cubic kernels from its definition.
-double cubicKernel(double x, double b, double c) {
-    x = std::fabs(x);
-    if (x < 1) return ((12 - 9 * b - 6 * c) * x * x * x + (-18 + 12 * b + 6 * c) * x * x + 6 - 2 * b) / 6;
-    if (x < 2)
-        return ((-b - 6 * c) * x * x * x + (6 * b + 30 * c) * x * x + (-12 * b - 48 * c) * x + 8 * b + 24 * c) /
-               6;
-    return 0;
+// The family of cubic kernels is spanned by three: Hermite interpolation with level tangents, what tangents
+// along the neighbours add to it, and the uniform B-spline, from its truncated powers.
+double cubicWeight(int k, double f, double b, double c) {
+    const double level = f * f * (3 - 2 * f), first = f * (1 - f) * (1 - f), second = f * f * (f - 1);
+    const double levels[] = {0, 1 - level, level, 0}, tangents[] = {-first, -second, first, second};
+    const int binomial[] = {1, -4, 6, -4, 1};
+    double spline = 0;
+    for (int i = 0; i < 5; i++) spline += binomial[i] * std::pow(std::max(0.0, k - 1 - f + 2 - i), 3) / 6;
+    return (1 - b) * levels[k] + c * tangents[k] + b * spline;
 }
 
 double lanczosKernel(double x, int lobes) {
@@ -518,7 +521,7 @@ TEST(ResizePlan, CubicWeightsAreTheKernels) {
                 const Position at = linearPosition(i, int(axis->srcLen), axis->dstLen);
                 ASSERT_EQ(at.index, axis->pIndex[i]);
                 for (int k = 0; k < 4; k++)
-                    EXPECT_NEAR(cubicKernel(k - 1 - at.fraction, b, c), axis->pCoef32f[4 * i + k], 1e-6);
+                    EXPECT_NEAR(cubicWeight(k, at.fraction, b, c), axis->pCoef32f[4 * i + k], 1e-6);
             }
     }
     const AnyPlan same(kCubic, {8, 8}, {8, 8});

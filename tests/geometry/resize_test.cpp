@@ -3,12 +3,14 @@
 
 #include <cfenv>
 
+#include "models/resize.h"
 #include "tests/support/checks.h"
 #include "tests/support/guarded.h"
-#include "tests/support/resize_model.h"
+#include "tests/support/resize_plan.h"
 
 namespace {
 
+using namespace tpx::model;
 using namespace tpx::test;
 
 // ---- The functions of each type -----------------------------------------------------------------------
@@ -87,6 +89,18 @@ struct RandomImage : GuardedImage<T> {
 // Pages on both sides in turn, with and without bytes between rows. Samples may lie at odd addresses.
 const Lie kLies[] = {{0, Edge::End, 0}, {24, Edge::Start, 1}, {8, Edge::End, 3}};
 
+// The model's fractions are exact. Those of a plan are computed with floats, and where the centres of two
+// pixels meet may be just below 1 instead of 0: results of floats may be off by two last places of their
+// largest samples, and by what doubles lose in positions up to a few hundreds.
+template <class T, class Expected>
+::testing::AssertionResult fits(const GuardedImage<T>& image, Expected expected) {
+    constexpr double tolerance = std::is_same_v<T, Tpx32f> ? 1.25e-4 : std::is_same_v<T, Tpx64f> ? 1e-9 : 0;
+    return matches(image, [&](int x, int y, int c) -> T {
+        const T want = expected(x, y, c), got = image.at(x, y, c);
+        return std::fabs(double(got) - double(want)) <= tolerance ? got : want;
+    });
+}
+
 template <class Names>
 class Resize : public testing::Test {
  protected:
@@ -111,10 +125,9 @@ class Resize : public testing::Test {
                 GuardedImage<T> dst(s.dst.width, s.dst.height, channels, kLies[seed % 3]);
                 ASSERT_EQ(tpxOk, plan.run(channels, src.data(), src.step(), dst.data(), dst.step(),
                                           {0, 0, s.dst.width, s.dst.height}, tpxBorderReplicate));
-                ASSERT_TRUE(matches(dst,
-                                    [&](int x, int y, int c) {
-                                        return expected(linear, src, s.dst, tpxBorderReplicate, x, y, c);
-                                    }))
+                ASSERT_TRUE(
+                    fits(dst, [&](int x, int y,
+                                  int c) { return expected(linear, src, s.dst, tpxBorderReplicate, x, y, c); }))
                     << channels << " channels, source " << s.src.width << " x " << s.src.height;
             }
     }
@@ -155,10 +168,10 @@ class Resize : public testing::Test {
                             for (int i = 0; i < tile.width; i++)
                                 for (int c = 0; c < channels; c++) whole.set(x + i, y + j, c, dst.at(i, j, c));
                     }
-                ASSERT_TRUE(matches(whole,
-                                    [&](int x, int y, int c) {
-                                        return expected(linear, src, s.dst, tpxBorderReplicate, x, y, c);
-                                    }))
+                ASSERT_TRUE(fits(whole,
+                                 [&](int x, int y, int c) {
+                                     return expected(linear, src, s.dst, tpxBorderReplicate, x, y, c);
+                                 }))
                     << channels << " channels, source " << s.src.width << " x " << s.src.height << ", tiles of "
                     << tileSize.width << " x " << tileSize.height;
             }
@@ -197,12 +210,12 @@ TYPED_TEST(Resize, LinearReadsRealPixelsOnSidesInMemory) {
                     ASSERT_EQ(tpxOk,
                               plan.run(channels, reinterpret_cast<const T*>(first), outer.step(), dst.data(),
                                        dst.step(), {0, 0, s.dst.width, s.dst.height}, border));
-                    ASSERT_TRUE(matches(dst,
-                                        [&](int x, int y, int c) {
-                                            return linearSample<T>(
-                                                x, y, s.src, s.dst, border,
-                                                [&](int sx, int sy) { return outer.at(sx + 1, sy + 1, c); });
-                                        }))
+                    ASSERT_TRUE(fits(dst,
+                                     [&](int x, int y, int c) {
+                                         return linearSample<T>(
+                                             x, y, s.src, s.dst, border,
+                                             [&](int sx, int sy) { return outer.at(sx + 1, sy + 1, c); });
+                                     }))
                         << "border " << std::hex << border;
                 }
 }
@@ -225,7 +238,7 @@ TYPED_TEST(Resize, TilesLargerThanTheDestinationAreTrimmed) {
             const TpxBorderType border = tpxBorderReplicate | tpxBorderInMemLeft | tpxBorderInMemTop;
             EXPECT_EQ(status, plan.run(3, reinterpret_cast<const T*>(first), src.step(), dst.data(), dst.step(),
                                        {x, y, size.width, size.height}, border));
-            EXPECT_TRUE(matches(dst, [&](int i, int j, int c) {
+            EXPECT_TRUE(fits(dst, [&](int i, int j, int c) {
                 return this->expected(linear, src, s.dst, border, x + i, y + j, c);
             }));
         }
@@ -246,7 +259,7 @@ TYPED_TEST(Resize, LinearFollowsTheRoundingModeOfTheThread) {
         std::fesetround(mode);
         const TpxStatus status = plan.run(1, src.data(), src.step(), dst.data(), dst.step(),
                                           {0, 0, s.dst.width, s.dst.height}, tpxBorderReplicate);
-        const auto right = matches(dst, [&](int x, int y, int c) {
+        const auto right = fits(dst, [&](int x, int y, int c) {
             return linearSample<T>(px[x], py[y], s.src, tpxBorderReplicate,
                                    [&](int sx, int sy) { return src.at(sx, sy, c); });
         });
@@ -262,7 +275,7 @@ TEST(ResizeLinear, CopiesAt8uWhenTheSizesAreEqual) {
     src.fill([](int x, int y, int) { return x ^ (y * 85); });
     EXPECT_EQ(tpxOk,
               plan.run(1, src.data(), src.step(), dst.data(), dst.step(), {0, 0, 256, 4}, tpxBorderReplicate));
-    EXPECT_TRUE(matches(dst, [](int x, int y, int) { return x ^ (y * 85); }));
+    EXPECT_TRUE(fits(dst, [](int x, int y, int) { return x ^ (y * 85); }));
 }
 
 // Negative steps walk the images upwards.
@@ -274,7 +287,7 @@ TEST(ResizeLinear, TakesNegativeSteps) {
     const auto lastRow = [](auto& image) { return image.data() + (image.height() - 1) * image.width(); };
     ASSERT_EQ(tpxOk, plan.run(1, lastRow(src), -src.step(), lastRow(dst), -dst.step(),
                               {0, 0, s.dst.width, s.dst.height}, tpxBorderReplicate));
-    EXPECT_TRUE(matches(dst, [&](int x, int y, int) {
+    EXPECT_TRUE(fits(dst, [&](int x, int y, int) {
         return linearSample<Tpx16u>(x, s.dst.height - 1 - y, s.src, s.dst, tpxBorderReplicate,
                                     [&](int sx, int sy) { return src.at(sx, s.src.height - 1 - sy); });
     }));

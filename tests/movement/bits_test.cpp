@@ -5,7 +5,6 @@
 #include <climits>
 #include <cmath>
 
-#include "tests/support/checks.h"
 #include "tests/support/guarded.h"
 
 namespace {
@@ -109,37 +108,6 @@ TYPED_TEST(Bits, EverySampleAgainstEveryThreshold) {
                 ASSERT_EQ(bits[i / 8] >> i % 8 & 1, samples[i] > T(t)) << +samples[i] << " above " << +T(t);
         }
     }
-}
-
-TYPED_TEST(Bits, OrderOfChecks) {
-    using T = typename TypeParam::T;
-    struct Args {
-        T samples[4] = {1, 1, 1, 1};
-        Tpx8u bits[4] = {0x50, 0, 0, 0};
-        bool nullSrc = false, nullDst = false;
-        TpxiSize size = {1, 1};
-        int srcStep = 4, dstStep = 4, offset = 0;
-    };
-    const std::vector<Fault<Args>> faults = {
-        {"source", [](Args& a) { a.nullSrc = true; }, tpxErrNullPointer},
-        {"destination", [](Args& a) { a.nullDst = true; }, tpxErrNullPointer},
-        {"size", [](Args& a) { a.size.width = 0; }, tpxErrSize},
-        {"size", [](Args& a) { a.size.height = -1; }, tpxErrSize},
-        {"source step", [](Args& a) { a.srcStep = 0; }, tpxErrStep},
-        {"destination step", [](Args& a) { a.dstStep = -4; }, tpxErrStep},
-        {"offset", [](Args& a) { a.offset = -8; }, tpxErrSize}};
-    expectCheckOrder(Args{}, faults, [](Args a) {
-        const TpxStatus s = TypeParam::unpack(a.nullSrc ? nullptr : a.bits, a.srcStep, a.offset,
-                                              a.nullDst ? nullptr : a.samples, a.dstStep, a.size, T(7), T(8));
-        EXPECT_EQ(a.samples[0], T(1));
-        return s;
-    });
-    expectCheckOrder(Args{}, faults, [](Args a) {
-        const TpxStatus s = TypeParam::pack(a.nullSrc ? nullptr : a.samples, a.srcStep,
-                                            a.nullDst ? nullptr : a.bits, a.dstStep, a.offset, a.size, T(0));
-        EXPECT_EQ(a.bits[0], 0x50);
-        return s;
-    });
 }
 
 // At whole bytes what is not less or equal sets the bit, elsewhere what is greater. The caller's control word

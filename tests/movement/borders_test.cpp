@@ -2,7 +2,6 @@
 #include "frame/images/border.h"
 
 #include <gtest/gtest.h>
-#include <tpxcore.h>
 
 #include <algorithm>
 #include <limits>
@@ -256,28 +255,6 @@ TYPED_TEST(Borders, LongSteps) {
                 ASSERT_EQ(row(y)[i], source[i % form.channels]) << form.name << " " << y << " " << i;
     }
     munmap(memory, size_t(3 * step));
-}
-
-// An image beyond the largest cache, where that is small enough to be gone beyond.
-TEST(BordersLarge, BeyondTheCache) {
-    int cache = 0;
-    if (tpxGetMaxCacheSizeB(&cache) != tpxOk || cache > (1 << 29)) GTEST_SKIP();
-    constexpr int width = 40001, m = 21;
-    const int height = cache / 2 / width + 2;
-    std::vector<Tpx8u> src(size_t(width) * size_t(height)), dst(size_t(width + 2 * m) * size_t(height + 2 * m));
-    for (size_t i = 0; i < src.size(); i++) src[i] = Tpx8u(i * 31 >> 3);
-    EXPECT_EQ(tpxiCopyMirrorBorder_8u_C1R(src.data(), width, {width, height}, dst.data(), width + 2 * m,
-                                          {width + 2 * m, height + 2 * m}, m, m),
-              tpxOk);
-    for (int y = 0; y < height + 2 * m; y++) {
-        const Tpx8u* from = &src[size_t(walk(Border::Mirror, y - m, height)) * width];
-        const Tpx8u* to = &dst[size_t(y) * (width + 2 * m)];
-        ASSERT_EQ(std::memcmp(to + m, from, width), 0) << y;
-        for (int x = 1; x <= m; x++) {
-            ASSERT_EQ(to[m - x], from[x]) << y;
-            ASSERT_EQ(to[m + width - 1 + x], from[width - 1 - x]) << y;
-        }
-    }
 }
 
 // ---- The rule and the checks ----------------------------------------------------------------------------

@@ -104,7 +104,7 @@ TEST(ConvertScaled, InPlace) {
                                                  image.size(), 2, -1),
                       tpxOk);
             ASSERT_TRUE(matches(image, [&](int x, int y, int) {
-                return fromBits<float>(realModel<Tpx32u>(old.at(x, y), 2, -1));
+                return fromBits<float>(tpx::model::real<Tpx32u>(old.at(x, y), 2, -1));
             }));
         }
 }

@@ -1,53 +1,12 @@
-// tpxiConvert: layouts, shapes, steps, checks, and the caller's floating-point control.
+// tpxiConvert: layouts, steps, checks, and the caller's floating-point control.
 #include <gtest/gtest.h>
 #include <immintrin.h>
-#include <tpxcore.h>
 
-#include "tests/support/checks.h"
 #include "tests/support/convert_forms.h"
 
 namespace {
 
 using namespace tpx::test;
-
-// Samples in turn from `values`, beginning somewhere.
-template <class T>
-void fillFrom(GuardedImage<T>& image, const std::vector<T>& values, size_t at) {
-    image.fill([&](int, int, int) { return values[at++ % values.size()]; });
-}
-
-TEST(Convert, EveryShapeAndLayout) {
-    eachConvertForm([](const auto& form) {
-        using Form = std::remove_cvref_t<decltype(form)>;
-        SCOPED_TRACE(form.name);
-        const auto values = tellingSamples<typename Form::S>();
-        size_t at = 77;
-        const auto check = [&](int width, Lie srcLie, Lie dstLie) {
-            constexpr int height = 3;
-            const int mode = width % 3, n = width % 5 - 1;
-            GuardedImage<typename Form::S> src(width, height, form.channels, srcLie);
-            GuardedImage<typename Form::D> dst(width, height, form.channels, dstLie),
-                old(width, height, form.channels);
-            fillFrom(src, values, at += 1009);
-            old.copySamplesFrom(dst.randomise(5));
-            EXPECT_EQ(form.run(src.data(), src.step(), dst.data(), dst.step(), dst.size(), mode, n), tpxOk);
-            ASSERT_TRUE(matches(dst,
-                                [&](int x, int y, int c) {
-                                    return form.keepsAlpha && c == 3
-                                               ? old.at(x, y, c)
-                                               : form.model(src.at(x, y, c), mode,
-                                                            form.kind == Kind::Scaled ? n : 0);
-                                }))
-                << "mode " << mode << ", factor " << n;
-        };
-        sweepShapes([&](int width, Lie srcLie, Lie dstLie) {
-            if (width < 40 || width % 16 < 2) check(width, srcLie, dstLie);
-        });
-        // Contiguous rows of both become one; steps need not be whole samples.
-        for (int width : {1, 7, 16, 33, 257})
-            for (const Lie& lie : {Lie{}, Lie{1, Edge::End, 1}, Lie{3, Edge::Start, 5}}) check(width, lie, lie);
-    });
-}
 
 // A form whose types are forgotten, so that what does not depend on them is compiled once.
 struct AnyForm {
@@ -62,45 +21,6 @@ AnyForm anyForm(const ConvertForm<S, D>& form) {
         [run = form.run](const void* src, int srcStep, void* dst, int dstStep, TpxiSize size, int mode, int n) {
             return run(static_cast<const S*>(src), srcStep, static_cast<D*>(dst), dstStep, size, mode, n);
         }};
-}
-
-void checkOrder(const AnyForm& form) {
-    struct Args {
-        Tpx64f src[4] = {}, dst[4] = {9, 9, 9, 9};
-        bool nullSrc = false, nullDst = false;
-        TpxiSize size = {1, 1};
-        int srcStep = 32, dstStep = 32;
-    };
-    SCOPED_TRACE(form.name);
-    const auto call = [&](Args a) {
-        const TpxStatus s = form.run(a.nullSrc ? nullptr : a.src, a.srcStep, a.nullDst ? nullptr : a.dst,
-                                     a.dstStep, a.size, 1, 0);
-        EXPECT_TRUE(s == tpxOk || a.dst[0] == 9);
-        return s;
-    };
-    const auto zeroSource = [](Args& a) { a.srcStep = 0; };
-    const auto negativeDestination = [](Args& a) { a.dstStep = -32; };
-    std::vector<Fault<Args>> faults = {{"source", [](Args& a) { a.nullSrc = true; }, tpxErrNullPointer},
-                                       {"destination", [](Args& a) { a.nullDst = true; }, tpxErrNullPointer},
-                                       {"size", [](Args& a) { a.size.width = 0; }, tpxErrSize},
-                                       {"size", [](Args& a) { a.size.height = -1; }, tpxErrSize}};
-    if (form.kind != Kind::Positive && form.kind != Kind::Scaled) {
-        faults.push_back({"source step", zeroSource, tpxErrStep});
-        faults.push_back({"destination step", negativeDestination, tpxErrStep});
-    } else {
-        Args a;
-        zeroSource(a);
-        negativeDestination(a);
-        EXPECT_EQ(call(a), tpxOk);
-    }
-    expectCheckOrder(Args{}, faults, call);
-}
-
-TEST(Convert, OrderOfChecks) {
-    eachConvertForm([](const auto& form) { checkOrder(anyForm(form)); });
-    EXPECT_EQ(tpxiConvert_32f32u_C1IRSfs(nullptr, 0, {0, 1}, 1, 0), tpxErrNullPointer);
-    Tpx32u sample = 0;
-    EXPECT_EQ(tpxiConvert_32f32u_C1IRSfs(&sample, 0, {0, 1}, 1, 0), tpxErrSize);
 }
 
 // Forms whose steps are free walk memory as given.
@@ -174,32 +94,6 @@ TEST(Convert, TheCallersControl) {
                 });
             }
     });
-}
-
-// Images beyond the largest cache, where that is small enough to be gone beyond.
-TEST(ConvertLarge, PastTheCaches) {
-    int cache = 0;
-    if (tpxGetMaxCacheSizeB(&cache) != tpxOk || cache > 1 << 29) GTEST_SKIP() << "the cache is too large";
-    for (int padding : {0, 12}) {
-        const int width = 60001, height = cache / width / 6 + 2;
-        GuardedImage<Tpx32s> wide(width, height, 1, {padding, Edge::End, 4});
-        GuardedImage<Tpx16s> narrow(width, height, 1, {padding / 2, Edge::Start, 2});
-        for (int y = 0; y < height; y++)
-            for (int x = y % 7; x < width; x += 13) narrow.set(x, y, 0, Tpx16s(x * 31 + y));
-        EXPECT_EQ(tpxiConvert_16s32s_C1R(narrow.data(), narrow.step(), wide.data(), wide.step(), wide.size()),
-                  tpxOk);
-        bool same = wide.paddingIntact();
-        for (int y = 0; y < height; y++)
-            for (int x = 0; x < width; x++) same = same && wide.at(x, y) == narrow.at(x, y);
-        EXPECT_TRUE(same);
-        EXPECT_EQ(tpxiConvert_32s16s_C1RSfs(wide.data(), wide.step(), narrow.data(), narrow.step(), wide.size(),
-                                            0, 3),
-                  tpxOk);
-        same = narrow.paddingIntact();
-        for (int y = 0; y < height; y++)
-            for (int x = 0; x < width; x++) same = same && narrow.at(x, y) == wide.at(x, y) / 8;
-        EXPECT_TRUE(same);
-    }
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 // Copy and set under a mask.
 #include <gtest/gtest.h>
 
-#include "tests/support/checks.h"
 #include "tests/support/samples.h"
 
 namespace {
@@ -70,55 +69,6 @@ TYPED_TEST(Masked, EveryShape) {
             ASSERT_EQ(form.set(value.data(), dst.data(), dst.step(), dst.size(), mask.data(), mask.step()),
                       tpxOk);
             ASSERT_TRUE(expectIn([&](int, int, int c) { return value.at(c, 0); }));
-        });
-    }
-}
-
-// Rows become one run only if those of the mask do as well.
-TYPED_TEST(Masked, TightImagesUnderAPaddedMask) {
-    using T = typename TypeParam::T;
-    for (const auto& form : TypeParam::forms)
-        for (int padding : {0, 3}) {
-            GuardedImage<T> src(20, 4, form.channels), dst(20, 4, form.channels), old(20, 4, form.channels);
-            GuardedImage<Tpx8u> mask(20, 4, 1, {padding});
-            makeMask(mask, 4);
-            randomBits(src, 1);
-            old.copySamplesFrom(randomBits(dst, 2));
-            ASSERT_EQ(
-                form.copy(src.data(), src.step(), dst.data(), dst.step(), dst.size(), mask.data(), mask.step()),
-                tpxOk);
-            ASSERT_TRUE(matches(dst,
-                                [&](int x, int y, int c) {
-                                    return mask.at(x, y) && c < form.values ? src.at(x, y, c) : old.at(x, y, c);
-                                }))
-                << form.name << " " << padding;
-        }
-}
-
-TYPED_TEST(Masked, OrderOfChecks) {
-    using T = typename TypeParam::T;
-    struct Args {
-        T src[4] = {1, 2, 3, 4}, dst[4] = {9, 9, 9, 9};
-        Tpx8u mask = 1;
-        bool nullSrc = false, nullDst = false, nullMask = false;
-        TpxiSize size = {1, 1};
-    };
-    const std::vector<Fault<Args>> faults = {
-        {"source", [](Args& a) { a.nullSrc = true; }, tpxErrNullPointer},
-        {"destination", [](Args& a) { a.nullDst = true; }, tpxErrNullPointer},
-        {"mask", [](Args& a) { a.nullMask = true; }, tpxErrNullPointer},
-        {"size", [](Args& a) { a.size.width = 0; }, tpxErrSize},
-        {"size", [](Args& a) { a.size.height = -1; }, tpxErrSize}};
-    for (const auto& form : TypeParam::forms) {
-        expectCheckOrder(Args{}, faults, [&](Args a) {
-            const TpxStatus s = form.copy(a.nullSrc ? nullptr : a.src, 16, a.nullDst ? nullptr : a.dst, 16,
-                                          a.size, a.nullMask ? nullptr : &a.mask, 1);
-            EXPECT_EQ(a.dst[0], T(9));
-            return s;
-        });
-        expectCheckOrder(Args{}, faults, [&](Args a) {
-            return form.set(a.nullSrc ? nullptr : a.src, a.nullDst ? nullptr : a.dst, 16, a.size,
-                            a.nullMask ? nullptr : &a.mask, 1);
         });
     }
 }

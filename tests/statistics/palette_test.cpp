@@ -97,14 +97,6 @@ void checkImage(const Form& form, int width, int height, int bits, Lie srcLie, L
         << form.name << " onto itself";
 }
 
-TEST(Palette, EveryShape) {
-    for (const Form& form : kForms)
-        sweepShapes([&](int width, Lie srcLie, Lie dstLie) {
-            if (testing::Test::HasFatalFailure() || width > 70) return;
-            checkImage(form, width, 3, form.srcBytes == 1 ? 8 : 11, srcLie, dstLie);
-        });
-}
-
 TEST(Palette, StepsAndAddressesThatAreNotWholeSamples) {
     for (const Form& form : kForms)
         for (int width : {1, 2, 5, 16, 17, 33, 50})

@@ -9,60 +9,10 @@
 #include <string>
 #include <type_traits>
 
+#include "models/conversion.h"
 #include "tests/support/guarded.h"
 
 namespace tpx::test {
-
-// ---- Models, written for reading ------------------------------------------------------------------------
-
-template <class D, class Wide>
-D clampTo(Wide v) {
-    using L = std::numeric_limits<D>;
-    return v < Wide(L::min()) ? L::min() : v > Wide(L::max()) ? L::max() : D(v);
-}
-
-// Integers times 2^-n.
-template <class D, class S>
-D scaledModel(S sample, int mode, int n, int zeroAbove) {
-    const __int128 x = sample, one = 1;
-    if (n > zeroAbove) return 0;
-    if (n <= 0) return clampTo<D>(x * (one << std::min(n < -64 ? 64 : -n, 64)));
-    const __int128 q = x >> n, r = x & ((one << n) - 1), m = x < 0 ? -x : x;
-    if (mode == 1) return clampTo<D>(q + ((r + (one << (n - 1)) - 1 + (q & 1)) >> n));
-    const __int128 rounded = mode == 0 ? m >> n : ((m >> (n - 1)) + 1) >> 1;
-    return clampTo<D>(x < 0 ? -rounded : rounded);
-}
-
-inline long double roundModel(long double v, int mode) {
-    const long double m = std::fabs(v), whole = std::floor(m), rest = m - whole;
-    const bool up = mode == 0   ? false
-                    : mode == 1 ? rest > 0.5L || (rest == 0.5L && std::fmod(whole, 2) == 1)
-                                : rest >= 0.5L;
-    return std::copysign(up ? whole + 1 : whole, v);
-}
-
-// Floats times 2^-n, where the factor of singles runs out of numbers.
-template <class D, class S>
-D realModel(S sample, int mode, int n) {
-    if constexpr (std::is_same_v<D, Tpx32u>) {
-        if (std::isnan(sample)) return UINT32_MAX;
-        const long double v = std::ldexp((long double)sample, n == INT_MIN ? INT_MAX : -n);
-        if (!(v > 0)) return 0;
-        return v > 0x1p32L ? UINT32_MAX : D(Tpx64u(roundModel(v, mode)));
-    } else {
-        const int last = sizeof(S) == 8 ? 1022 : 149, first = sizeof(S) == 8 ? -1008 : -127;
-        long double factor = std::ldexp(1.0L, -std::clamp(n, first, last));
-        if (sizeof(S) == 4 && n > last) factor = 0;
-        if (sizeof(S) == 4 && n < first) factor = std::numeric_limits<long double>::infinity();
-        const long double v = sample * factor;
-        if (std::isnan(v)) {
-            // What the processor makes of 0 times infinity is a negative NaN.
-            const bool negative = std::isnan(sample) ? std::signbit(sample) : true;
-            return sizeof(D) == 4 && negative ? std::numeric_limits<D>::min() : std::numeric_limits<D>::max();
-        }
-        return clampTo<D>(roundModel(v, mode));
-    }
-}
 
 // ---- Forms ----------------------------------------------------------------------------------------------
 
@@ -81,11 +31,12 @@ struct ConvertForm {
 
     D model(S x, int mode, int n) const {
         if constexpr (std::is_floating_point_v<S>)
-            return realModel<D>(x, mode, n);
+            return tpx::model::real<D>(x, mode, n);
         else if constexpr (std::is_floating_point_v<D>)
             return D(x);
         else
-            return kind == Kind::Scaled ? scaledModel<D>(x, mode, n, zeroAbove) : clampTo<D>(Tpx64s(x));
+            return kind == Kind::Scaled ? tpx::model::scaled<D>(x, mode, n, zeroAbove)
+                                        : tpx::model::saturate<D>(Tpx64s(x));
     }
 };
 

@@ -145,16 +145,4 @@ template <class T, class Expected>
     return ::testing::AssertionSuccess();
 }
 
-// Widths around every lane count and every unrolled turn, and the ways of lying in memory: what breaks vector
-// code. Calls body(width, source lie, destination lie).
-template <class Body>
-void sweepShapes(Body body) {
-    std::vector<int> widths;
-    for (int w = 1; w <= 70; w++) widths.push_back(w);
-    for (int w : {95, 127, 128, 129, 255, 256, 257, 300, 513}) widths.push_back(w);
-    for (int w : widths)
-        for (const Lie& lie : {Lie{}, Lie{24, Edge::End, 0}, Lie{8, Edge::Start, 8}, Lie{16, Edge::End, 4}})
-            body(w, lie, Lie{8 * (w % 5), lie.edge == Edge::End ? Edge::Start : Edge::End, 4 * (w % 3)});
-}
-
 } // namespace tpx::test

@@ -1,23 +1,20 @@
-#include "scalar.h"
+#include "conversion.h"
+#include "models.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
-namespace bench::scalar {
+namespace tpx::model {
 namespace {
-
-template <typename T>
-T saturate(int64_t value) {
-    using Limits = std::numeric_limits<T>;
-    return static_cast<T>(std::clamp<int64_t>(value, Limits::min(), Limits::max()));
-}
 
 // rule(i) gives integers; they are multiplied by 2^-scaleFactor, to nearest with ties to even.
 template <typename T, typename Rule>
 void mapInteger(T* dst, size_t length, int scaleFactor, Rule rule) {
+    // Beyond these nothing changes: results have 33 bits at most, and samples 16.
+    scaleFactor = std::clamp(scaleFactor, -17, 40);
     if (scaleFactor <= 0) {
-        for (size_t i = 0; i < length; ++i) dst[i] = saturate<T>(rule(i) << -scaleFactor);
+        for (size_t i = 0; i < length; ++i) dst[i] = saturate<T>(rule(i) * (int64_t{1} << -scaleFactor));
         return;
     }
     const int64_t belowHalf = (int64_t{1} << (scaleFactor - 1)) - 1;
@@ -42,19 +39,22 @@ void mapChannels(const T* src, T* dst, size_t length, const Thresholds<T>& by, R
         for (size_t c = 0; c < by.computed; ++c) dst[i + c] = rule(src[i + c], c);
 }
 
-// Integers go through double precision; float forms take `single`.
-template <typename T, typename Double, typename Single>
-void map(const T* src, T* dst, size_t length, int scaleFactor, Double exact, Single single) {
-    if constexpr (std::is_floating_point_v<T>) {
-        for (size_t i = 0; i < length; ++i) dst[i] = single(src[i]);
-    } else {
-        using Limits = std::numeric_limits<T>;
-        const double factor = std::ldexp(1.0, -scaleFactor);
-        for (size_t i = 0; i < length; ++i) {
-            const double value = exact(static_cast<double>(src[i])) * factor;
-            dst[i] = static_cast<T>(std::lrint(std::clamp<double>(value, Limits::min(), Limits::max())));
-        }
-    }
+// real(a) with one rounding; of integers to the nearest, with ties to even.
+template <typename T, typename Rule>
+void mapReal(const T* src, T* dst, size_t length, Rule real) {
+    using Limits = std::numeric_limits<T>;
+    for (size_t i = 0; i < length; ++i)
+        if constexpr (std::is_floating_point_v<T>)
+            dst[i] = static_cast<T>(real(src[i]));
+        else
+            dst[i] = static_cast<T>(
+                std::lrint(std::clamp<decltype(real(src[i]))>(real(src[i]), Limits::min(), Limits::max())));
+}
+
+// 2^-n, which for n beyond the limits no longer matters.
+template <typename Real>
+Real scale(int n) {
+    return std::ldexp(Real{1}, -std::clamp(n, -1000, 1000));
 }
 
 } // namespace
@@ -115,25 +115,40 @@ void sqr(const T* src, T* dst, size_t length, int scaleFactor) {
         mapInteger(dst, length, scaleFactor, [=](size_t i) { return int64_t{src[i]} * src[i]; });
 }
 
-template <typename T>
+template <typename T, typename Real>
 void sqrt(const T* src, T* dst, size_t length, int scaleFactor) {
-    map(
-        src, dst, length, scaleFactor, [](double a) { return std::sqrt(a); },
-        [](float a) { return std::sqrt(a); });
+    mapReal(src, dst, length, [factor = scale<Real>(scaleFactor)](Real a) {
+        if constexpr (std::is_floating_point_v<T>)
+            return std::sqrt(a);
+        else
+            return a > 0 ? std::sqrt(a) * factor : Real{0};
+    });
 }
 
-template <typename T>
+// What has no logarithm gives the smallest integer.
+template <typename T, typename Real>
 void ln(const T* src, T* dst, size_t length, int scaleFactor) {
-    map(
-        src, dst, length, scaleFactor, [](double a) { return std::log(a); },
-        [](float a) { return std::log(a); });
+    mapReal(src, dst, length, [factor = scale<Real>(scaleFactor)](Real a) {
+        if constexpr (std::is_floating_point_v<T>)
+            return std::log(a);
+        else
+            return a > 0 ? std::log(a) * factor : -std::numeric_limits<Real>::infinity();
+    });
 }
 
-template <typename T>
+// There is not always a number without the factor: it goes into the argument. Most results of integers lie far
+// outside their 16 bits.
+template <typename T, typename Real>
 void exp(const T* src, T* dst, size_t length, int scaleFactor) {
-    map(
-        src, dst, length, scaleFactor, [](double a) { return std::exp(a); },
-        [](float a) { return std::exp(a); });
+    const Real off = static_cast<Real>(std::clamp(scaleFactor, -120000, 120000)) * std::log(Real{2});
+    mapReal(src, dst, length, [off](Real a) {
+        if constexpr (std::is_floating_point_v<T>)
+            return std::exp(a);
+        else
+            return a - off > 12   ? std::numeric_limits<Real>::infinity()
+                   : a - off < -2 ? Real{0}
+                                  : std::exp(a - off);
+    });
 }
 
 template <typename T>
@@ -156,11 +171,11 @@ void addKeepAlpha(const T* src1, const T* src2, T* dst, size_t length, int scale
 
 template <typename T>
 void thresholdGt(const T* src, T* dst, size_t length, const Thresholds<T>& by) {
-    mapChannels(src, dst, length, by, [&](T x, size_t c) { return x > by.low[c] ? by.low[c] : x; });
+    mapChannels(src, dst, length, by, [&](T x, size_t c) { return x < by.low[c] ? x : by.low[c]; });
 }
 template <typename T>
 void thresholdLt(const T* src, T* dst, size_t length, const Thresholds<T>& by) {
-    mapChannels(src, dst, length, by, [&](T x, size_t c) { return x < by.low[c] ? by.low[c] : x; });
+    mapChannels(src, dst, length, by, [&](T x, size_t c) { return x > by.low[c] ? x : by.low[c]; });
 }
 template <typename T>
 void thresholdGtVal(const T* src, T* dst, size_t length, const Thresholds<T>& by) {
@@ -168,12 +183,12 @@ void thresholdGtVal(const T* src, T* dst, size_t length, const Thresholds<T>& by
 }
 template <typename T>
 void thresholdLtVal(const T* src, T* dst, size_t length, const Thresholds<T>& by) {
-    mapChannels(src, dst, length, by, [&](T x, size_t c) { return x < by.low[c] ? by.lowValue[c] : x; });
+    mapChannels(src, dst, length, by, [&](T x, size_t c) { return x >= by.low[c] ? x : by.lowValue[c]; });
 }
 template <typename T>
 void thresholdLtValGtVal(const T* src, T* dst, size_t length, const Thresholds<T>& by) {
     mapChannels(src, dst, length, by, [&](T x, size_t c) {
-        return x < by.low[c] ? by.lowValue[c] : x > by.high[c] ? by.highValue[c] : x;
+        return !(x >= by.low[c]) ? by.lowValue[c] : x > by.high[c] ? by.highValue[c] : x;
     });
 }
 
@@ -184,11 +199,14 @@ void thresholdLtValGtVal(const T* src, T* dst, size_t length, const Thresholds<T
     CHANNELS(T)
 #define CHANNELS(T) \
     template void moveChannels(const T* const*, ptrdiff_t, T* const*, ptrdiff_t, size_t, const Tpx8u*, size_t);
-#define UNARY(T)                                   \
-    template void sqr(const T*, T*, size_t, int);  \
-    template void sqrt(const T*, T*, size_t, int); \
-    template void ln(const T*, T*, size_t, int);   \
-    template void exp(const T*, T*, size_t, int);
+#define ROOTS(T, Real)                                      \
+    template void sqrt<T, Real>(const T*, T*, size_t, int); \
+    template void ln<T, Real>(const T*, T*, size_t, int);   \
+    template void exp<T, Real>(const T*, T*, size_t, int);
+#define UNARY(T)                                  \
+    template void sqr(const T*, T*, size_t, int); \
+    ROOTS(T, RealOf<T>)                           \
+    ROOTS(T, long double)
 #define SIGNED(T) template void abs(const T*, T*, size_t);
 #define BINARY(T)                                           \
     template void add(const T*, const T*, T*, size_t, int); \
@@ -216,7 +234,8 @@ BINARY(Tpx16s)
 BINARY(Tpx32f)
 template void addKeepAlpha(const Tpx8u*, const Tpx8u*, Tpx8u*, size_t, int);
 THRESHOLD(Tpx8u)
+THRESHOLD(Tpx16u)
 THRESHOLD(Tpx16s)
 THRESHOLD(Tpx32f)
 
-} // namespace bench::scalar
+} // namespace tpx::model

@@ -1,5 +1,5 @@
-// The rules of the library in their plain scalar form: a loop over samples, compiled at -O2 without
-// vectorisation. They are what a ratio "times scalar" is measured against.
+// The rules of the library in their plain scalar form: loops over samples, compiled without vectorisation.
+// Tests compare with them; benchmarks tell how many times faster the library is.
 #pragma once
 
 #include <tpxi.h>
@@ -8,7 +8,9 @@
 #include <type_traits>
 #include <vector>
 
-namespace bench::scalar {
+#include "resize.h"
+
+namespace tpx::model {
 
 template <typename T>
 void copy(const T* src, T* dst, size_t length);
@@ -51,14 +53,17 @@ T most(const T* src, size_t length);
 
 template <typename T>
 void abs(const T* src, T* dst, size_t length);
-// Integer samples are scaled, rounded and saturated; others take a scale factor of 0.
+// Integer samples are scaled by any factor, rounded and saturated; floats take none. Real is what results are
+// computed in: tests ask for more digits than the library may lose.
+template <typename T>
+using RealOf = std::conditional_t<std::is_floating_point_v<T>, T, double>;
 template <typename T>
 void sqr(const T* src, T* dst, size_t length, int scaleFactor);
-template <typename T>
+template <typename T, typename Real = RealOf<T>>
 void sqrt(const T* src, T* dst, size_t length, int scaleFactor);
-template <typename T>
+template <typename T, typename Real = RealOf<T>>
 void ln(const T* src, T* dst, size_t length, int scaleFactor);
-template <typename T>
+template <typename T, typename Real = RealOf<T>>
 void exp(const T* src, T* dst, size_t length, int scaleFactor);
 
 // The second less the first. Integer samples are scaled, rounded and saturated as above.
@@ -115,25 +120,20 @@ void lookupPacked(const S* src, Tpx8u* dst, size_t length, const Tpx8u* table);
 void lookupBetween(const Tpx32f* src, Tpx32f* dst, size_t length, bool linear,
                    const std::vector<Tpx32f>& levels, const std::vector<Tpx32f>& values);
 
-// The two source pixels of each destination position along one side, and the weight of the second:
-// 14 bits for 8-bit samples.
-template <typename T>
-using Weight = std::conditional_t<std::is_same_v<T, Tpx8u>, int, float>;
-template <typename T>
+// The two source pixels of each destination position along one side.
 struct Axis {
-    std::vector<int> first;
+    std::vector<Position> first;
     std::vector<int> second;
-    std::vector<Weight<T>> weight;
     Axis(int srcLength, int dstLength);
 };
 std::vector<int> nearestAxis(int srcLength, int dstLength);
 
 // Steps are in samples here.
 template <typename T>
-void resizeLinear(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, int channels, const Axis<T>& x,
-                  const Axis<T>& y);
+void resizeLinear(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, int channels, const Axis& x,
+                  const Axis& y);
 template <typename T>
 void resizeNearest(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, int channels,
                    const std::vector<int>& x, const std::vector<int>& y);
 
-} // namespace bench::scalar
+} // namespace tpx::model

@@ -1,8 +1,8 @@
-#include "scalar.h"
+#include "models.h"
 
 #include <algorithm>
 
-namespace bench::scalar {
+namespace tpx::model {
 
 template <typename T>
 void lookup(const T* src, T* dst, size_t length, size_t channels, const std::vector<T>* tables) {
@@ -40,4 +40,4 @@ void lookupBetween(const Tpx32f* src, Tpx32f* dst, size_t length, bool linear,
     }
 }
 
-} // namespace bench::scalar
+} // namespace tpx::model

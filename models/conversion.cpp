@@ -1,19 +1,19 @@
-#include "scalar.h"
+#include "conversion.h"
+
+#include "models.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
-namespace bench::scalar {
+namespace tpx::model {
 
 template <typename S, typename D>
 void convertInteger(const S* src, D* dst, size_t length) {
     if constexpr (std::is_floating_point_v<D> || sizeof(D) > sizeof(S)) {
         for (size_t i = 0; i < length; ++i) dst[i] = static_cast<D>(src[i]);
     } else {
-        using Limits = std::numeric_limits<D>;
-        for (size_t i = 0; i < length; ++i)
-            dst[i] = static_cast<D>(std::clamp<int64_t>(src[i], Limits::min(), Limits::max()));
+        for (size_t i = 0; i < length; ++i) dst[i] = saturate<D>(int64_t{src[i]});
     }
 }
 
@@ -71,4 +71,4 @@ ROUNDED(Tpx16u, Tpx8s)
 BITS(Tpx8u)
 BITS(Tpx32f)
 
-} // namespace bench::scalar
+} // namespace tpx::model

@@ -1,8 +1,8 @@
-#include "scalar.h"
+#include "models.h"
 
 #include <algorithm>
 
-namespace bench::scalar {
+namespace tpx::model {
 
 void countBytes(const Tpx8u* src, size_t channels, size_t length, Tpx32u* const* tables) {
     for (size_t i = 0; i < length; i += channels)
@@ -23,4 +23,4 @@ template void countBetween(const Tpx16u*, size_t, size_t, const std::vector<floa
 template void countBetween(const Tpx16s*, size_t, size_t, const std::vector<float>&, Tpx32u* const*);
 template void countBetween(const Tpx32f*, size_t, size_t, const std::vector<float>&, Tpx32u* const*);
 
-} // namespace bench::scalar
+} // namespace tpx::model

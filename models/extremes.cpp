@@ -1,8 +1,8 @@
-#include "scalar.h"
+#include "models.h"
 
 #include <algorithm>
 
-namespace bench::scalar {
+namespace tpx::model {
 
 // The second stays where samples do not compare.
 template <typename T>
@@ -45,4 +45,4 @@ EXTREMES(Tpx16u)
 EXTREMES(Tpx16s)
 EXTREMES(Tpx32f)
 
-} // namespace bench::scalar
+} // namespace tpx::model

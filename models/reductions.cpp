@@ -1,8 +1,8 @@
-#include "scalar.h"
+#include "models.h"
 
 #include <cmath>
 
-namespace bench::scalar {
+namespace tpx::model {
 
 namespace {
 template <typename T>
@@ -60,4 +60,4 @@ TYPE(Tpx16s)
 TYPE(Tpx32s)
 TYPE(Tpx32f)
 
-} // namespace bench::scalar
+} // namespace tpx::model
