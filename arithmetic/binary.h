@@ -65,7 +65,8 @@ inline constexpr uint64_t kZeroFillFloor = 0x80000;
 template <bool KeepAlpha, class T>
 void fillZero(T* dst, ptrdiff_t dstStep, ptrdiff_t len, ptrdiff_t height) {
     if constexpr (KeepAlpha) {
-        walkRows(dst, dstStep, height, [&](T* d) { moveColours(d, d, len / 4, [](auto) { return V32f{}; }); });
+        walkRows(dst, dstStep, height,
+                 [&](T* d) { moveKeepingAlpha(d, d, len / 4, [](auto) { return V32f{}; }); });
     } else {
         joinRows(len, height, sizeof(T), dstStep);
         const bool stream = fillsCache(uint64_t(len) * uint64_t(height), kZeroFillFloor);

@@ -69,7 +69,7 @@ TpxStatus unaryRows(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, 
                 return statusOf(rule);
             }
         if constexpr (KeepAlpha) {
-            walk([&](const T* s, T* d) { mapColours<T>(s, d, len, rule); });
+            walk([&](const T* s, T* d) { mapKeepingAlpha<T>(s, d, len, rule); });
         } else {
             // In place the line is in the cache already.
             const uint64_t traffic = 2 * samples * sizeof(T);

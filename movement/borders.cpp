@@ -210,7 +210,7 @@ requires(Px::kKeepsAlpha) class RowBuilder<B, Px> {
     }
     [[gnu::noinline]] static void fill(Tpx8u* dst, ptrdiff_t pixels, V32f with) {
         auto d = reinterpret_cast<typename Px::Sample*>(dst);
-        if (pixels) moveColours(d, d, pixels, [=](auto) { return with; });
+        if (pixels) moveKeepingAlpha(d, d, pixels, [=](auto) { return with; });
     }
 
     Frame frame_;
@@ -220,15 +220,16 @@ requires(Px::kKeepsAlpha) class RowBuilder<B, Px> {
 // ---- The walk -------------------------------------------------------------------------------------------
 
 template <class Px>
-[[gnu::noinline]] void moveColoursOfRow(Tpx8u* dst, const Tpx8u* src, ptrdiff_t pixels) {
+[[gnu::noinline]] void moveRowKeepingAlpha(Tpx8u* dst, const Tpx8u* src, ptrdiff_t pixels) {
     using S = typename Px::Sample;
-    moveColours(reinterpret_cast<const S*>(src), reinterpret_cast<S*>(dst), pixels, [](auto x) { return x; });
+    moveKeepingAlpha(reinterpret_cast<const S*>(src), reinterpret_cast<S*>(dst), pixels,
+                     [](auto x) { return x; });
 }
 
 template <class Px>
 inline void moveRow(Tpx8u* dst, const Tpx8u* src, ptrdiff_t pixels, bool stream) {
     if constexpr (Px::kKeepsAlpha)
-        moveColoursOfRow<Px>(dst, src, pixels);
+        moveRowKeepingAlpha<Px>(dst, src, pixels);
     else if (stream)
         copyRowStreaming(dst, src, pixels * Px::kBytes);
     else

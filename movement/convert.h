@@ -53,7 +53,7 @@ void convertRows(const S* src, ptrdiff_t srcStep, D* dst, ptrdiff_t dstStep, Tpx
     if (srcStep == len * ptrdiff_t(sizeof(S))) joinRows(len, height, sizeof(D), dstStep);
     const auto walk = [&](auto row) { walkRows(src, srcStep, dst, dstStep, height, row); };
     if constexpr (KeepAlpha) {
-        walk([&](const S* s, D* d) { convertColours(s, d, len, rule); });
+        walk([&](const S* s, D* d) { convertKeepingAlpha(s, d, len, rule); });
     } else if (static_cast<const void*>(src) != dst && convertStreams<S, D>(roi, channels)) {
         walk([&](const S* s, D* d) { convertRunStreaming(s, d, len, rule); });
         streamFence();

@@ -38,7 +38,7 @@ TpxStatus copy(const T* pSrc, ptrdiff_t srcStep, T* pDst, ptrdiff_t dstStep, Siz
         if (anyNull(pSrc, pDst)) return tpxErrNullPointer;
         if (isEmpty(roi)) return tpxErrSize;
         walkRows(pSrc, srcStep, pDst, dstStep, roi.height, [width = ptrdiff_t(roi.width)](const T* s, T* d) {
-            moveColours(s, d, width, [](auto x) { return x; });
+            moveKeepingAlpha(s, d, width, [](auto x) { return x; });
         });
         return tpxOk;
     } else {

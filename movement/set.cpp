@@ -20,7 +20,7 @@ TpxStatus set(const T* value, T* pDst, ptrdiff_t dstStep, TpxiSize roi) {
         const Pattern pattern = makePattern(pixel, sizeof pixel);
         const V32f fill = load(reinterpret_cast<const Tpx32f*>(pattern.bytes));
         walkRows(pDst, dstStep, roi.height, [=, width = ptrdiff_t(roi.width)](T* d) {
-            moveColours(d, d, width, [=](auto) { return fill; });
+            moveKeepingAlpha(d, d, width, [=](auto) { return fill; });
         });
     } else {
         constexpr int pixelBytes = channelsOf(L) * int(sizeof(T));

@@ -64,10 +64,9 @@ struct Interleaved {
     bool isGapless(ptrdiff_t width) const { return step == width * kPixel; }
 
     Block<N> load(ptrdiff_t x) const {
-        Block<N> b{};
-        for (int k = 0; k < N; k++)
-            __builtin_memcpy(&b.at[k], p + x * kPixel + offset(k),
-                             bytes(Pixels) < kBlockBytes ? bytes(Pixels) : kBlockBytes);
+        constexpr int kLoaded = bytes(Pixels) < kBlockBytes ? bytes(Pixels) : kBlockBytes;
+        Block<N> b;
+        for (int k = 0; k < N; k++) b.at[k] = loadFront<kLoaded>(p + x * kPixel + offset(k));
         return b;
     }
     void store(ptrdiff_t x, const Block<N>& b) const {

@@ -28,7 +28,8 @@ template <Layout L, Streaming M = Streaming::Maybe, class T, class Rule, class..
 inline void mapImage(Extent e, Rule rule, const ImageView<T>& dst, const ImageView<Src>&... src) {
     if constexpr (L == Layout::AC4)
         walkJoined(
-            e, [&](ptrdiff_t len, T* d, const Src*... s) { applyColours<T>(d, len, rule, s...); }, dst, src...);
+            e, [&](ptrdiff_t len, T* d, const Src*... s) { applyKeepingAlpha<T>(d, len, rule, s...); }, dst,
+            src...);
     else
         walkPointwise<M>(
             e, [&](ptrdiff_t len, T* d, const Src*... s) { applyRun(d, len, rule, s...); },

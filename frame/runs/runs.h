@@ -110,22 +110,22 @@ inline void mapRun(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
 // The same on pixels of four samples of type T, whose fourth is left as it was. Registers stay on whole pixels.
 // R is T, or float where samples are only moved; the length is in R.
 template <class T, class R, class Rule, class... Src>
-inline void applyColours(R* dst, ptrdiff_t len, Rule&& rule, const Src*... src) {
+inline void applyKeepingAlpha(R* dst, ptrdiff_t len, Rule&& rule, const Src*... src) {
     writeRun(
         dst, len, 0, [&](ptrdiff_t i) { return keepAlpha<T>(load(dst + i), rule(load(src + i)...)); },
         [&] { return keepAlpha<T>(loadShort(dst, len), rule(loadShort(src, len)...)); },
         [&](ptrdiff_t i, ptrdiff_t n) { (fetchAhead(src + i, n * ptrdiff_t(sizeof(R))), ...); });
 }
 template <class T, class R, class Rule>
-inline void mapColours(const R* src, R* dst, ptrdiff_t len, Rule&& rule) {
-    applyColours<T>(dst, len, rule, src);
+inline void mapKeepingAlpha(const R* src, R* dst, ptrdiff_t len, Rule&& rule) {
+    applyKeepingAlpha<T>(dst, len, rule, src);
 }
 
 // Moves pixels of four samples of type T but for the fourth.
 template <class T, class Rule>
-inline void moveColours(const T* src, T* dst, ptrdiff_t pixels, Rule&& rule) {
-    mapColours<T>(reinterpret_cast<const Tpx32f*>(src), reinterpret_cast<Tpx32f*>(dst),
-                  pixels * ptrdiff_t(sizeof(T)), rule);
+inline void moveKeepingAlpha(const T* src, T* dst, ptrdiff_t pixels, Rule&& rule) {
+    mapKeepingAlpha<T>(reinterpret_cast<const Tpx32f*>(src), reinterpret_cast<Tpx32f*>(dst),
+                       pixels * ptrdiff_t(sizeof(T)), rule);
 }
 
 // dst[i] = rule(src[i], k), where k counts registers within groups of G: rules whose constants repeat with
@@ -179,7 +179,7 @@ inline void convertRun(const S* src, D* dst, ptrdiff_t len, Rule&& rule) {
 
 // The same on pixels of four samples, whose fourth is left as it was; the length is in samples.
 template <class S, class D, class Rule>
-inline void convertColours(const S* src, D* dst, ptrdiff_t len, Rule&& rule) {
+inline void convertKeepingAlpha(const S* src, D* dst, ptrdiff_t len, Rule&& rule) {
     writeRun(
         dst, len, 0, [&](ptrdiff_t i) { return keepAlpha<D>(load(dst + i), rule(src + i)); },
         [&] { return keepAlpha<D>(loadShort(dst, len), convertShort<D>(src, len, rule)); });

@@ -113,6 +113,19 @@ inline void store(T* p, Vec<T> v) {
     __builtin_memcpy(p, &v, sizeof v);
 }
 
+// The first so many bytes of a register, and 0 behind them. (Copied into part of a variable they would go
+// through memory, and the register's load would wait for them.)
+template <int Bytes>
+inline V8u loadFront(const void* p) {
+    static_assert(Bytes == 4 || Bytes == 8 || Bytes == 16);
+    if constexpr (Bytes == 4)
+        return V8u(_mm_cvtsi32_si128(peek(static_cast<const Tpx32s*>(p))));
+    else if constexpr (Bytes == 8)
+        return V8u(_mm_cvtsi64_si128(peek(static_cast<const Tpx64s*>(p))));
+    else
+        return load(static_cast<const Tpx8u*>(p));
+}
+
 // The same bits seen as other lanes.
 template <class To, class From>
 inline To bitsAs(From v) {

@@ -34,14 +34,7 @@ inline Vec<To> loadAs(const From* p) {
     } else if constexpr (std::is_same_v<To, Tpx64f>) {
         return toDouble(loadAs<Tpx32s>(p));
     } else {
-        constexpr int kBytes = kLanes<To> * int(sizeof(From));
-        std::conditional_t<kBytes == 8, Tpx64s, Tpx32s> bits;
-        __builtin_memcpy(&bits, p, kBytes);
-        __m128i v;
-        if constexpr (kBytes == 8)
-            v = _mm_cvtsi64_si128(bits);
-        else
-            v = _mm_cvtsi32_si128(bits);
+        __m128i v = __m128i(loadFront<kLanes<To> * int(sizeof(From))>(p));
         constexpr bool s = std::is_signed_v<From>;
         if constexpr (sizeof(To) == 2)
             v = s ? _mm_cvtepi8_epi16(v) : _mm_cvtepu8_epi16(v);
