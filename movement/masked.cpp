@@ -6,6 +6,8 @@
 namespace tpx {
 namespace {
 
+// ---- Rules -----------------------------------------------------------------------------------------------
+
 // Which mask byte of a block each byte of its registers stands under.
 template <int N, class T>
 struct MaskPlaces {
@@ -36,35 +38,34 @@ struct SelectPixels {
 
 template <class T>
 using Mask = Interleaved<const Tpx8u, 1, kBlockPixels<T>>;
+template <Layout L, class T>
+using Pixels = Interleaved<T, channelsOf(L)>;
+
+// ---- Operations ------------------------------------------------------------------------------------------
 
 template <Layout L, class T>
-TpxStatus copyMasked(const T* pSrc, int srcStep, T* pDst, int dstStep, TpxiSize roi, const Tpx8u* pMask,
-                     int maskStep) {
-    constexpr int N = channelsOf(L);
-    if (anyNull(pSrc, pDst) || anyNull(pMask)) return tpxErrNullPointer;
+TpxStatus copyMasked(Pixels<L, const T> src, Pixels<L, T> dst, TpxiSizeL roi, Mask<T> mask) {
+    if (anyNull(src.p, dst.p, mask.p)) return tpxErrNullPointer;
     if (isEmpty(roi)) return tpxErrSize;
-    const Interleaved<T, N> dst(pDst, dstStep);
-    mapPixels(roi, false, SelectPixels<L, T>(), dst, Mask<T>(pMask, maskStep),
-              Interleaved<const T, N>(pSrc, srcStep), dst);
+    mapPixels(roi, SelectPixels<L, T>(), dst, mask, src, dst);
     return tpxOk;
 }
 
 // `value` holds as many samples as the layout computes; no more are read.
 template <Layout L, class T>
-TpxStatus setMasked(const void* value, T* pDst, int dstStep, TpxiSize roi, const Tpx8u* pMask, int maskStep) {
+TpxStatus setMasked(const void* value, Pixels<L, T> dst, TpxiSizeL roi, Mask<T> mask) {
     constexpr int N = channelsOf(L);
-    if (anyNull(value) || anyNull(pDst) || anyNull(pMask)) return tpxErrNullPointer;
+    if (anyNull(value, dst.p, mask.p)) return tpxErrNullPointer;
     if (isEmpty(roi)) return tpxErrSize;
     T pixel[N] = {};
-    __builtin_memcpy(pixel, value, (L == Layout::AC4 ? 3 : N) * sizeof(T));
+    __builtin_memcpy(pixel, value, coloursOf(L) * sizeof(T));
     const Pattern pattern = makePattern(pixel, sizeof pixel);
     Block<N> fill;
     for (int k = 0; k < N; k++) fill.at[k] = load(pattern.bytes + k * kBlockBytes);
-    const Interleaved<T, N> dst(pDst, dstStep);
-    mapPixels(
-        roi, false,
-        [=](const Block<1>& mask, const Block<N>& old) { return SelectPixels<L, T>()(mask, fill, old); }, dst,
-        Mask<T>(pMask, maskStep), dst);
+    const auto rule = [=](const Block<1>& bits, const Block<N>& old) {
+        return SelectPixels<L, T>()(bits, fill, old);
+    };
+    mapPixels(roi, rule, dst, mask, dst);
     return tpxOk;
 }
 
@@ -73,32 +74,37 @@ TpxStatus setMasked(const void* value, T* pDst, int dstStep, TpxiSize roi, const
 
 using namespace tpx;
 
-// Samples are moved as bits: Bits is the unsigned integer of their width.
-#define TPX_COPY_MASKED(T, Bits, L)                                                                          \
-    TPX_ENTRY(tpxiCopy_##T##_##L##MR)                                                                        \
-    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize, const Tpx8u* pMask,       \
-     int maskStep) {                                                                                         \
-        return copyMasked<Layout::L>(reinterpret_cast<const Tpx##Bits*>(pSrc), srcStep,                      \
-                                     reinterpret_cast<Tpx##Bits*>(pDst), dstStep, roiSize, pMask, maskStep); \
+// ---- Entries ---------------------------------------------------------------------------------------------
+
+#define TPX_COPY_MASKED(T, L)                                                                             \
+    TPX_ENTRY(tpxiCopy_##T##_##L##MR)                                                                     \
+    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize, const Tpx8u* pMask,    \
+     int maskStep) {                                                                                      \
+        return copyMasked<Layout::L, UnsignedOf<Tpx##T>>({pSrc, srcStep}, {pDst, dstStep}, wide(roiSize), \
+                                                         {pMask, maskStep});                              \
     }
-#define TPX_SET_MASKED(T, Bits, L, declaration, value)                                                  \
+#define TPX_SET_MASKED(T, L)                                                                            \
     TPX_ENTRY(tpxiSet_##T##_##L##MR)                                                                    \
-    (const Tpx##T declaration, Tpx##T* pDst, int dstStep, TpxiSize roiSize, const Tpx8u* pMask,         \
+    (Given<Layout::L, Tpx##T> value, Tpx##T * pDst, int dstStep, TpxiSize roiSize, const Tpx8u* pMask,  \
      int maskStep) {                                                                                    \
-        return setMasked<Layout::L>(value, reinterpret_cast<Tpx##Bits*>(pDst), dstStep, roiSize, pMask, \
-                                    maskStep);                                                          \
+        return setMasked<Layout::L, UnsignedOf<Tpx##T>>(arrayOf(value), {pDst, dstStep}, wide(roiSize), \
+                                                        {pMask, maskStep});                             \
     }
-#define TPX_MASKED(T, Bits, L)  \
-    TPX_COPY_MASKED(T, Bits, L) \
-    TPX_SET_MASKED(T, Bits, L, value[], value)
-#define TPX_MASKED_LAYOUTS(T, Bits)            \
-    TPX_COPY_MASKED(T, Bits, C1)               \
-    TPX_SET_MASKED(T, Bits, C1, value, &value) \
-    TPX_MASKED(T, Bits, C3)                    \
-    TPX_MASKED(T, Bits, C4)                    \
-    TPX_MASKED(T, Bits, AC4)
-TPX_MASKED_LAYOUTS(8u, 8u)
-TPX_MASKED_LAYOUTS(16u, 16u)
-TPX_MASKED_LAYOUTS(16s, 16u)
-TPX_MASKED_LAYOUTS(32s, 32u)
-TPX_MASKED_LAYOUTS(32f, 32u)
+#define TPX_LAYOUTS(INSTANCE, T) \
+    INSTANCE(T, C1)              \
+    INSTANCE(T, C3)              \
+    INSTANCE(T, C4)              \
+    INSTANCE(T, AC4)
+TPX_LAYOUTS(TPX_COPY_MASKED, 8u)
+TPX_LAYOUTS(TPX_COPY_MASKED, 16u)
+TPX_LAYOUTS(TPX_COPY_MASKED, 16s)
+TPX_LAYOUTS(TPX_COPY_MASKED, 32s)
+TPX_LAYOUTS(TPX_COPY_MASKED, 32f)
+TPX_LAYOUTS(TPX_SET_MASKED, 8u)
+TPX_LAYOUTS(TPX_SET_MASKED, 16u)
+TPX_LAYOUTS(TPX_SET_MASKED, 16s)
+TPX_LAYOUTS(TPX_SET_MASKED, 32s)
+TPX_LAYOUTS(TPX_SET_MASKED, 32f)
+#undef TPX_COPY_MASKED
+#undef TPX_SET_MASKED
+#undef TPX_LAYOUTS

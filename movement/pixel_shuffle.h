@@ -3,7 +3,7 @@
 #pragma once
 
 #include "frame/images/pixels.h"
-#include "frame/images/pointwise.h"
+#include "frame/runs/memory_runs.h"
 
 namespace tpx {
 
@@ -90,17 +90,13 @@ class PixelShuffleOver {
     V8u keep_, fill_;
 };
 
-// Above this traffic in bytes (reads and writes) the cache's size is asked for.
-inline constexpr uint64_t kShuffleFloor = 4194304;
-
 // To other pixels; in place only if From and To are equal.
-template <int From, int To, class T>
-inline void shufflePixels(const int source[To], const T* pSrc, int srcStep, T* pDst, int dstStep,
-                          TpxiSize roi) {
-    const uint64_t traffic = uint64_t(roi.width) * uint64_t(roi.height) * (From + To) * sizeof(T);
-    mapPixels(roi, pSrc != pDst && exceedsCache(traffic, kShuffleFloor),
-              PixelShuffle<From, To, sizeof(T)>(source), Interleaved<T, To>(pDst, dstStep),
-              Interleaved<const T, From>(pSrc, srcStep));
+template <class T, int From, int To>
+inline void shufflePixels(const int source[To], Interleaved<const T, From> src, Interleaved<T, To> dst,
+                          TpxiSizeL roi) {
+    const bool stream =
+        src.p != dst.p && goesPastCaches(kStreamPointwise, trafficOf(samplesOf(roi, 1), dst, src));
+    mapPixels(roi, stream, PixelShuffle<From, To, sizeof(T)>(source), dst, src);
 }
 
 } // namespace tpx

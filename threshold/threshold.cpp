@@ -55,18 +55,6 @@ inline V32f replaceOutside(V32f x, V32f low, V32f lowValue, V32f high, V32f high
 
 // ---- Constants and checks ---------------------------------------------------------------------------------
 
-// As callers give constants: a sample for C1, an array for layouts of several channels.
-template <Layout L, class T>
-using Given = std::conditional_t<L == Layout::C1, T, const T*>;
-template <class T>
-const T* arrayOf(const T& sample) {
-    return &sample;
-}
-template <class T>
-const T* arrayOf(const T* const& samples) {
-    return samples;
-}
-
 // One value a channel, as the registers that repeat with the pixels.
 template <Layout L, class T>
 struct Constant {
@@ -107,17 +95,17 @@ TpxStatus map(const Images<T>& images, Rule rule) {
     return tpxOk;
 }
 
-template <Layout L, class Side, class T>
+template <Layout L, class Rule, class T>
 TpxStatus clampSide(const Images<T>& images, const T* threshold) {
     if (const TpxStatus status = check(images, threshold)) return status;
-    return map<L>(images, [t = Constant<L, T>(threshold)](auto x, int k) { return Side::clamp(x, t[k]); });
+    return map<L>(images, [t = Constant<L, T>(threshold)](auto x, int k) { return Rule::clamp(x, t[k]); });
 }
 
-template <Layout L, class Side, class T>
+template <Layout L, class Rule, class T>
 TpxStatus replaceSide(const Images<T>& images, const T* threshold, const T* value) {
     if (const TpxStatus status = check(images, threshold, value)) return status;
     return map<L>(images, [t = Constant<L, T>(threshold), v = Constant<L, T>(value)](auto x, int k) {
-        return Side::replace(x, t[k], v[k]);
+        return Rule::replace(x, t[k], v[k]);
     });
 }
 
@@ -159,29 +147,29 @@ using namespace tpx;
 // ---- Entries ---------------------------------------------------------------------------------------------
 
 // Each instance has two: source to destination, and in place.
-#define TPX_CLAMP(T, L, name, Side)                                                                  \
+#define TPX_CLAMP(T, L, name, Rule)                                                                  \
     TPX_ENTRY(name##_##T##_##L##R)                                                                   \
     (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize,                   \
      Given<Layout::L, Tpx##T> threshold) {                                                           \
-        return clampSide<Layout::L, Side, Tpx##T>({{pSrc, srcStep}, {pDst, dstStep}, wide(roiSize)}, \
+        return clampSide<Layout::L, Rule, Tpx##T>({{pSrc, srcStep}, {pDst, dstStep}, wide(roiSize)}, \
                                                   arrayOf(threshold));                               \
     }                                                                                                \
     TPX_ENTRY(name##_##T##_##L##IR)                                                                  \
     (Tpx##T * pSrcDst, int srcDstStep, TpxiSize roiSize, Given<Layout::L, Tpx##T> threshold) {       \
-        return clampSide<Layout::L, Side, Tpx##T>(                                                   \
+        return clampSide<Layout::L, Rule, Tpx##T>(                                                   \
             {{pSrcDst, srcDstStep}, {pSrcDst, srcDstStep}, wide(roiSize)}, arrayOf(threshold));      \
     }
-#define TPX_REPLACE(T, L, name, Side)                                                                  \
+#define TPX_REPLACE(T, L, name, Rule)                                                                  \
     TPX_ENTRY(name##_##T##_##L##R)                                                                     \
     (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize,                     \
      Given<Layout::L, Tpx##T> threshold, Given<Layout::L, Tpx##T> value) {                             \
-        return replaceSide<Layout::L, Side, Tpx##T>({{pSrc, srcStep}, {pDst, dstStep}, wide(roiSize)}, \
+        return replaceSide<Layout::L, Rule, Tpx##T>({{pSrc, srcStep}, {pDst, dstStep}, wide(roiSize)}, \
                                                     arrayOf(threshold), arrayOf(value));               \
     }                                                                                                  \
     TPX_ENTRY(name##_##T##_##L##IR)                                                                    \
     (Tpx##T * pSrcDst, int srcDstStep, TpxiSize roiSize, Given<Layout::L, Tpx##T> threshold,           \
      Given<Layout::L, Tpx##T> value) {                                                                 \
-        return replaceSide<Layout::L, Side, Tpx##T>(                                                   \
+        return replaceSide<Layout::L, Rule, Tpx##T>(                                                   \
             {{pSrcDst, srcDstStep}, {pSrcDst, srcDstStep}, wide(roiSize)}, arrayOf(threshold),         \
             arrayOf(value));                                                                           \
     }

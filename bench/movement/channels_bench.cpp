@@ -168,6 +168,7 @@ void addChannels() {
     addMasked<Tpx8u>("tpxiCopy_8u_C1MR", 1, 1, tpxiCopy_8u_C1MR);
     addMasked<Tpx8u>("tpxiCopy_8u_C3MR", 3, 3, tpxiCopy_8u_C3MR, Sizes::all);
     addMasked<Tpx8u>("tpxiCopy_8u_AC4MR", 4, 3, tpxiCopy_8u_AC4MR);
+    addMasked<Tpx16u>("tpxiCopy_16u_C1MR", 1, 1, tpxiCopy_16u_C1MR);
     addMasked<Tpx32f>("tpxiCopy_32f_C1MR", 1, 1, tpxiCopy_32f_C1MR);
 }
 

@@ -3,6 +3,8 @@
 
 #include <stddef.h>
 
+#include <type_traits>
+
 #include "tpxi/types.h"
 
 namespace tpx {
@@ -16,6 +18,18 @@ constexpr int channelsOf(Layout layout) { return layout == Layout::C1 ? 1 : layo
 
 // The channels that are computed, and so the constants that a caller gives.
 constexpr int coloursOf(Layout layout) { return layout == Layout::C1 ? 1 : layout == Layout::C4 ? 4 : 3; }
+
+// As callers give constants: a sample for C1, an array for layouts of several channels.
+template <Layout L, class T>
+using Given = std::conditional_t<L == Layout::C1, T, const T*>;
+template <class T>
+constexpr const T* arrayOf(const T& sample) {
+    return &sample;
+}
+template <class T>
+constexpr const T* arrayOf(const T* const& samples) {
+    return samples;
+}
 
 // ---- One length inside: entries widen what the short forms are given -------------------------------------
 

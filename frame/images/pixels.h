@@ -20,8 +20,10 @@ inline constexpr int kBlockPixels = kBlockBytes / int(sizeof(T));
 template <int N>
 using Block = Several<V8u, N>;
 
+// The unsigned integer of a sample's width: types of one width share the code that only moves their bits.
 template <class T>
-using ByteLike = std::conditional_t<std::is_const_v<T>, const Tpx8u, Tpx8u>;
+using UnsignedOf =
+    std::conditional_t<sizeof(T) == 1, Tpx8u, std::conditional_t<sizeof(T) == 2, Tpx16u, Tpx32u>>;
 
 // ---- Sides of a run: an image as a source or a destination of blocks ------------------------------------
 
@@ -232,12 +234,17 @@ inline void mapPixelRunStreaming(ptrdiff_t pixels, Rule rule, Dst dst, Src... sr
     if (x < pixels) mapPixelRun(pixels - x, rule, dst.from(x), src.from(x)...);
 }
 
-// The same for every row of a region.
+// The same for every row of a region, in the caches or, where a call may `stream`, past them.
 template <class Rule, class Dst, class... Src>
-inline void mapPixels(TpxiSize roi, bool stream, Rule rule, Dst dst, Src... src) {
+inline void mapPixels(TpxiSizeL roi, Rule rule, Dst dst, Src... src) {
+    walkJoined(
+        samplesOf(roi, 1), [&](ptrdiff_t width, Dst d, Src... s) { mapPixelRun(width, rule, d, s...); }, dst,
+        src...);
+}
+template <class Rule, class Dst, class... Src>
+inline void mapPixels(TpxiSizeL roi, bool stream, Rule rule, Dst dst, Src... src) {
     walkStreaming(
-        stream, Extent{roi.width, roi.height},
-        [&](ptrdiff_t width, Dst d, Src... s) { mapPixelRun(width, rule, d, s...); },
+        stream, samplesOf(roi, 1), [&](ptrdiff_t width, Dst d, Src... s) { mapPixelRun(width, rule, d, s...); },
         [&](ptrdiff_t width, Dst d, Src... s) { mapPixelRunStreaming(width, rule, d, s...); }, dst, src...);
 }
 

@@ -4,7 +4,14 @@
 #include <stddef.h>
 #include <stdint.h>
 
+#include <type_traits>
+
+#include "tpxi/types.h"
+
 namespace tpx {
+
+template <class T>
+using ByteLike = std::conditional_t<std::is_const_v<T>, const Tpx8u, Tpx8u>;
 
 // A step may be negative and need not be a whole number of samples. Addresses on the way need not be memory
 // that the caller handed.
@@ -30,6 +37,12 @@ struct ImageView {
 
     operator ImageView<const T>() const { return {data, step}; }
 };
+
+// The bytes of an image; widths count them.
+template <class T>
+inline ImageView<ByteLike<T>> bytesOf(ImageView<T> image) {
+    return {reinterpret_cast<ByteLike<T>*>(image.data), image.step};
+}
 
 // A step rounded down to a whole number of samples.
 template <class T>
