@@ -1,6 +1,7 @@
 // tpxiBinToGray, tpxiGrayToBin: images of one bit a pixel, least significant bit first.
 #include "frame/entry/entry.h"
-#include "frame/images/pointwise.h"
+#include "frame/images/walk.h"
+#include "frame/runs/memory_runs.h"
 #include "frame/simd/control.h"
 #include "frame/simd/through_real.h"
 
@@ -9,18 +10,25 @@ namespace {
 
 constexpr int kByteBits = 8;
 
-TpxStatus checkBits(const void* src, int srcStep, const void* dst, int dstStep, TpxiSize roi, int bitOffset) {
-    if (anyNull(src, dst)) return tpxErrNullPointer;
-    if (isEmpty(roi)) return tpxErrSize;
-    if (srcStep < 1 || dstStep < 1) return tpxErrStep;
-    return bitOffset < 0 ? tpxErrSize : tpxOk;
-}
+// An image of bits as a side of a walk (frame/images/walk.h); widths count bits.
+template <class Byte>
+struct BitImage {
+    ImageView<Byte> bytes;
+    int offset; // of the first bit, from 0 to 7
 
-// Rows of whole bytes that follow each other without a gap become one; `step` and `len` are the samples'.
-void joinBitRows(ptrdiff_t& len, ptrdiff_t& height, int bitOffset, int bitStep, ptrdiff_t sampleBytes,
-                 int step) {
-    if (bitOffset == 0 && len % kByteBits == 0 && bitStep == len / kByteBits)
-        joinRows(len, height, sampleBytes, step);
+    BitImage(ImageView<Byte> image, int bitOffset) : bytes(image), offset(bitOffset % kByteBits) {}
+    Byte* row(ptrdiff_t y) const { return bytes.row(y); }
+    bool isGapless(ptrdiff_t bits) const {
+        return offset == 0 && bits % kByteBits == 0 && bytes.isGapless(bits / kByteBits);
+    }
+};
+
+template <class Src, class Dst>
+TpxStatus checkBits(ImageView<Src> src, ImageView<Dst> dst, TpxiSizeL roi, int bitOffset) {
+    if (anyNull(src.data, dst.data)) return tpxErrNullPointer;
+    if (isEmpty(roi)) return tpxErrSize;
+    if (src.step < 1 || dst.step < 1) return tpxErrStep;
+    return bitOffset < 0 ? tpxErrSize : tpxOk;
 }
 
 // ---- From bits ------------------------------------------------------------------------------------------
@@ -78,35 +86,26 @@ struct Unpack {
     }
 };
 
-// Above this traffic in bytes the cache's size is asked for.
-constexpr uint64_t kUnpackFloor = 524288;
-
 template <class T>
-TpxStatus unpack(const Tpx8u* src, int srcStep, int bitOffset, T* dst, int dstStep, TpxiSize roi, T low,
-                 T high) {
-    const TpxStatus status = checkBits(src, srcStep, dst, dstStep, roi, bitOffset);
-    if (status != tpxOk) return status;
-    const int offset = bitOffset % kByteBits;
-    ptrdiff_t len = roi.width, height = roi.height;
-    joinBitRows(len, height, offset, srcStep, sizeof(T), dstStep);
+TpxStatus unpack(ImageView<const Tpx8u> src, int bitOffset, ImageView<T> dst, TpxiSizeL roi, T low, T high) {
+    if (const TpxStatus status = checkBits(src, dst, roi, bitOffset)) return status;
+    const BitImage<const Tpx8u> bits(src, bitOffset);
     using B = typename Unpack<T>::B;
     const B lowBits = bitsAs<B>(splat<Vec<T>>(low));
     const Unpack<T> values{lowBits, lowBits ^ bitsAs<B>(splat<Vec<T>>(high))};
-    const uint64_t samples = uint64_t(len) * uint64_t(height);
-    if (exceedsCache(samples * sizeof(T) + samples / kByteBits, kUnpackFloor)) {
-        walkRows(src, srcStep, dst, dstStep, height,
-                 [=](const Tpx8u* s, T* d) { values.template row<true>(s, offset, d, len); });
-        streamFence();
-    } else {
-        walkRows(src, srcStep, dst, dstStep, height,
-                 [=](const Tpx8u* s, T* d) { values.template row<false>(s, offset, d, len); });
-    }
+    const Extent e = samplesOf(roi, 1);
+    const uint64_t traffic = trafficOf(e, dst) + uint64_t(e.width) * uint64_t(e.height) / kByteBits;
+    walkStreaming(
+        goesPastCaches(kStreamConversion, traffic), e,
+        [=](ptrdiff_t len, T* d, const Tpx8u* s) { values.template row<false>(s, bits.offset, d, len); },
+        [=](ptrdiff_t len, T* d, const Tpx8u* s) { values.template row<true>(s, bits.offset, d, len); }, dst,
+        bits);
     return tpxOk;
 }
 
 // ---- To bits --------------------------------------------------------------------------------------------
 
-constexpr int kGroup = 16;
+constexpr int kBitGroup = 16; // bits that are written at a time
 
 // Bits of the samples of a group that are greater than the threshold; of a NaN, or all if the threshold is one,
 // NanAbove.
@@ -128,7 +127,7 @@ inline Tpx32u bitsAbove(const T* p, T threshold) {
     };
     using M = MaskOf<T>;
     Tpx32u bits;
-    if constexpr (kLanes<T> == kGroup)
+    if constexpr (kLanes<T> == kBitGroup)
         bits = laneBits(M(compare(load(p))));
     else
         bits = laneBits(Pair<M>{M(compare(load(p))), M(compare(load(p + kLanes<T>)))});
@@ -142,8 +141,8 @@ inline void mergeBits(Tpx8u* dst, Tpx32u bits, Tpx32u mask) { *dst = Tpx8u((*dst
 template <bool NanAbove, class T>
 void packRow(const T* src, Tpx8u* dst, int offset, ptrdiff_t len, T threshold) {
     const auto above = [=](const T* p) { return bitsAbove<NanAbove>(p, threshold); };
-    T padded[kGroup];
-    const bool isShort = len < kGroup;
+    T padded[kBitGroup];
+    const bool isShort = len < kBitGroup;
     if (isShort) {
         padRun(padded, src, len);
         src = padded;
@@ -163,16 +162,16 @@ void packRow(const T* src, Tpx8u* dst, int offset, ptrdiff_t len, T threshold) {
         for (ptrdiff_t at = i; at < i + 4 * apart; at += apart) {
             fetchAhead(src + at, kLineBytes);
 #pragma GCC unroll 4
-            for (ptrdiff_t j = at; j < at + kLine; j += kGroup) group(src + j, dst + j / kByteBits);
+            for (ptrdiff_t j = at; j < at + kLine; j += kBitGroup) group(src + j, dst + j / kByteBits);
         }
     });
     src += bulk;
     dst += bulk / kByteBits;
     len -= bulk;
-    for (; len >= kGroup; src += kGroup, dst += kGroup / kByteBits, len -= kGroup) group(src, dst);
+    for (; len >= kBitGroup; src += kBitGroup, dst += kBitGroup / kByteBits, len -= kBitGroup) group(src, dst);
     if (len == 0) return;
     // The group that ends where the row ends; a padded one goes on behind it.
-    Tpx32u rest = isShort ? above(padded) >> (src - padded) : above(src + len - kGroup) >> (kGroup - len);
+    Tpx32u rest = isShort ? above(padded) >> (src - padded) : above(src + len - kBitGroup) >> (kBitGroup - len);
     if (len >= kByteBits) {
         *dst++ = Tpx8u(rest);
         rest >>= kByteBits;
@@ -182,26 +181,27 @@ void packRow(const T* src, Tpx8u* dst, int offset, ptrdiff_t len, T threshold) {
 }
 
 template <bool NanAbove, class T>
-void packRows(const T* src, int srcStep, Tpx8u* dst, int dstStep, int offset, TpxiSize roi, T threshold) {
-    ptrdiff_t len = roi.width, height = roi.height;
-    joinBitRows(len, height, offset, dstStep, sizeof(T), srcStep);
-    walkRows(src, srcStep, dst, dstStep, height,
-             [=](const T* s, Tpx8u* d) { packRow<NanAbove>(s, d, offset, len, threshold); });
+void packRows(ImageView<const T> src, const BitImage<Tpx8u>& dst, TpxiSizeL roi, T threshold) {
+    walkJoined(
+        samplesOf(roi, 1),
+        [=, offset = dst.offset](ptrdiff_t len, Tpx8u* d, const T* s) {
+            packRow<NanAbove>(s, d, offset, len, threshold);
+        },
+        dst, src);
 }
 
 template <class T>
-TpxStatus pack(const T* src, int srcStep, Tpx8u* dst, int dstStep, int bitOffset, TpxiSize roi, T threshold) {
-    const TpxStatus status = checkBits(src, srcStep, dst, dstStep, roi, bitOffset);
-    if (status != tpxOk) return status;
-    const int offset = bitOffset % kByteBits;
+TpxStatus pack(ImageView<const T> src, ImageView<Tpx8u> dst, int bitOffset, TpxiSizeL roi, T threshold) {
+    if (const TpxStatus status = checkBits(src, dst, roi, bitOffset)) return status;
+    const BitImage<Tpx8u> bits(dst, bitOffset);
     if constexpr (std::is_floating_point_v<T>) {
         const FloatControl control(roundingAs(Rounding::OfThread));
-        if (offset == 0)
-            packRows<true>(src, srcStep, dst, dstStep, offset, roi, threshold);
+        if (bits.offset == 0)
+            packRows<true>(src, bits, roi, threshold);
         else
-            packRows<false>(src, srcStep, dst, dstStep, offset, roi, threshold);
+            packRows<false>(src, bits, roi, threshold);
     } else {
-        packRows<false>(src, srcStep, dst, dstStep, offset, roi, threshold);
+        packRows<false>(src, bits, roi, threshold);
     }
     return tpxOk;
 }
@@ -209,18 +209,30 @@ TpxStatus pack(const T* src, int srcStep, Tpx8u* dst, int dstStep, int bitOffset
 } // namespace
 } // namespace tpx
 
-#define TPX_BITS(T)                                                                                 \
-    TPX_ENTRY(tpxiBinToGray_1u##T##_C1R)                                                            \
-    (const Tpx8u* pSrc, int srcStep, int srcBitOffset, Tpx##T* pDst, int dstStep, TpxiSize roiSize, \
-     Tpx##T loVal, Tpx##T hiVal) {                                                                  \
-        return tpx::unpack(pSrc, srcStep, srcBitOffset, pDst, dstStep, roiSize, loVal, hiVal);      \
-    }                                                                                               \
-    TPX_ENTRY(tpxiGrayToBin_##T##1u_C1R)                                                            \
-    (const Tpx##T* pSrc, int srcStep, Tpx8u* pDst, int dstStep, int dstBitOffset, TpxiSize roiSize, \
-     Tpx##T threshold) {                                                                            \
-        return tpx::pack(pSrc, srcStep, pDst, dstStep, dstBitOffset, roiSize, threshold);           \
+using namespace tpx;
+
+// ---- Entries ---------------------------------------------------------------------------------------------
+
+#define TPX_FROM_BITS(T)                                                                                    \
+    TPX_ENTRY(tpxiBinToGray_1u##T##_C1R)                                                                    \
+    (const Tpx8u* pSrc, int srcStep, int srcBitOffset, Tpx##T* pDst, int dstStep, TpxiSize roiSize,         \
+     Tpx##T loVal, Tpx##T hiVal) {                                                                          \
+        return unpack<Tpx##T>({pSrc, srcStep}, srcBitOffset, {pDst, dstStep}, wide(roiSize), loVal, hiVal); \
     }
-TPX_BITS(8u)
-TPX_BITS(16u)
-TPX_BITS(16s)
-TPX_BITS(32f)
+TPX_FROM_BITS(8u)
+TPX_FROM_BITS(16u)
+TPX_FROM_BITS(16s)
+TPX_FROM_BITS(32f)
+#undef TPX_FROM_BITS
+
+#define TPX_TO_BITS(T)                                                                                 \
+    TPX_ENTRY(tpxiGrayToBin_##T##1u_C1R)                                                               \
+    (const Tpx##T* pSrc, int srcStep, Tpx8u* pDst, int dstStep, int dstBitOffset, TpxiSize roiSize,    \
+     Tpx##T threshold) {                                                                               \
+        return pack<Tpx##T>({pSrc, srcStep}, {pDst, dstStep}, dstBitOffset, wide(roiSize), threshold); \
+    }
+TPX_TO_BITS(8u)
+TPX_TO_BITS(16u)
+TPX_TO_BITS(16s)
+TPX_TO_BITS(32f)
+#undef TPX_TO_BITS

@@ -52,23 +52,21 @@ F scale(int n) {
 // ---- Calls ----------------------------------------------------------------------------------------------
 
 template <Steps K, Layout L, class S, class D>
-TpxStatus convertReal(const S* src, int srcStep, D* dst, int dstStep, TpxiSize roi, TpxRoundMode mode,
-                      int n = 0) {
+TpxStatus convertReal(ImageView<const S> src, ImageView<D> dst, TpxiSizeL roi, TpxRoundMode mode, int n = 0) {
     return withRounding(mode, [=](auto half) {
         constexpr bool kHalf = decltype(half)::value;
-        const auto run = [=](auto to, auto rule) {
-            return convert<K, L>(src, srcStep, to, dstStep, roi, rule);
-        };
-        const auto bits = reinterpret_cast<Tpx32f*>(dst);
         if constexpr (sizeof(D) < 4) {
-            return run(dst, ToSmall<S, D, kHalf>{scale<S>(n)});
-        } else if constexpr (std::is_signed_v<D>) {
-            return run(bits, To32s<kHalf>{scale<S>(n)});
+            return convert<K, L>(src, dst, roi, ToSmall<S, D, kHalf>{scale<S>(n)});
         } else {
-            // Samples are scaled exactly, in two steps that no factor of a sample in range leaves: beyond these
-            // limits any number is less than a half, or denormals too are above 2^32. Zero stays 0.
-            const int m = clampTo(n, -190, 160);
-            return run(bits, To32u<kHalf>{scale<S>(m / 2), scale<S>(m - m / 2)});
+            const ImageView<Tpx32f> bits{reinterpret_cast<Tpx32f*>(dst.data), dst.step};
+            if constexpr (std::is_signed_v<D>) {
+                return convert<K, L>(src, bits, roi, To32s<kHalf>{scale<S>(n)});
+            } else {
+                // Samples are scaled exactly, in two steps that no factor of a sample in range leaves: beyond
+                // these limits any number is less than a half, or denormals too are above 2^32. Zero stays 0.
+                const int m = clampTo(n, -190, 160);
+                return convert<K, L>(src, bits, roi, To32u<kHalf>{scale<S>(m / 2), scale<S>(m - m / 2)});
+            }
         }
     });
 }
@@ -76,28 +74,34 @@ TpxStatus convertReal(const S* src, int srcStep, D* dst, int dstStep, TpxiSize r
 } // namespace
 } // namespace tpx
 
-#define TPX_CONVERT_REAL(S, D, L)                                                                            \
-    TPX_ENTRY(tpxiConvert_##S##D##_##L##R)                                                                   \
-    (const Tpx##S* pSrc, int srcStep, Tpx##D* pDst, int dstStep, TpxiSize roiSize, TpxRoundMode roundMode) { \
-        return tpx::convertReal<tpx::Steps::Tested, tpx::Layout::L>(pSrc, srcStep, pDst, dstStep, roiSize,   \
-                                                                    roundMode);                              \
+using namespace tpx;
+
+// ---- Entries ---------------------------------------------------------------------------------------------
+
+#define TPX_CONVERT_REAL(D, L)                                                                               \
+    TPX_ENTRY(tpxiConvert_32f##D##_##L##R)                                                                   \
+    (const Tpx32f* pSrc, int srcStep, Tpx##D* pDst, int dstStep, TpxiSize roiSize, TpxRoundMode roundMode) { \
+        return convertReal<Steps::Tested, Layout::L, Tpx32f, Tpx##D>({pSrc, srcStep}, {pDst, dstStep},       \
+                                                                     wide(roiSize), roundMode);              \
     }
 #define TPX_CONVERT_REAL_LAYOUTS(D) \
-    TPX_CONVERT_REAL(32f, D, C1)    \
-    TPX_CONVERT_REAL(32f, D, C3)    \
-    TPX_CONVERT_REAL(32f, D, C4)    \
-    TPX_CONVERT_REAL(32f, D, AC4)
+    TPX_CONVERT_REAL(D, C1)         \
+    TPX_CONVERT_REAL(D, C3)         \
+    TPX_CONVERT_REAL(D, C4)         \
+    TPX_CONVERT_REAL(D, AC4)
 TPX_CONVERT_REAL_LAYOUTS(8u)
 TPX_CONVERT_REAL_LAYOUTS(8s)
 TPX_CONVERT_REAL_LAYOUTS(16u)
 TPX_CONVERT_REAL_LAYOUTS(16s)
+#undef TPX_CONVERT_REAL
+#undef TPX_CONVERT_REAL_LAYOUTS
 
-#define TPX_CONVERT_REAL_SFS(S, D)                                                                         \
-    TPX_ENTRY(tpxiConvert_##S##D##_C1RSfs)                                                                 \
-    (const Tpx##S* pSrc, int srcStep, Tpx##D* pDst, int dstStep, TpxiSize roiSize, TpxRoundMode roundMode, \
-     int scaleFactor) {                                                                                    \
-        return tpx::convertReal<tpx::Steps::Free, tpx::Layout::C1>(pSrc, srcStep, pDst, dstStep, roiSize,  \
-                                                                   roundMode, scaleFactor);                \
+#define TPX_CONVERT_REAL_SFS(S, D)                                                                          \
+    TPX_ENTRY(tpxiConvert_##S##D##_C1RSfs)                                                                  \
+    (const Tpx##S* pSrc, int srcStep, Tpx##D* pDst, int dstStep, TpxiSize roiSize, TpxRoundMode roundMode,  \
+     int scaleFactor) {                                                                                     \
+        return convertReal<Steps::Free, Layout::C1, Tpx##S, Tpx##D>({pSrc, srcStep}, {pDst, dstStep},       \
+                                                                    wide(roiSize), roundMode, scaleFactor); \
     }
 TPX_CONVERT_REAL_SFS(32f, 8s)
 TPX_CONVERT_REAL_SFS(32f, 8u)
@@ -109,10 +113,11 @@ TPX_CONVERT_REAL_SFS(64f, 8s)
 TPX_CONVERT_REAL_SFS(64f, 8u)
 TPX_CONVERT_REAL_SFS(64f, 16s)
 TPX_CONVERT_REAL_SFS(64f, 16u)
+#undef TPX_CONVERT_REAL_SFS
 
 TPX_ENTRY(tpxiConvert_32f32u_C1IRSfs)
 (Tpx32u* pSrcDst, int srcDstStep, TpxiSize roiSize, TpxRoundMode roundMode, int scaleFactor) {
-    return tpx::convertReal<tpx::Steps::Free, tpx::Layout::C1>(reinterpret_cast<const Tpx32f*>(pSrcDst),
-                                                               srcDstStep, pSrcDst, srcDstStep, roiSize,
-                                                               roundMode, scaleFactor);
+    return convertReal<Steps::Free, Layout::C1, Tpx32f, Tpx32u>(
+        {reinterpret_cast<const Tpx32f*>(pSrcDst), srcDstStep}, {pSrcDst, srcDstStep}, wide(roiSize), roundMode,
+        scaleFactor);
 }

@@ -39,11 +39,8 @@ struct Grow {
 
 // Above the factor `zeroAbove` all samples give 0 in every mode, though wide ones need not come to that.
 template <int ZeroAbove, class S, class D>
-TpxStatus convertScaled(const S* src, int srcStep, D* dst, int dstStep, TpxiSize roi, TpxRoundMode mode,
-                        int n) {
-    const auto run = [&](auto rule) {
-        return convert<Steps::Free, Layout::C1>(src, srcStep, dst, dstStep, roi, rule);
-    };
+TpxStatus convertScaled(ImageView<const S> src, ImageView<D> dst, TpxiSizeL roi, TpxRoundMode mode, int n) {
+    const auto run = [&](auto rule) { return convert<Steps::Free, Layout::C1>(src, dst, roi, rule); };
     constexpr int kShiftedOut = 64;
     if (n > ZeroAbove) return run(Shrink<S, D, tpxRoundTowardZero>{kShiftedOut});
     // Beyond 2^24 floating point rounds 32-bit samples, but to no less than that: up to this factor they
@@ -65,11 +62,16 @@ TpxStatus convertScaled(const S* src, int srcStep, D* dst, int dstStep, TpxiSize
 } // namespace
 } // namespace tpx
 
-#define TPX_CONVERT_SCALED(S, D, ZeroAbove)                                                                  \
-    TPX_ENTRY(tpxiConvert_##S##D##_C1RSfs)                                                                   \
-    (const Tpx##S* pSrc, int srcStep, Tpx##D* pDst, int dstStep, TpxiSize roiSize, TpxRoundMode roundMode,   \
-     int scaleFactor) {                                                                                      \
-        return tpx::convertScaled<ZeroAbove>(pSrc, srcStep, pDst, dstStep, roiSize, roundMode, scaleFactor); \
+using namespace tpx;
+
+// ---- Entries ---------------------------------------------------------------------------------------------
+
+#define TPX_CONVERT_SCALED(S, D, ZeroAbove)                                                                \
+    TPX_ENTRY(tpxiConvert_##S##D##_C1RSfs)                                                                 \
+    (const Tpx##S* pSrc, int srcStep, Tpx##D* pDst, int dstStep, TpxiSize roiSize, TpxRoundMode roundMode, \
+     int scaleFactor) {                                                                                    \
+        return convertScaled<ZeroAbove, Tpx##S, Tpx##D>({pSrc, srcStep}, {pDst, dstStep}, wide(roiSize),   \
+                                                        roundMode, scaleFactor);                           \
     }
 TPX_CONVERT_SCALED(8u, 8s, 8)
 TPX_CONVERT_SCALED(16s, 8s, 17)
@@ -82,3 +84,4 @@ TPX_CONVERT_SCALED(32u, 8u, 15)
 TPX_CONVERT_SCALED(32u, 16s, 31)
 TPX_CONVERT_SCALED(32u, 16u, 33)
 TPX_CONVERT_SCALED(32u, 32s, 32)
+#undef TPX_CONVERT_SCALED
