@@ -34,7 +34,8 @@ inline Vec<To> loadAs(const From* p) {
     } else if constexpr (std::is_same_v<To, Tpx64f>) {
         return toDouble(loadAs<Tpx32s>(p));
     } else {
-        __m128i v = __m128i(loadFront<kLanes<To> * int(sizeof(From))>(p));
+        constexpr int kBytes = kLanes<To> * int(sizeof(From));
+        __m128i v = __m128i(loadFront<kBytes>(p));
         constexpr bool s = std::is_signed_v<From>;
         if constexpr (sizeof(To) == 2)
             v = s ? _mm_cvtepi8_epi16(v) : _mm_cvtepu8_epi16(v);
