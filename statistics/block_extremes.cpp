@@ -22,8 +22,8 @@ Vec<T> noneOf() {
 template <class Side, class T>
 Vec<T> foldNeighbours(Vec<T> a, Vec<T> b) {
     if constexpr (std::is_same_v<T, Tpx32f>) {
-        const __m256 low = _mm256_permute2f128_ps(a, b, 0x20), high = _mm256_permute2f128_ps(a, b, 0x31);
-        return Side::pick(V32f(_mm256_shuffle_ps(low, high, 0x88)), V32f(_mm256_shuffle_ps(low, high, 0xDD)));
+        const V32f low = lowHalves(a, b), high = highHalves(a, b);
+        return Side::pick(evenLanes(low, high), oddLanes(low, high));
     } else if constexpr (sizeof(T) == 2) {
         const V32u x = bitsAs<V32u>(a), y = bitsAs<V32u>(b);
         return Side::pick(bitsAs<Vec<T>>(narrow<Tpx16u>(Pair<V32s>{V32s(x & 0xFFFF), V32s(y & 0xFFFF)})),
@@ -43,11 +43,11 @@ Vec<T> foldHalves(Vec<T> a, Vec<T> b) {
         return Side::pick(bitsAs<Vec<T>>(interleaveUnits<N* int(sizeof(T)), false>(x, y)),
                           bitsAs<Vec<T>>(interleaveUnits<N* int(sizeof(T)), true>(x, y)));
     } else if constexpr (N == 4) {
-        return Side::pick(V32f(_mm256_permute2f128_ps(a, b, 0x20)), V32f(_mm256_permute2f128_ps(a, b, 0x31)));
+        return Side::pick(lowHalves(a, b), highHalves(a, b));
     } else if constexpr (N == 2) {
-        return Side::pick(V32f(_mm256_shuffle_ps(a, b, 0x44)), V32f(_mm256_shuffle_ps(a, b, 0xEE)));
+        return Side::pick(firstPairs(a, b), lastPairs(a, b));
     } else { // within the register's halves
-        return Side::pick(V32f(_mm256_unpacklo_ps(a, b)), V32f(_mm256_unpackhi_ps(a, b)));
+        return Side::pick(interleaveLow(a, b), interleaveHigh(a, b));
     }
 }
 
@@ -76,8 +76,7 @@ template <class T, class S>
 struct Extremes {
     using Side = S;
 
-    T* dst;
-    ptrdiff_t dstStep;
+    ImageView<T> dst;
     T* global;
     Vec<T> whole;
     // A register of results is made from at most as many registers as it has lanes, and loads are whole.
@@ -86,11 +85,11 @@ struct Extremes {
 
 // Folds G rows into columns of the row of extremes; the first ones begin it.
 template <int G, bool First, class T, class... E>
-[[gnu::noinline]] void foldGroup(const T* src, ptrdiff_t step, ptrdiff_t len, E&... extremes) {
+[[gnu::noinline]] void foldGroup(ImageView<const T> src, ptrdiff_t len, E&... extremes) {
     constexpr ptrdiff_t L = kLanes<T>;
     const auto foldColumns = [&](ptrdiff_t i) {
         Vec<T> x[G];
-        for (int g = 0; g < G; g++) x[g] = load(addBytes(src, g * step) + i);
+        for (int g = 0; g < G; g++) x[g] = load(src.row(g) + i);
         const auto into = [&]<class S>(Extremes<T, S>& e) {
             Vec<T> folded = First ? noneOf<S, T>() : load(e.row + i);
             for (int g = 0; g < G; g++) folded = S::pick(x[g], folded);
@@ -103,20 +102,20 @@ template <int G, bool First, class T, class... E>
 }
 
 template <int G, class T, class... E>
-void foldGroups(const T* src, ptrdiff_t step, ptrdiff_t rows, ptrdiff_t len, bool first, E&... extremes) {
+void foldGroups(ImageView<const T> src, ptrdiff_t rows, ptrdiff_t len, bool first, E&... extremes) {
     if (first)
-        foldGroup<G, true>(src, step, len, extremes...);
+        foldGroup<G, true>(src, len, extremes...);
     else
-        foldGroup<G, false>(src, step, len, extremes...);
+        foldGroup<G, false>(src, len, extremes...);
     for (ptrdiff_t y = G; y < rows; y += G)
-        foldGroup<G, false>(addBytes(src, (y + G <= rows ? y : rows - G) * step), step, len, extremes...);
+        foldGroup<G, false>(src.from(0, y + G <= rows ? y : rows - G), len, extremes...);
 }
 
 // Rows that do not fill a register.
 template <class T, class... E>
-void foldShort(const T* src, ptrdiff_t step, ptrdiff_t rows, ptrdiff_t len, bool first, E&... extremes) {
+void foldShort(ImageView<const T> src, ptrdiff_t rows, ptrdiff_t len, bool first, E&... extremes) {
     for (ptrdiff_t y = 0; y < rows; y++) {
-        const Vec<T> x = loadShort(addBytes(src, y * step), len);
+        const Vec<T> x = loadShort(src.row(y), len);
         const auto into = [&]<class S>(Extremes<T, S>& e) {
             store(e.row, S::pick(x, first && y == 0 ? noneOf<S, T>() : load(e.row)));
         };
@@ -125,17 +124,17 @@ void foldShort(const T* src, ptrdiff_t step, ptrdiff_t rows, ptrdiff_t len, bool
 }
 
 template <class T, class... E>
-void foldRows(const T* src, ptrdiff_t step, ptrdiff_t rows, ptrdiff_t len, bool first, E&... extremes) {
+void foldRows(ImageView<const T> src, ptrdiff_t rows, ptrdiff_t len, bool first, E&... extremes) {
     if (len < kLanes<T>)
-        foldShort(src, step, rows, len, first, extremes...);
+        foldShort(src, rows, len, first, extremes...);
     else if (rows >= 8)
-        foldGroups<8>(src, step, rows, len, first, extremes...);
+        foldGroups<8>(src, rows, len, first, extremes...);
     else if (rows >= 4)
-        foldGroups<4>(src, step, rows, len, first, extremes...);
+        foldGroups<4>(src, rows, len, first, extremes...);
     else if (rows >= 2)
-        foldGroups<2>(src, step, rows, len, first, extremes...);
+        foldGroups<2>(src, rows, len, first, extremes...);
     else
-        foldGroups<1>(src, step, rows, len, first, extremes...);
+        foldGroups<1>(src, rows, len, first, extremes...);
 }
 
 // The row's blocks of `width` columns to one sample each, at the row's begin. Blocks are first folded to as
@@ -169,7 +168,7 @@ void finishBlocks(Extremes<T, S>& e, ptrdiff_t by, ptrdiff_t bx, ptrdiff_t block
     constexpr ptrdiff_t L = kLanes<T>;
     for (ptrdiff_t i = len; i < blocks * width; i += L) store(e.row + i, noneOf<S, T>());
     foldRowOfBlocks<S, kLanes<T>>(e.row, blocks, width);
-    if (e.dst) copyRow(addBytes(e.dst, by * e.dstStep) + bx, e.row, blocks * ptrdiff_t(sizeof(T)));
+    if (e.dst.data) copyRow(e.dst.row(by) + bx, e.row, blocks * ptrdiff_t(sizeof(T)));
     store(e.row + blocks, noneOf<S, T>());
     for (ptrdiff_t i = 0; i < blocks; i += L) e.whole = S::pick(load(e.row + i), e.whole);
 }
@@ -185,7 +184,7 @@ void storeWhole(const Extremes<T, S>& e) {
 }
 
 template <class T, class... E>
-void walkBlocks(const T* src, ptrdiff_t srcStep, TpxiSize size, TpxiSize block, E&... extremes) {
+void walkBlocks(ImageView<const T> src, TpxiSizeL size, TpxiSizeL block, E&... extremes) {
     // Blocks that are narrower than a piece are folded side by side, wider ones piece upon piece.
     const ptrdiff_t width = block.width, span = width < kPiece<T> ? kPiece<T> / width * width : width;
     const ptrdiff_t columns = width < kPiece<T> ? width : kPiece<T>;
@@ -194,8 +193,8 @@ void walkBlocks(const T* src, ptrdiff_t srcStep, TpxiSize size, TpxiSize block, 
         for (ptrdiff_t x = 0; x < size.width; x += span) {
             const ptrdiff_t end = size.width - x < span ? size.width : x + span;
             for (ptrdiff_t piece = x; piece < end; piece += kPiece<T>)
-                foldRows(addBytes(src, y * srcStep) + piece, srcStep, rows,
-                         end - piece < kPiece<T> ? end - piece : kPiece<T>, piece == x, extremes...);
+                foldRows(src.from(piece, y), rows, end - piece < kPiece<T> ? end - piece : kPiece<T>,
+                         piece == x, extremes...);
             const ptrdiff_t blocks = (end - x + width - 1) / width;
             const ptrdiff_t len = end - x < kPiece<T> ? end - x : kPiece<T>;
             (finishBlocks(extremes, by, x / width, blocks, columns, len), ...);
@@ -206,19 +205,18 @@ void walkBlocks(const T* src, ptrdiff_t srcStep, TpxiSize size, TpxiSize block, 
 
 // ---- Operation -------------------------------------------------------------------------------------------
 
+// One side's results; either may be missing.
 template <class T>
 struct Output {
-    T* dst;
-    int step;
+    ImageView<T> dst;
     T* global;
 
-    bool wanted() const { return dst || global; }
-    bool tooNarrow(ptrdiff_t samples) const { return dst && step < samples * ptrdiff_t(sizeof(T)); }
+    bool wanted() const { return dst.data || global; }
+    bool tooNarrow(ptrdiff_t samples) const { return dst.data && dst.step < samples * ptrdiff_t(sizeof(T)); }
     template <class S>
     Extremes<T, S> extremes() const {
         Extremes<T, S> e;
         e.dst = dst;
-        e.dstStep = step;
         e.global = global;
         e.whole = noneOf<S, T>();
         return e;
@@ -226,26 +224,26 @@ struct Output {
 };
 
 template <class T>
-TpxStatus blockMinMax(const T* src, int srcStep, TpxiSize size, TpxiSize block, const Output<T>& min,
+TpxStatus blockMinMax(ImageView<const T> src, TpxiSizeL size, TpxiSizeL block, const Output<T>& min,
                       const Output<T>& max) {
-    if (!src || (!min.dst && !max.dst)) return tpxErrNullPointer;
+    if (!src.data || (!min.dst.data && !max.dst.data)) return tpxErrNullPointer;
     if (isEmpty(size) || isEmpty(block)) return tpxErrSize;
     // No block is larger than the image: the grid stays the same.
     if (block.width > size.width) block.width = size.width;
     if (block.height > size.height) block.height = size.height;
-    const ptrdiff_t blocks = (ptrdiff_t(size.width) + block.width - 1) / block.width;
-    if (srcStep < size.width * ptrdiff_t(sizeof(T)) || min.tooNarrow(blocks) || max.tooNarrow(blocks))
+    const ptrdiff_t blocks = (size.width + block.width - 1) / block.width;
+    if (src.step < size.width * ptrdiff_t(sizeof(T)) || min.tooNarrow(blocks) || max.tooNarrow(blocks))
         return tpxErrStep;
     if (min.wanted() && max.wanted()) {
         auto smallest = min.template extremes<Least>();
         auto largest = max.template extremes<Most>();
-        walkBlocks(src, srcStep, size, block, smallest, largest);
+        walkBlocks(src, size, block, smallest, largest);
     } else if (min.wanted()) {
         auto smallest = min.template extremes<Least>();
-        walkBlocks(src, srcStep, size, block, smallest);
+        walkBlocks(src, size, block, smallest);
     } else {
         auto largest = max.template extremes<Most>();
-        walkBlocks(src, srcStep, size, block, largest);
+        walkBlocks(src, size, block, largest);
     }
     return tpxOk;
 }
@@ -253,17 +251,20 @@ TpxStatus blockMinMax(const T* src, int srcStep, TpxiSize size, TpxiSize block, 
 } // namespace
 } // namespace tpx
 
+using namespace tpx;
+
 // ---- Entries ---------------------------------------------------------------------------------------------
 
-#define TPX_BLOCK_MIN_MAX(T)                                                                                \
-    TPX_ENTRY(tpxiBlockMinMax_##T##_C1R)                                                                    \
-    (const Tpx##T* pSrc, int srcStep, TpxiSize srcSize, Tpx##T* pDstMin, int dstMinStep, Tpx##T* pDstMax,   \
-     int dstMaxStep, TpxiSize blockSize, Tpx##T* pDstGlobalMin, Tpx##T* pDstGlobalMax) {                    \
-        using namespace tpx;                                                                                \
-        return blockMinMax<Tpx##T>(pSrc, srcStep, srcSize, blockSize, {pDstMin, dstMinStep, pDstGlobalMin}, \
-                                   {pDstMax, dstMaxStep, pDstGlobalMax});                                   \
+#define TPX_BLOCK_MIN_MAX(T)                                                                              \
+    TPX_ENTRY(tpxiBlockMinMax_##T##_C1R)                                                                  \
+    (const Tpx##T* pSrc, int srcStep, TpxiSize srcSize, Tpx##T* pDstMin, int dstMinStep, Tpx##T* pDstMax, \
+     int dstMaxStep, TpxiSize blockSize, Tpx##T* pDstGlobalMin, Tpx##T* pDstGlobalMax) {                  \
+        return blockMinMax<Tpx##T>({pSrc, srcStep}, wide(srcSize), wide(blockSize),                       \
+                                   {{pDstMin, dstMinStep}, pDstGlobalMin},                                \
+                                   {{pDstMax, dstMaxStep}, pDstGlobalMax});                               \
     }
 TPX_BLOCK_MIN_MAX(8u)
 TPX_BLOCK_MIN_MAX(16u)
 TPX_BLOCK_MIN_MAX(16s)
 TPX_BLOCK_MIN_MAX(32f)
+#undef TPX_BLOCK_MIN_MAX

@@ -6,62 +6,74 @@
 namespace tpx {
 namespace {
 
-constexpr int resultsOf(Layout layout) { return layout == Layout::AC4 ? 3 : channelsOf(layout); }
+// ---- Values ----------------------------------------------------------------------------------------------
 
-// ---- Values -------------------------------------------------------------------------------------------------
-
-// Values of Op, an array for each.
-template <Layout L, class... Op, class T, class... Values>
-TpxStatus extremes(const T* src, int step, TpxiSize size, Values... values) {
-    if (anyNull(src, values...)) return tpxErrNullPointer;
+template <Layout L, class Side, class T>
+TpxStatus extreme(ImageView<const T> src, TpxiSizeL size, T* values) {
+    if (anyNull(src.data, values)) return tpxErrNullPointer;
     if (isEmpty(size)) return tpxErrSize;
 
     constexpr int C = channelsOf(L);
-    ExtremeLanes<T, C, Op...> lanes;
-    gather<C>(lanes, src, step, size);
-    for (int c = 0; c < resultsOf(L); c++) ((values[c] = lanes.template of<Op>(c)), ...);
+    ExtremeAccumulator<ExtremeLanes<T, C, Side>> found;
+    accumulate(found, samplesOf(size, C), src);
+    for (int c = 0; c < coloursOf(L); c++) values[c] = found.lanes.of(c);
     return tpxOk;
 }
 
-// ---- Places ---------------------------------------------------------------------------------------------
-
-// Rows are passed in strips that stay in the first-level cache. A channel's strip is the first in which its
-// best sample got better for the last time; the first such sample is then looked for in the strip's rows.
-constexpr ptrdiff_t kStripBytes = 16384;
-
-template <Layout L, class Op, class T>
-TpxStatus placeOfExtreme(const T* src, int step, TpxiSize size, T* values, int* xs, int* ys) {
-    if (anyNull(src, values) || anyNull(xs, ys)) return tpxErrNullPointer;
+template <Layout L, class T>
+TpxStatus bothExtremes(ImageView<const T> src, TpxiSizeL size, T* smallest, T* largest) {
+    if (anyNull(src.data, smallest, largest)) return tpxErrNullPointer;
     if (isEmpty(size)) return tpxErrSize;
 
-    constexpr int C = channelsOf(L), kResults = resultsOf(L);
-    const ptrdiff_t len = ptrdiff_t(size.width) * C;
-    const ptrdiff_t fitting = kStripBytes / (len * ptrdiff_t(sizeof(T)));
-    const ptrdiff_t strip = fitting > 1 ? fitting : 1;
+    constexpr int C = channelsOf(L);
+    ExtremeAccumulator<LeastAndMostLanes<T, C>> found;
+    accumulate(found, samplesOf(size, C), src);
+    for (int c = 0; c < coloursOf(L); c++) {
+        smallest[c] = found.lanes.least.of(c);
+        largest[c] = found.lanes.most.of(c);
+    }
+    return tpxOk;
+}
+
+// ---- Places ----------------------------------------------------------------------------------------------
+
+// Rows are passed in bands that stay in the first-level cache. A channel's band is the first in which its best
+// sample got better for the last time; the first such sample is then looked for in the band's rows.
+constexpr ptrdiff_t kBandBytes = 16384;
+
+template <Layout L, class Side, class T>
+TpxStatus placeOfExtreme(ImageView<const T> src, TpxiSizeL size, T* values, int* xs, int* ys) {
+    if (anyNull(src.data, values) || anyNull(xs, ys)) return tpxErrNullPointer;
+    if (isEmpty(size)) return tpxErrSize;
+
+    constexpr int C = channelsOf(L), kResults = coloursOf(L);
+    const Extent all = samplesOf(size, C);
+    const ptrdiff_t fitting = kBandBytes / (all.width * ptrdiff_t(sizeof(T)));
+    const ptrdiff_t band = fitting > 1 ? fitting : 1;
     T best[kResults];
-    ptrdiff_t strips[kResults] = {}; // first rows
-    for (T& b : best) b = Op::template kStart<T>;
+    ptrdiff_t bands[kResults] = {}; // first rows
+    for (T& b : best) b = Side::template kStart<T>;
     bool bound = false; // nothing can get better
-    for (ptrdiff_t y = 0; y < size.height && !bound; y += strip) {
-        const ptrdiff_t left = size.height - y, rows = strip < left ? strip : left;
-        ExtremeLanes<T, C, Op> lanes;
-        gather<C>(lanes, addBytes(src, y * step), step, {size.width, int(rows)});
+    for (ptrdiff_t y = 0; y < all.height && !bound; y += band) {
+        const ptrdiff_t left = all.height - y, rows = band < left ? band : left;
+        ExtremeAccumulator<ExtremeLanes<T, C, Side>> found;
+        accumulate(found, Extent{all.width, rows}, src.from(0, y));
         bound = true;
         for (int c = 0; c < kResults; c++) {
-            const T here = lanes.template of<Op>(c);
-            if (Op::better(here, best[c])) {
+            const T here = found.lanes.of(c);
+            if (Side::better(here, best[c])) {
                 best[c] = here;
-                strips[c] = y;
+                bands[c] = y;
             }
-            bound = bound && best[c] == Op::template kBound<T>;
+            bound = bound && best[c] == Side::template kBound<T>;
         }
     }
 
     for (int c = 0; c < kResults; c++) {
         values[c] = best[c];
-        xs[c] = ys[c] = 0;                                    // of a channel without numbers
-        for (ptrdiff_t y = strips[c]; y < size.height; y++) { // an infinite start may be met in a later strip
-            const ptrdiff_t x = findInRow<C>(addBytes(src, y * step), size.width, c, best[c]);
+        xs[c] = ys[c] = 0;                                  // of a channel without numbers
+        for (ptrdiff_t y = bands[c]; y < all.height; y++) { // an infinite start may be met in a later band
+            const ptrdiff_t x = findInRow<C>(src.row(y), ptrdiff_t(size.width), c, best[c]);
             if (x < 0) continue;
             xs[c] = int(x);
             ys[c] = int(y);
@@ -72,34 +84,41 @@ TpxStatus placeOfExtreme(const T* src, int step, TpxiSize size, T* values, int* 
 }
 
 } // namespace
+} // namespace tpx
 
-#define TPX_FORM(T, L)                                                                                 \
+using namespace tpx;
+
+// ---- Entries ---------------------------------------------------------------------------------------------
+
+#define TPX_EXTREMES(T, L)                                                                             \
     TPX_ENTRY(tpxiMin_##T##_##L##R)(const Tpx##T* pSrc, int srcStep, TpxiSize roiSize, Tpx##T* pMin) { \
-        return extremes<Layout::L, Least>(pSrc, srcStep, roiSize, pMin);                               \
+        return extreme<Layout::L, Least, Tpx##T>({pSrc, srcStep}, wide(roiSize), pMin);                \
     }                                                                                                  \
     TPX_ENTRY(tpxiMax_##T##_##L##R)(const Tpx##T* pSrc, int srcStep, TpxiSize roiSize, Tpx##T* pMax) { \
-        return extremes<Layout::L, Most>(pSrc, srcStep, roiSize, pMax);                                \
+        return extreme<Layout::L, Most, Tpx##T>({pSrc, srcStep}, wide(roiSize), pMax);                 \
     }                                                                                                  \
     TPX_ENTRY(tpxiMinMax_##T##_##L##R)                                                                 \
     (const Tpx##T* pSrc, int srcStep, TpxiSize roiSize, Tpx##T* pMin, Tpx##T* pMax) {                  \
-        return extremes<Layout::L, Least, Most>(pSrc, srcStep, roiSize, pMin, pMax);                   \
+        return bothExtremes<Layout::L, Tpx##T>({pSrc, srcStep}, wide(roiSize), pMin, pMax);            \
     }                                                                                                  \
     TPX_ENTRY(tpxiMinIndx_##T##_##L##R)                                                                \
     (const Tpx##T* pSrc, int srcStep, TpxiSize roiSize, Tpx##T* pMin, int* pIndexX, int* pIndexY) {    \
-        return placeOfExtreme<Layout::L, Least>(pSrc, srcStep, roiSize, pMin, pIndexX, pIndexY);       \
+        return placeOfExtreme<Layout::L, Least, Tpx##T>({pSrc, srcStep}, wide(roiSize), pMin, pIndexX, \
+                                                        pIndexY);                                      \
     }                                                                                                  \
     TPX_ENTRY(tpxiMaxIndx_##T##_##L##R)                                                                \
     (const Tpx##T* pSrc, int srcStep, TpxiSize roiSize, Tpx##T* pMax, int* pIndexX, int* pIndexY) {    \
-        return placeOfExtreme<Layout::L, Most>(pSrc, srcStep, roiSize, pMax, pIndexX, pIndexY);        \
+        return placeOfExtreme<Layout::L, Most, Tpx##T>({pSrc, srcStep}, wide(roiSize), pMax, pIndexX,  \
+                                                       pIndexY);                                       \
     }
-#define TPX_TYPE(T) \
-    TPX_FORM(T, C1) \
-    TPX_FORM(T, C3) \
-    TPX_FORM(T, C4) \
-    TPX_FORM(T, AC4)
-TPX_TYPE(8u)
-TPX_TYPE(16u)
-TPX_TYPE(16s)
-TPX_TYPE(32f)
-
-} // namespace tpx
+#define TPX_EXTREMES_LAYOUTS(T) \
+    TPX_EXTREMES(T, C1)         \
+    TPX_EXTREMES(T, C3)         \
+    TPX_EXTREMES(T, C4)         \
+    TPX_EXTREMES(T, AC4)
+TPX_EXTREMES_LAYOUTS(8u)
+TPX_EXTREMES_LAYOUTS(16u)
+TPX_EXTREMES_LAYOUTS(16s)
+TPX_EXTREMES_LAYOUTS(32f)
+#undef TPX_EXTREMES
+#undef TPX_EXTREMES_LAYOUTS

@@ -1,8 +1,7 @@
 // The smallest and the largest samples of an image's channels.
 #pragma once
 
-#include "frame/simd/through_real.h"
-#include "statistics/tally.h"
+#include "statistics/accumulate.h"
 
 namespace tpx {
 
@@ -48,50 +47,49 @@ struct Most {
     }
 };
 
-// The lanes of a tally that keeps the extremes of T for each of Op.
-template <class T, int C, class... Op>
+// The extremes of each channel of T.
+template <class T, int C, class Side>
 struct ExtremeLanes {
     using Sample = T;
-    static constexpr int kRegisters = C == 3 ? 3 : 4;
+    static constexpr int kRegisters = C == 3 ? 3 : 4, kChannels = C;
     static constexpr Neutral kNeutral = Neutral::repeats;
     static constexpr ptrdiff_t kSteps = kEndless;
 
-    template <class O>
-    struct Best {
-        Vec<T> at[kRegisters];
-        Best() {
-            for (auto& v : at) v = splat<Vec<T>>(O::template kStart<T>);
-        }
-        void take(const Registers<T, kRegisters>& x) {
-            for (int k = 0; k < kRegisters; k++) at[k] = O::pick(x.at[k], at[k]);
-        }
-    };
-    struct Bests : Best<Op>... {
-    } bests;
+    Vec<T> best[kRegisters];
 
-    void take(const Registers<T, kRegisters>& x) { (bests.Best<Op>::take(x), ...); }
-
-    template <class O>
+    ExtremeLanes() {
+        for (auto& v : best) v = splat<Vec<T>>(Side::template kStart<T>);
+    }
+    void take(const Registers<T, kRegisters>& x) {
+        for (int k = 0; k < kRegisters; k++) best[k] = Side::pick(x.at[k], best[k]);
+    }
     T of(int channel) const {
         T samples[kRegisters * kLanes<T>];
-        __builtin_memcpy(samples, static_cast<const Best<O>&>(bests).at, sizeof samples);
-        T best = samples[channel];
+        __builtin_memcpy(samples, best, sizeof samples);
+        T extreme = samples[channel];
         for (int i = channel; i < kRegisters * kLanes<T>; i += C)
-            if (O::better(samples[i], best)) best = samples[i];
-        return best;
+            if (Side::better(samples[i], extreme)) extreme = samples[i];
+        return extreme;
     }
 };
 
-// Takes an image of C channels into lanes that cannot overflow.
-template <int C, class Lanes, class T>
-inline void gather(Lanes& lanes, const T* src, ptrdiff_t step, TpxiSize size) {
-    ptrdiff_t room = kEndless;
-    const auto run = [&](ptrdiff_t len, const T* s) {
-        takeRun(
-            lanes, room, [](Lanes&) {}, len, s);
-    };
-    forRuns<C>(size, run, src, step);
-}
+// Both from one pass.
+template <class T, int C>
+struct LeastAndMostLanes {
+    using Sample = T;
+    using LeastLanes = ExtremeLanes<T, C, Least>;
+    static constexpr int kRegisters = LeastLanes::kRegisters;
+    static constexpr Neutral kNeutral = LeastLanes::kNeutral;
+    static constexpr ptrdiff_t kSteps = LeastLanes::kSteps;
+
+    LeastLanes least;
+    ExtremeLanes<T, C, Most> most;
+
+    void take(const Registers<T, kRegisters>& x) {
+        least.take(x);
+        most.take(x);
+    }
+};
 
 // ---- Places ------------------------------------------------------------------------------------------------
 
@@ -109,17 +107,13 @@ inline ptrdiff_t findInRow(const T* row, ptrdiff_t pixels, int channel, T value)
     for (; i + N * L <= len; i += N * L) {
         Mask found{};
         for (ptrdiff_t k = 0; k < N; k++) {
-            Mask here;
-            __builtin_memcpy(&here, ofChannel + k * L, sizeof here);
+            const Mask here = peek(reinterpret_cast<const Mask*>(ofChannel + k * L));
             found |= here & (load(row + i + k * L) == wanted);
         }
         if (any(found)) break;
     }
-    for (i += channel; i < len; i += C) {
-        T sample;
-        __builtin_memcpy(&sample, row + i, sizeof sample);
-        if (sample == value) return i / C;
-    }
+    for (i += channel; i < len; i += C)
+        if (peek(row + i) == value) return i / C;
     return -1;
 }
 

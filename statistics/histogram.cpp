@@ -82,11 +82,11 @@ TpxStatus initLevels(TpxDataType dataType, const Tpx32f* const* pLevels, const i
         if (!levels) return tpxErrNullPointer;
         if (nLevels[c] < 2) return tpxErrHistogramLevels;
         for (ptrdiff_t k = 1; k < nLevels[c]; k++)
-            if (!(levelAt(levels, k - 1) < levelAt(levels, k))) return tpxErrRange;
+            if (!(peek(levels + k - 1) < peek(levels + k))) return tpxErrRange;
         if (dataType == tpxDataType32f)
-            storeLevels<Tpx32f>(storage, nLevels[c], [=](ptrdiff_t k) { return levelAt(levels, k); });
+            storeLevels<Tpx32f>(storage, nLevels[c], [=](ptrdiff_t k) { return peek(levels + k); });
         else
-            storeLevels<Tpx32s>(storage, nLevels[c], [=](ptrdiff_t k) { return ceiling(levelAt(levels, k)); });
+            storeLevels<Tpx32s>(storage, nLevels[c], [=](ptrdiff_t k) { return ceiling(peek(levels + k)); });
         return tpxOk;
     };
     return initSpec(pSpec, dataType, nChannels, false, nLevels, channel, pLevels);
@@ -95,7 +95,7 @@ TpxStatus initLevels(TpxDataType dataType, const Tpx32f* const* pLevels, const i
 TpxStatus initUniform(TpxDataType dataType, const Tpx32f* lowerLevel, const Tpx32f* upperLevel,
                       const int* nLevels, int nChannels, TpxHistogramSpec* pSpec) {
     const auto channel = [=](int c, Tpx8u* storage, Tpx32f& step) -> TpxStatus {
-        const Tpx32f lower = levelAt(lowerLevel, c), upper = levelAt(upperLevel, c);
+        const Tpx32f lower = peek(lowerLevel + c), upper = peek(upperLevel + c);
         const ptrdiff_t last = ptrdiff_t(nLevels[c]) - 1;
         if (last < 1) return tpxErrHistogramLevels;
         if (!(lower < upper)) return tpxErrRange;
@@ -224,9 +224,9 @@ Tpx32u sumEntries(const Counter* table, ptrdiff_t begin, ptrdiff_t end) {
 // The bins of levels that are integers.
 template <class T>
 void sumBins(const Counter* table, const Tpx32s* levels, ptrdiff_t count, Counter* hist) {
-    Tpx32s begin = entryOf<T>(levelAt(levels, 0));
+    Tpx32s begin = entryOf<T>(peek(levels));
     for (ptrdiff_t k = 0; k + 1 < count; k++) {
-        const Tpx32s end = entryOf<T>(levelAt(levels, k + 1));
+        const Tpx32s end = entryOf<T>(peek(levels + k + 1));
         hist[k] = end - begin == 1 ? table[begin] : sumEntries(table, begin, end);
         begin = end;
     }
@@ -248,11 +248,11 @@ void countSamples(const T* src, ptrdiff_t len, Counter* const* tables) {
             }
         }
 #pragma GCC unroll 32
-        for (int j = 0; j < kStep; j++) tables[j % C][levelAt(src, i + j) - kMin<T>]++;
+        for (int j = 0; j < kStep; j++) tables[j % C][peek(src + i + j) - kMin<T>]++;
     }
     for (; i < len; i += C)
 #pragma GCC unroll 4
-        for (int c = 0; c < C; c++) tables[c][levelAt(src, i + c) - kMin<T>]++;
+        for (int c = 0; c < C; c++) tables[c][peek(src + i + c) - kMin<T>]++;
 }
 
 // ---- Blocks of floats ------------------------------------------------------------------------------------
@@ -407,7 +407,7 @@ bool countSmall(const Image<T, C>& image, int c, const Spec& spec, Counter* hist
     if (pixels >= kSmall) return false;
     const auto levels = levelsOf<Tpx32s>(spec, c);
     const ptrdiff_t last = ptrdiff_t(spec.nLevels[c]) - 1;
-    const Tpx32s lowest = levelAt(levels, 0), highest = levelAt(levels, last);
+    const Tpx32s lowest = peek(levels), highest = peek(levels + last);
     if (spec.uniform && (Tpx64s(highest) - lowest) % last == 0) {
         clearBins(hist, last);
         const DividedRanks rank = {Tpx32f(lowest), Tpx32f(highest), spec.step[c], Tpx32s(last)};
@@ -419,7 +419,7 @@ bool countSmall(const Image<T, C>& image, int c, const Spec& spec, Counter* hist
     if (pixels > worth || last >= ptrdiff_t(kSmall)) return false;
     const auto real = reinterpret_cast<Tpx32f*>(buffer);
     storeLevels<Tpx32f>(buffer, last + 1,
-                        [=](ptrdiff_t k) { return Tpx32f(entryOf<T>(levelAt(levels, k)) + kMin<T>); });
+                        [=](ptrdiff_t k) { return Tpx32f(entryOf<T>(peek(levels + k)) + kMin<T>); });
     const Ranking ranking = rankingOf(real, last + 1, pixels);
     if (ranking == Ranking::Halved && pixels > worth / 8) return false;
     clearBins(hist, last);
@@ -443,8 +443,8 @@ void countImage(const Image<T, C>& image, const Spec& spec, Counter* const* hist
     // What lies beyond the levels is counted into entries that nobody clears or reads.
     for (int c = 0; c < C; c++) {
         const auto levels = levelsOf<Tpx32s>(spec, c);
-        const Tpx32s begin = entryOf<T>(levelAt(levels, 0)),
-                     end = entryOf<T>(levelAt(levels, spec.nLevels[c] - 1));
+        const Tpx32s begin = entryOf<T>(peek(levels)),
+                     end = entryOf<T>(peek(levels + spec.nLevels[c] - 1));
         __builtin_memset(tables[c] + begin, 0, size_t(end - begin) * sizeof(Counter));
     }
     image.forRows([&](const T* row) { countSamples<C>(row, image.width * C, tables); });
@@ -518,7 +518,7 @@ TPX_ENTRY(tpxiHistogramGetLevels)(const TpxHistogramSpec* pSpec, Tpx32f* const p
             __builtin_memcpy(levels, spec.levels[c], 4 * size_t(spec.nLevels[c]));
         else
             storeLevels<Tpx32f>(levels, spec.nLevels[c],
-                                [&](ptrdiff_t k) { return Tpx32f(levelAt(levelsOf<Tpx32s>(spec, c), k)); });
+                                [&](ptrdiff_t k) { return Tpx32f(peek(levelsOf<Tpx32s>(spec, c) + k)); });
     }
     return tpxOk;
 }

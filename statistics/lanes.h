@@ -1,8 +1,8 @@
-// Sums as lanes of a tally: of samples, of products, of squares, and of what a term makes of samples.
+// Sums as lanes of an accumulator: of samples, of products, of squares, and of what a term makes of samples.
 #pragma once
 
 #include "frame/simd/through_real.h"
-#include "statistics/tally.h"
+#include "statistics/accumulate.h"
 
 namespace tpx {
 
@@ -15,7 +15,7 @@ template <class T, int C, class Sum, int N>
 struct SumsOf {
     using Sample = T;
     using Total = Sum;
-    static constexpr int kRegisters = N;
+    static constexpr int kRegisters = N, kChannels = C;
     static constexpr Neutral kNeutral = Neutral::zeros;
     static constexpr int kPeriod = C == 3 ? 3 * kLanes<T> : kLanes<T>;
 

@@ -6,27 +6,25 @@
 // none does. Levels may lie at any address.
 #pragma once
 
-#include "frame/images/walk.h"
 #include "frame/simd/simd.h"
 
 namespace tpx {
-
-template <class T>
-inline T levelAt(const T* levels, ptrdiff_t k) {
-    T level;
-    __builtin_memcpy(&level, levels + k, sizeof level);
-    return level;
-}
 
 // Whether no level is below the one before it, and none is NaN.
 template <class T>
 inline bool levelsRise(const T* levels, ptrdiff_t count) {
     bool rise = true;
-    for (ptrdiff_t k = 1; k < count; k++) rise &= levelAt(levels, k - 1) <= levelAt(levels, k);
+    for (ptrdiff_t k = 1; k < count; k++) rise &= peek(levels + k - 1) <= peek(levels + k);
     return rise;
 }
 
 // ---- Ways to rank a register of samples ------------------------------------------------------------------
+
+inline void storeRanks(B32f from, Tpx32s* ranks) { __builtin_memcpy(ranks, &from, sizeof from); }
+inline void storeRanks(Pair<V32s> from, Tpx32s* ranks) {
+    store(ranks, from.low);
+    store(ranks + 4, from.high);
+}
 
 // Levels at even distances: the distance from the first tells the rank but for one comparison. With 0.5 added,
 // a level of index j comes to about j + 0.5. If it truly lies in j..j + 1, then a sample from there to the next
@@ -37,8 +35,8 @@ struct EvenRanks {
     Tpx32f first, scale;
 
     EvenRanks(const Tpx32f* levels_, ptrdiff_t count_) : levels(levels_), count(count_) {
-        first = levelAt(levels, 0);
-        scale = Tpx32f(count - 1) / (levelAt(levels, count - 1) - first);
+        first = peek(levels);
+        scale = Tpx32f(count - 1) / (peek(levels + count - 1) - first);
     }
     // The comparison turns what NaN gives to 0.
     V32f estimate(V32f x) const {
@@ -46,9 +44,8 @@ struct EvenRanks {
         return minOf(maxOf(even, V32f{}), splat<V32f>(Tpx32f(count - 1)));
     }
     void operator()(V32f x, Tpx32s* ranks) const {
-        const __m256i truncated = _mm256_cvttps_epi32(estimate(x));
-        __builtin_memcpy(ranks, &truncated, sizeof truncated);
-        for (int i = 0; i < 8; i++) ranks[i] += levelAt(levels, ranks[i]) <= x[i];
+        storeRanks(toIntegerTruncatedJoined(estimate(x)), ranks);
+        for (int i = 0; i < 8; i++) ranks[i] += peek(levels + ranks[i]) <= x[i];
     }
     bool holds() const {
         if (count < kLanes<Tpx32f> || count > 1 << 22) return false; // more are beyond single precision
@@ -63,13 +60,8 @@ struct EvenRanks {
     }
 };
 
-inline void storeRanks(Pair<V32s> from, Tpx32s* ranks) {
-    store(ranks, from.low);
-    store(ranks + 4, from.high);
-}
-
 inline V32f oneWhereNotAbove(Tpx32f level, V32f x) {
-    return _mm256_and_ps(_mm256_cmp_ps(splat<V32f>(level), x, _CMP_LE_OQ), splat<V32f>(1.0f));
+    return masked(lessOrEqual(splat<V32f>(level), x), splat<V32f>(1.0f));
 }
 
 // A few levels that rise: every one is compared.
@@ -79,7 +71,7 @@ struct CountedRanks {
 
     void operator()(V32f x, Tpx32s* ranks) const {
         V32f rank{};
-        for (ptrdiff_t k = 0; k < count; k++) rank += oneWhereNotAbove(levelAt(levels, k), x);
+        for (ptrdiff_t k = 0; k < count; k++) rank += oneWhereNotAbove(peek(levels + k), x);
         storeRanks(toInteger(rank), ranks);
     }
 };
@@ -97,7 +89,7 @@ struct HalvedRanks {
           section(Tpx32s((count + kSections - 1) / kSections)),
           lastBegin(Tpx32s(count) - section) {
         for (ptrdiff_t k = 1; k < kSections; k++)
-            begins[k - 1] = k * section < count ? levelAt(levels, k * section) : __builtin_nanf("");
+            begins[k - 1] = k * section < count ? peek(levels + k * section) : __builtin_nanf("");
     }
 
     void operator()(V32f x, Tpx32s* ranks) const {
@@ -112,10 +104,10 @@ struct HalvedRanks {
         Tpx32s left = section;
         while (left > 1) {
             const Tpx32s half = left / 2;
-            for (int i = 0; i < 8; i++) at[i] += levelAt(levels, at[i] + half) <= x[i] ? half : 0;
+            for (int i = 0; i < 8; i++) at[i] += peek(levels + at[i] + half) <= x[i] ? half : 0;
             left -= half;
         }
-        for (int i = 0; i < 8; i++) ranks[i] = at[i] + (levelAt(levels, at[i]) <= x[i]);
+        for (int i = 0; i < 8; i++) ranks[i] = at[i] + (peek(levels + at[i]) <= x[i]);
     }
 };
 
@@ -127,8 +119,7 @@ struct FirstRanks {
     void operator()(V32f x, Tpx32s* ranks) const {
         V32f rank{};
         for (ptrdiff_t k = count - 2; k >= 0; k--) {
-            const B32f within =
-                (splat<V32f>(levelAt(levels, k)) <= x) & (x < splat<V32f>(levelAt(levels, k + 1)));
+            const B32f within = (splat<V32f>(peek(levels + k)) <= x) & (x < splat<V32f>(peek(levels + k + 1)));
             rank = select(within, bitsAs<V32f>(B32f{} + Tpx32s(k + 1)), rank);
         }
         __builtin_memcpy(ranks, &rank, sizeof rank);

@@ -13,9 +13,9 @@ namespace {
 
 template <class L>
 LineSegment lineThrough(const L* levels, const L* values, ptrdiff_t k) {
-    const Tpx64f low = levelAt(levels, k), high = levelAt(levels, k + 1);
-    const Tpx64f value = levelAt(values, k);
-    return {low, value, (levelAt(values, k + 1) - value) / (high - low), 0};
+    const Tpx64f low = peek(levels + k), high = peek(levels + k + 1);
+    const Tpx64f value = peek(values + k);
+    return {low, value, (peek(values + k + 1) - value) / (high - low), 0};
 }
 
 // The cubic of interval k, through four levels of n: from the one before k on where there are four. Among them
@@ -23,10 +23,10 @@ LineSegment lineThrough(const L* levels, const L* values, ptrdiff_t k) {
 template <class L>
 CubicSegment cubicThrough(const L* levels, const L* values, ptrdiff_t k, ptrdiff_t n) {
     const ptrdiff_t j = k < 1 ? 0 : k - 1 < n - 4 ? k - 1 : n - 4;
-    const Tpx64f origin = levelAt(levels, j + 1), value = levelAt(values, j + 1);
-    const Tpx64f t0 = levelAt(levels, j) - origin, v0 = levelAt(values, j) - value;
-    const Tpx64f t2 = levelAt(levels, j + 2) - origin, v2 = levelAt(values, j + 2) - value;
-    const Tpx64f t3 = levelAt(levels, j + 3) - origin, v3 = levelAt(values, j + 3) - value;
+    const Tpx64f origin = peek(levels + j + 1), value = peek(values + j + 1);
+    const Tpx64f t0 = peek(levels + j) - origin, v0 = peek(values + j) - value;
+    const Tpx64f t2 = peek(levels + j + 2) - origin, v2 = peek(values + j + 2) - value;
+    const Tpx64f t3 = peek(levels + j + 3) - origin, v3 = peek(values + j + 3) - value;
     // Cramer's rule. All minors of the columns t, t^2, t^3 have a factor of this kind.
     const Tpx64f m23 = v0 * (t2 * t3 * (t3 - t2)), m03 = v2 * (t0 * t3 * (t3 - t0)),
                  m02 = v3 * (t0 * t2 * (t2 - t0));
@@ -48,7 +48,7 @@ CubicSegment segmentOf(Curve curve, const Tpx32s* levels, const Tpx32s* values, 
         return cubic;
     }
     LineSegment line = lineThrough(levels, values, k);
-    if (curve == Curve::Nearest || Tpx64s(levelAt(levels, k + 1)) - levelAt(levels, k) == 1)
+    if (curve == Curve::Nearest || Tpx64s(peek(levels + k + 1)) - peek(levels + k) == 1)
         line.slope = 0; // the value as it is, also a negative one
     else
         line = {0, line.value + 0.5 - line.origin * line.slope, line.slope, 0};
@@ -75,7 +75,7 @@ void fillTable(T* table, int begin, int end, const CubicSegment& segment) {
 template <class T>
 void buildTable(T* table, Curve curve, const Tpx32s* levels, const Tpx32s* values, ptrdiff_t n) {
     for (int x = 0; x <= int(std::make_unsigned_t<T>(~0)); x++) table[x] = T(x);
-    const auto limited = [&](ptrdiff_t k) { return clampTo(levelAt(levels, k), kMin<T>, kMax<T> + 1); };
+    const auto limited = [&](ptrdiff_t k) { return clampTo(peek(levels + k), kMin<T>, kMax<T> + 1); };
     for (ptrdiff_t k = 0; k + 1 < n; k++)
         if (limited(k) < limited(k + 1))
             fillTable(table, limited(k), limited(k + 1), segmentOf(curve, levels, values, k, n));
@@ -87,16 +87,16 @@ void buildTable(T* table, Curve curve, const Tpx32s* levels, const Tpx32s* value
 template <class T, class L>
 Tpx32f searchedLevel(const L* levels, ptrdiff_t k) {
     if constexpr (kHasTable<T>)
-        return Tpx32f(clampTo(levelAt(levels, k), kMin<T>, kMax<T> + 1));
+        return Tpx32f(clampTo(peek(levels + k), kMin<T>, kMax<T> + 1));
     else
-        return levelAt(levels, k);
+        return peek(levels + k);
 }
 template <class T, class L>
 Tpx32f searchedValue(const L* values, ptrdiff_t k) {
     if constexpr (kHasTable<T>)
-        return Tpx32f(clampTo(levelAt(values, k), kMin<T>, kMax<T>));
+        return Tpx32f(clampTo(peek(values + k), kMin<T>, kMax<T>));
     else
-        return levelAt(values, k);
+        return peek(values + k);
 }
 
 constexpr uint64_t segmentBytes(Curve curve) {

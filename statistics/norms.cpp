@@ -35,103 +35,108 @@ struct Square {
     }
 };
 
-// ---- Kinds: what is gathered from one source or two, and what comes of it -------------------------------
+// ---- Kinds of norms, by the type of samples and by their channels
+// ---------------------------------------------
+//
+//   OfImage, OfDifference   the accumulators of one image and of the difference of two
+//   norm(x)                 what comes of a channel's value
+// Real is the type in which terms of floats are worked on and added; those of integers are exact.
 
+// What |x| of T is in.
 template <class T>
-using Unsigned = std::make_unsigned_t<T>;
+struct MagnitudeOf {
+    using type = std::make_unsigned_t<T>;
+};
+template <>
+struct MagnitudeOf<Tpx32f> {
+    using type = Tpx32f;
+};
+template <class T>
+using Magnitudes = typename MagnitudeOf<T>::type;
 
-// The same interface as that of a tally, for the largest term.
-template <class T, int C, class U>
-class Largest {
-    TermLanes<T, Magnitude, ExtremeLanes<U, C, Most>> lanes;
-    ptrdiff_t room = kEndless;
-
+template <class T, int C>
+class LargestMagnitude
+    : public ExtremeAccumulator<TermLanes<T, Magnitude, ExtremeLanes<Magnitudes<T>, C, Most>>> {
  public:
-    template <class... Src>
-    void run(ptrdiff_t len, const Src*... src) {
-        takeRun(
-            lanes, room, [](auto&) {}, len, src...);
-    }
-    Tpx64f value(int, int channel) const {
-        const U largest = lanes.template of<Most>(channel);
+    Tpx64f value(int channel) const {
+        const auto largest = this->lanes.of(channel);
         return largest > 0 ? Tpx64f(largest) : 0; // nothing but NaN is 0
     }
 };
 
-struct Inf {
-    template <class T, int C, class Real, int Sources>
-    static auto gather() {
-        if constexpr (std::is_same_v<T, Tpx32f>)
-            return std::type_identity<Largest<T, C, T>>{};
-        else
-            return std::type_identity<Largest<T, C, Unsigned<T>>>{};
-    }
+template <class T, int Channels>
+struct NormOf {
+    using Sample = T;
+    static constexpr int C = Channels;
+};
+
+template <class T, int C, class Real = T>
+struct Inf : NormOf<T, C> {
+    using OfImage = LargestMagnitude<T, C>;
+    using OfDifference = OfImage;
     static Tpx64f norm(Tpx64f largest) { return largest; }
 };
 
-struct L1 {
-    template <class T, int C, class Real, int Sources>
-    static auto gather() {
-        if constexpr (std::is_same_v<T, Tpx32f>)
-            return std::type_identity<Tally<RealLanes<T, C, Real, Real, Magnitude>>>{};
-        else
-            return std::type_identity<Tally<TermLanes<T, Magnitude, SumLanes<Unsigned<T>, C>>>>{};
-    }
+template <class T, int C, class Real = T>
+struct L1 : NormOf<T, C> {
+    using OfImage = SumAccumulator<TermLanes<T, Magnitude, SumLanes<Magnitudes<T>, C>>>;
+    using OfDifference = OfImage;
+    static Tpx64f norm(Tpx64f sum) { return sum; }
+};
+template <int C, class Real>
+struct L1<Tpx32f, C, Real> : NormOf<Tpx32f, C> {
+    using OfImage = SumAccumulator<RealLanes<Tpx32f, C, Real, Real, Magnitude>>;
+    using OfDifference = OfImage;
     static Tpx64f norm(Tpx64f sum) { return sum; }
 };
 
-struct L2 {
-    template <class T, int C, class Real, int Sources>
-    static auto gather() {
-        if constexpr (std::is_same_v<T, Tpx32f>)
-            return std::type_identity<Tally<RealLanes<T, C, Real, Real, Square>>>{};
-        else if constexpr (Sources == 1)
-            return std::type_identity<Tally<SquareLanes<T, C>>>{};
-        else
-            return std::type_identity<Tally<TermLanes<T, Magnitude, SquareLanes<Unsigned<T>, C>>>>{};
-    }
-    static Tpx64f norm(Tpx64f sum) { return TPXS(SqrtOne)(sum); }
+inline Tpx64f rootOf(Tpx64f sum) { return TPXS(SqrtOne)(sum); }
+
+template <class T, int C, class Real = T>
+struct L2 : NormOf<T, C> {
+    using OfImage = SumAccumulator<SquareLanes<T, C>>;
+    using OfDifference = SumAccumulator<TermLanes<T, Magnitude, SquareLanes<Magnitudes<T>, C>>>;
+    static Tpx64f norm(Tpx64f sum) { return rootOf(sum); }
+};
+template <int C, class Real>
+struct L2<Tpx32f, C, Real> : NormOf<Tpx32f, C> {
+    using OfImage = SumAccumulator<RealLanes<Tpx32f, C, Real, Real, Square>>;
+    using OfDifference = OfImage;
+    static Tpx64f norm(Tpx64f sum) { return rootOf(sum); }
 };
 
-template <class Kind, class T, int C, class Real, int Sources>
-using GatherOf = typename decltype(Kind::template gather<T, C, Real, Sources>())::type;
+// ---- Images ----------------------------------------------------------------------------------------------
 
-// ---- Images ---------------------------------------------------------------------------------------------
+template <class Norm>
+using Source = ImageView<const typename Norm::Sample>;
 
-template <class Kind, int C, class Real, class T>
-TpxStatus norm(const T* src, int step, TpxiSize size, Tpx64f* values) {
-    if (anyNull(src) || anyNull(values)) return tpxErrNullPointer;
+template <class Norm>
+TpxStatus norm(Source<Norm> src, TpxiSizeL size, Tpx64f* values) {
+    if (anyNull(src.data) || anyNull(values)) return tpxErrNullPointer;
     if (isEmpty(size)) return tpxErrSize;
-    if (step < 1) return tpxErrStep;
+    if (src.step < 1) return tpxErrStep;
 
-    GatherOf<Kind, T, C, Real, 1> gather;
-    forRuns<C>(
-        size, [&](ptrdiff_t len, const T* x) { gather.run(len, x); }, src, step);
-    for (int c = 0; c < C; c++) values[c] = Kind::norm(gather.value(C, c));
+    typename Norm::OfImage terms;
+    accumulate(terms, samplesOf(size, Norm::C), src);
+    for (int c = 0; c < Norm::C; c++) values[c] = Norm::norm(terms.value(c));
     return tpxOk;
 }
 
-// What both norms of two images share: the checks, and run(len, x, y) for their runs.
-template <int C, class T, class Run>
-TpxStatus checkedRuns(const T* src1, int src1Step, const T* src2, int src2Step, TpxiSize size,
-                      const Tpx64f* values, Run run) {
-    if (anyNull(src1, src2) || anyNull(values)) return tpxErrNullPointer;
+// Of two images.
+template <class T>
+TpxStatus check(ImageView<const T> src1, ImageView<const T> src2, TpxiSizeL size, const Tpx64f* values) {
+    if (anyNull(src1.data, src2.data) || anyNull(values)) return tpxErrNullPointer;
     if (isEmpty(size)) return tpxErrSize;
-    if (src1Step < 1 || src2Step < 1) return tpxErrStep;
-
-    forRuns<C>(size, run, src1, src1Step, src2, src2Step);
-    return tpxOk;
+    return src1.step < 1 || src2.step < 1 ? tpxErrStep : tpxOk;
 }
 
-template <class Kind, int C, class Real, class T>
-TpxStatus normOfDifference(const T* src1, int src1Step, const T* src2, int src2Step, TpxiSize size,
-                           Tpx64f* values) {
-    GatherOf<Kind, T, C, Real, 2> gather;
-    const TpxStatus status =
-        checkedRuns<C>(src1, src1Step, src2, src2Step, size, values,
-                       [&](ptrdiff_t len, const T* x, const T* y) { gather.run(len, x, y); });
-    if (status != tpxOk) return status;
-    for (int c = 0; c < C; c++) values[c] = Kind::norm(gather.value(C, c));
+template <class Norm>
+TpxStatus normOfDifference(Source<Norm> src1, Source<Norm> src2, TpxiSizeL size, Tpx64f* values) {
+    if (const TpxStatus status = check(src1, src2, size, values)) return status;
+
+    typename Norm::OfDifference terms;
+    accumulate(terms, samplesOf(size, Norm::C), src1, src2);
+    for (int c = 0; c < Norm::C; c++) values[c] = Norm::norm(terms.value(c));
     return tpxOk;
 }
 
@@ -141,68 +146,95 @@ bool isZero(Tpx64f x) {
     return std::is_same_v<T, Tpx32f> ? x < 0x1p-1022 : x == 0;
 }
 
-// Runs are cut into pieces that stay in the first-level cache for the second passage, over the reference alone.
+// Runs are cut into pieces that stay in the first-level cache for the second pass, over the reference alone.
 constexpr ptrdiff_t kPiece = 3072;
 
-template <class Kind, int C, class Real, class T>
-TpxStatus relativeNorm(const T* src, int srcStep, const T* ref, int refStep, TpxiSize size, Tpx64f* values) {
-    GatherOf<Kind, T, C, Real, 2> difference;
-    GatherOf<Kind, T, C, Real, 1> reference;
-    TpxStatus status =
-        checkedRuns<C>(src, srcStep, ref, refStep, size, values, [&](ptrdiff_t len, const T* x, const T* y) {
-            for (ptrdiff_t i = 0; i < len; i += kPiece) {
-                const ptrdiff_t piece = len - i < kPiece ? len - i : kPiece;
-                difference.run(piece, x + i, y + i);
-                reference.run(piece, y + i);
-            }
-        });
-    if (status != tpxOk) return status;
-    for (int c = 0; c < C; c++) {
-        const Tpx64f over = difference.value(C, c), under = reference.value(C, c);
+template <class Norm>
+TpxStatus relativeNorm(Source<Norm> src, Source<Norm> ref, TpxiSizeL size, Tpx64f* values) {
+    using T = typename Norm::Sample;
+    if (const TpxStatus status = check(src, ref, size, values)) return status;
+
+    typename Norm::OfDifference difference;
+    typename Norm::OfImage reference;
+    const auto run = [&](ptrdiff_t len, const T* x, const T* y) {
+        for (ptrdiff_t i = 0; i < len; i += kPiece) {
+            const ptrdiff_t piece = len - i < kPiece ? len - i : kPiece;
+            difference.run(piece, x + i, y + i);
+            reference.run(piece, y + i);
+        }
+    };
+    walkJoined(samplesOf(size, Norm::C), run, src, ref);
+    TpxStatus status = tpxOk;
+    for (int c = 0; c < Norm::C; c++) {
+        const Tpx64f over = difference.value(c), under = reference.value(c);
         if (isZero<T>(under)) {
             values[c] = isZero<T>(over) ? __builtin_bit_cast(Tpx64f, 0xFFF8000000000000) : __builtin_huge_val();
             status = tpxWarnDivByZero;
         } else {
-            values[c] = Kind::norm(over / under);
+            values[c] = Norm::norm(over / under);
         }
     }
     return status;
 }
 
 } // namespace
-
-// pick(f, K, T, C) is the form of a template above, which may depend on the hint.
-#define TPX_FORM(pick, K, T, C, ...)                                                               \
-    TPX_ENTRY(tpxiNorm_##K##_##T##_C##C##R)                                                        \
-    (const Tpx##T* pSrc, int srcStep, TpxiSize roiSize,                                            \
-     Tpx64f* pValue __VA_OPT__(, TpxHintAlgorithm __VA_ARGS__)) {                                  \
-        return pick(norm, K, T, C)(pSrc, srcStep, roiSize, pValue);                                \
-    }                                                                                              \
-    TPX_ENTRY(tpxiNormDiff_##K##_##T##_C##C##R)                                                    \
-    (const Tpx##T* pSrc1, int src1Step, const Tpx##T* pSrc2, int src2Step, TpxiSize roiSize,       \
-     Tpx64f* pValue __VA_OPT__(, TpxHintAlgorithm __VA_ARGS__)) {                                  \
-        return pick(normOfDifference, K, T, C)(pSrc1, src1Step, pSrc2, src2Step, roiSize, pValue); \
-    }                                                                                              \
-    TPX_ENTRY(tpxiNormRel_##K##_##T##_C##C##R)                                                     \
-    (const Tpx##T* pSrc, int srcStep, const Tpx##T* pSrcRef, int srcRefStep, TpxiSize roiSize,     \
-     Tpx64f* pValue __VA_OPT__(, TpxHintAlgorithm __VA_ARGS__)) {                                  \
-        return pick(relativeNorm, K, T, C)(pSrc, srcStep, pSrcRef, srcRefStep, roiSize, pValue);   \
-    }
-#define TPX_PLAIN(f, K, T, C) (f<K, C, Tpx32f, Tpx##T>)
-#define TPX_HINTED(f, K, T, C) (hint == tpxHintAccurate ? f<K, C, Tpx64f, Tpx##T> : f<K, C, Tpx32f, Tpx##T>)
-#define TPX_TYPE(pick, K, T, ...)        \
-    TPX_FORM(pick, K, T, 1, __VA_ARGS__) \
-    TPX_FORM(pick, K, T, 3, __VA_ARGS__) \
-    TPX_FORM(pick, K, T, 4, __VA_ARGS__)
-#define TPX_KIND(K)             \
-    TPX_TYPE(TPX_PLAIN, K, 8u)  \
-    TPX_TYPE(TPX_PLAIN, K, 16u) \
-    TPX_TYPE(TPX_PLAIN, K, 16s)
-TPX_KIND(Inf)
-TPX_TYPE(TPX_PLAIN, Inf, 32f)
-TPX_KIND(L1)
-TPX_TYPE(TPX_HINTED, L1, 32f, hint)
-TPX_KIND(L2)
-TPX_TYPE(TPX_HINTED, L2, 32f, hint)
-
 } // namespace tpx
+
+using namespace tpx;
+
+// ---- Entries ---------------------------------------------------------------------------------------------
+
+#define TPX_NORMS(T, C, Kind)                                                                                  \
+    TPX_ENTRY(tpxiNorm_##Kind##_##T##_C##C##R)                                                                 \
+    (const Tpx##T* pSrc, int srcStep, TpxiSize roiSize, Tpx64f* pValue) {                                      \
+        return norm<Kind<Tpx##T, C>>({pSrc, srcStep}, wide(roiSize), pValue);                                  \
+    }                                                                                                          \
+    TPX_ENTRY(tpxiNormDiff_##Kind##_##T##_C##C##R)                                                             \
+    (const Tpx##T* pSrc1, int src1Step, const Tpx##T* pSrc2, int src2Step, TpxiSize roiSize, Tpx64f* pValue) { \
+        return normOfDifference<Kind<Tpx##T, C>>({pSrc1, src1Step}, {pSrc2, src2Step}, wide(roiSize), pValue); \
+    }                                                                                                          \
+    TPX_ENTRY(tpxiNormRel_##Kind##_##T##_C##C##R)                                                              \
+    (const Tpx##T* pSrc, int srcStep, const Tpx##T* pSrcRef, int srcRefStep, TpxiSize roiSize,                 \
+     Tpx64f* pValue) {                                                                                         \
+        return relativeNorm<Kind<Tpx##T, C>>({pSrc, srcStep}, {pSrcRef, srcRefStep}, wide(roiSize), pValue);   \
+    }
+// Sums of floats, in the precision that the hint asks for.
+#define TPX_NORMS_HINTED(T, C, Kind)                                                                           \
+    TPX_ENTRY(tpxiNorm_##Kind##_##T##_C##C##R)                                                                 \
+    (const Tpx##T* pSrc, int srcStep, TpxiSize roiSize, Tpx64f* pValue, TpxHintAlgorithm hint) {               \
+        const auto f = hint == tpxHintAccurate ? norm<Kind<Tpx##T, C, Tpx64f>> : norm<Kind<Tpx##T, C>>;        \
+        return f({pSrc, srcStep}, wide(roiSize), pValue);                                                      \
+    }                                                                                                          \
+    TPX_ENTRY(tpxiNormDiff_##Kind##_##T##_C##C##R)                                                             \
+    (const Tpx##T* pSrc1, int src1Step, const Tpx##T* pSrc2, int src2Step, TpxiSize roiSize, Tpx64f* pValue,   \
+     TpxHintAlgorithm hint) {                                                                                  \
+        const auto f = hint == tpxHintAccurate ? normOfDifference<Kind<Tpx##T, C, Tpx64f>>                     \
+                                               : normOfDifference<Kind<Tpx##T, C>>;                            \
+        return f({pSrc1, src1Step}, {pSrc2, src2Step}, wide(roiSize), pValue);                                 \
+    }                                                                                                          \
+    TPX_ENTRY(tpxiNormRel_##Kind##_##T##_C##C##R)                                                              \
+    (const Tpx##T* pSrc, int srcStep, const Tpx##T* pSrcRef, int srcRefStep, TpxiSize roiSize, Tpx64f* pValue, \
+     TpxHintAlgorithm hint) {                                                                                  \
+        const auto f =                                                                                         \
+            hint == tpxHintAccurate ? relativeNorm<Kind<Tpx##T, C, Tpx64f>> : relativeNorm<Kind<Tpx##T, C>>;   \
+        return f({pSrc, srcStep}, {pSrcRef, srcRefStep}, wide(roiSize), pValue);                               \
+    }
+#define TPX_CHANNELS(INSTANCE, T, Kind) \
+    INSTANCE(T, 1, Kind)                \
+    INSTANCE(T, 3, Kind)                \
+    INSTANCE(T, 4, Kind)
+TPX_CHANNELS(TPX_NORMS, 8u, Inf)
+TPX_CHANNELS(TPX_NORMS, 16u, Inf)
+TPX_CHANNELS(TPX_NORMS, 16s, Inf)
+TPX_CHANNELS(TPX_NORMS, 32f, Inf)
+TPX_CHANNELS(TPX_NORMS, 8u, L1)
+TPX_CHANNELS(TPX_NORMS, 16u, L1)
+TPX_CHANNELS(TPX_NORMS, 16s, L1)
+TPX_CHANNELS(TPX_NORMS_HINTED, 32f, L1)
+TPX_CHANNELS(TPX_NORMS, 8u, L2)
+TPX_CHANNELS(TPX_NORMS, 16u, L2)
+TPX_CHANNELS(TPX_NORMS, 16s, L2)
+TPX_CHANNELS(TPX_NORMS_HINTED, 32f, L2)
+#undef TPX_NORMS
+#undef TPX_NORMS_HINTED
+#undef TPX_CHANNELS

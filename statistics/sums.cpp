@@ -6,28 +6,31 @@ namespace tpx {
 namespace {
 
 template <class T, int C>
-using Lanes = typename std::conditional_t<std::is_same_v<T, Tpx32f>,
-                                          std::type_identity<RealLanes<T, C, Tpx32f, Tpx64f, Itself>>,
-                                          std::type_identity<SumLanes<T, C>>>::type;
+struct LanesOf {
+    using type = SumLanes<T, C>;
+};
+template <int C>
+struct LanesOf<Tpx32f, C> {
+    using type = RealLanes<Tpx32f, C, Tpx32f, Tpx64f, Itself>;
+};
 
 template <int C, class T>
-TpxStatus sum(const T* src, int srcStep, TpxiSize size, Tpx64f* sums) {
-    if (anyNull(src, sums)) return tpxErrNullPointer;
+TpxStatus sum(ImageView<const T> src, TpxiSizeL size, Tpx64f* sums) {
+    if (anyNull(src.data) || anyNull(sums)) return tpxErrNullPointer;
     if (isEmpty(size)) return tpxErrSize;
 
-    Tally<Lanes<T, C>> tally;
-    forRuns<C>(
-        size, [&](ptrdiff_t len, const T* s) { tally.run(len, s); }, src, srcStep);
-    for (int c = 0; c < C; c++) sums[c] = tally.value(C, c);
+    SumAccumulator<typename LanesOf<T, C>::type> total;
+    accumulate(total, samplesOf(size, C), src);
+    for (int c = 0; c < C; c++) sums[c] = total.value(c);
     return tpxOk;
 }
 
 template <int C, class T>
-TpxStatus mean(const T* src, int srcStep, TpxiSize size, Tpx64f* means) {
+TpxStatus mean(ImageView<const T> src, TpxiSizeL size, Tpx64f* means) {
     if (anyNull(means)) return tpxErrNullPointer;
 
     Tpx64f sums[C];
-    const TpxStatus status = sum<C>(src, srcStep, size, sums);
+    const TpxStatus status = sum<C>(src, size, sums);
     if (status != tpxOk) return status;
     const Tpx64f pixels = Tpx32s(Tpx32u(size.width) * Tpx32u(size.height)); // wraps around
     if constexpr (C == 1)
@@ -38,23 +41,39 @@ TpxStatus mean(const T* src, int srcStep, TpxiSize size, Tpx64f* means) {
 }
 
 } // namespace
-
-#define TPX_FORM(T, C, ...)                                                                        \
-    TPX_ENTRY(tpxiSum_##T##_C##C##R)                                                               \
-    (const Tpx##T* pSrc, int srcStep, TpxiSize roiSize, Tpx64f* pSum __VA_OPT__(, __VA_ARGS__)) {  \
-        return sum<C>(pSrc, srcStep, roiSize, pSum);                                               \
-    }                                                                                              \
-    TPX_ENTRY(tpxiMean_##T##_C##C##R)                                                              \
-    (const Tpx##T* pSrc, int srcStep, TpxiSize roiSize, Tpx64f* pMean __VA_OPT__(, __VA_ARGS__)) { \
-        return mean<C>(pSrc, srcStep, roiSize, pMean);                                             \
-    }
-#define TPX_TYPE(T, ...)        \
-    TPX_FORM(T, 1, __VA_ARGS__) \
-    TPX_FORM(T, 3, __VA_ARGS__) \
-    TPX_FORM(T, 4, __VA_ARGS__)
-TPX_TYPE(8u)
-TPX_TYPE(16u)
-TPX_TYPE(16s)
-TPX_TYPE(32f, TpxHintAlgorithm)
-
 } // namespace tpx
+
+using namespace tpx;
+
+// ---- Entries ---------------------------------------------------------------------------------------------
+
+#define TPX_SUM(T, C)                                                    \
+    TPX_ENTRY(tpxiSum_##T##_C##C##R)                                     \
+    (const Tpx##T* pSrc, int srcStep, TpxiSize roiSize, Tpx64f* pSum) {  \
+        return sum<C, Tpx##T>({pSrc, srcStep}, wide(roiSize), pSum);     \
+    }                                                                    \
+    TPX_ENTRY(tpxiMean_##T##_C##C##R)                                    \
+    (const Tpx##T* pSrc, int srcStep, TpxiSize roiSize, Tpx64f* pMean) { \
+        return mean<C, Tpx##T>({pSrc, srcStep}, wide(roiSize), pMean);   \
+    }
+// Those of floats take a hint, and are accurate whatever it says.
+#define TPX_SUM_HINTED(T, C)                                                               \
+    TPX_ENTRY(tpxiSum_##T##_C##C##R)                                                       \
+    (const Tpx##T* pSrc, int srcStep, TpxiSize roiSize, Tpx64f* pSum, TpxHintAlgorithm) {  \
+        return sum<C, Tpx##T>({pSrc, srcStep}, wide(roiSize), pSum);                       \
+    }                                                                                      \
+    TPX_ENTRY(tpxiMean_##T##_C##C##R)                                                      \
+    (const Tpx##T* pSrc, int srcStep, TpxiSize roiSize, Tpx64f* pMean, TpxHintAlgorithm) { \
+        return mean<C, Tpx##T>({pSrc, srcStep}, wide(roiSize), pMean);                     \
+    }
+#define TPX_CHANNELS(INSTANCE, T) \
+    INSTANCE(T, 1)                \
+    INSTANCE(T, 3)                \
+    INSTANCE(T, 4)
+TPX_CHANNELS(TPX_SUM, 8u)
+TPX_CHANNELS(TPX_SUM, 16u)
+TPX_CHANNELS(TPX_SUM, 16s)
+TPX_CHANNELS(TPX_SUM_HINTED, 32f)
+#undef TPX_SUM
+#undef TPX_SUM_HINTED
+#undef TPX_CHANNELS

@@ -1,8 +1,10 @@
-// Reductions: a tally takes the samples of an image, a few registers a step, and ends in a value per channel.
+// Reductions: an accumulator takes the samples of an image, a few registers a step, and ends in a value for
+// each channel.
 //
-// The registers of a step hold whole pixels, so each of their lanes belongs to one channel throughout. How they
-// are gathered is a class of lanes:
+// The registers of a step hold whole pixels, so each of their lanes belongs to one channel throughout. What
+// they are added to, or compared with, is a class of lanes:
 //   Sample, kRegisters   what a step takes from each source
+//   kChannels            of a pixel
 //   take(x...)           a step, from one source or two
 //   kNeutral             what fills up the last step of a run: zeros, or samples that the run has anyway
 //   kSteps               how many steps they have room for, before any lane can overflow
@@ -97,24 +99,17 @@ inline void takeRun(Lanes& lanes, ptrdiff_t& room, Full full, ptrdiff_t len, con
     lanes = l;
 }
 
-// run(len, src...) for the runs of an image of C channels, or of two.
-template <int C, class T, class Run>
-inline void forRuns(TpxiSize size, Run run, const T* src, ptrdiff_t step) {
-    ptrdiff_t len = ptrdiff_t(size.width) * C, height = size.height;
-    joinRows(len, height, sizeof(T), step);
-    walkRows(src, step, height, [&](const T* x) { run(len, x); });
-}
-template <int C, class T, class Run>
-inline void forRuns(TpxiSize size, Run run, const T* src1, ptrdiff_t step1, const T* src2, ptrdiff_t step2) {
-    ptrdiff_t len = ptrdiff_t(size.width) * C, height = size.height;
-    joinRows(len, height, sizeof(T), step1, step2);
-    walkRows(src1, step1, src2, step2, height, [&](const T* x, const T* y) { run(len, x, y); });
+// All samples of an image, or of two, into an accumulator.
+template <class Accumulator, class... Src>
+inline void accumulate(Accumulator& into, Extent samples, const ImageView<Src>&... images) {
+    walkJoined(
+        samples, [&](ptrdiff_t len, const Src*... rows) { into.run(len, rows...); }, images...);
 }
 
-// ---- Tallies of sums -------------------------------------------------------------------------------------
+// ---- Accumulators ----------------------------------------------------------------------------------------
 
 template <class Lanes>
-class Tally {
+class SumAccumulator {
     Lanes lanes;
     typename Lanes::Total totals[Lanes::kPeriod] = {};
     ptrdiff_t room = Lanes::kSteps;
@@ -128,21 +123,38 @@ class Tally {
 
     // The sum of a channel. Totals of integers are exact, and rounded once: the sums of their upper and of
     // their lower halves are not rounded.
-    Tpx64f value(int channels, int channel) {
+    Tpx64f value(int channel) {
+        constexpr int C = Lanes::kChannels;
         lanes.carry(totals);
         room = Lanes::kSteps;
         if constexpr (std::is_same_v<typename Lanes::Total, Tpx64f>) {
             Tpx64f sum = 0;
-            for (int i = channel; i < Lanes::kPeriod; i += channels) sum += totals[i];
+            for (int i = channel; i < Lanes::kPeriod; i += C) sum += totals[i];
             return sum;
         } else {
             Tpx64s upper = 0, lower = 0;
-            for (int i = channel; i < Lanes::kPeriod; i += channels) {
+            for (int i = channel; i < Lanes::kPeriod; i += C) {
                 upper += totals[i] >> 32;
                 lower += totals[i] & 0xFFFFFFFF;
             }
             return Tpx64f(upper) * 0x1p32 + Tpx64f(lower);
         }
+    }
+};
+
+// For lanes that cannot overflow.
+template <class Lanes>
+class ExtremeAccumulator {
+    ptrdiff_t room = kEndless;
+
+ public:
+    static_assert(Lanes::kSteps == kEndless);
+    Lanes lanes;
+
+    template <class... Src>
+    void run(ptrdiff_t len, const Src*... src) {
+        takeRun(
+            lanes, room, [](Lanes&) {}, len, src...);
     }
 };
 
