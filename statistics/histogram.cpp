@@ -6,6 +6,7 @@
 #include "frame/entry/entry.h"
 #include "frame/images/pointwise.h"
 #include "frame/simd/through_real.h"
+#include "frame/images/walk.h"
 #include "statistics/levels.h"
 
 namespace tpx {

@@ -1,6 +1,7 @@
 // What a lookup spec holds, and the identity code that tells its type, layout and interpolation.
 #pragma once
 
+#include "frame/images/walk.h"
 #include "statistics/levels.h"
 #include "tpxi/statistics.h"
 

@@ -3,7 +3,8 @@
 // A block lies at any address. What a call keeps in it is one function that takes its tables one behind the
 // other from a BlockLayout: the size query runs it without memory and is told the bytes, the initialiser and
 // the processing calls run it with the block and are given the tables. So the two cannot disagree. (A few sizes
-// are fixed by contract; where they are, the formula says so and a test holds the layout below it.)
+// are fixed by contract; where they are, the formula says so and a test holds the layout below it.) Records at
+// addresses of any alignment are read and written by peek and poke (frame/simd/core.h).
 #pragma once
 
 #include <stddef.h>

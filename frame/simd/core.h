@@ -25,7 +25,7 @@ inline constexpr T kMin = std::is_signed_v<T> ? T(-kMax<T> - 1) : T(0);
 // Directions of rounding, as instructions and the control register number them.
 enum class Rounding { Nearest, Down, Up, TowardZero, OfThread };
 
-// One sample at an address of any alignment.
+// One sample or record at an address of any alignment.
 template <class T>
 inline T peek(const T* p) {
     T value;
