@@ -10,21 +10,12 @@ namespace {
 
 // ---- Rules: what samples of given ranks become -----------------------------------------------------------
 
-// Doubles 0 and 1 at four addresses, as two registers.
-Pair<V64f> gatherPairs(const Tpx64f* a, const Tpx64f* b, const Tpx64f* c, const Tpx64f* d) {
-    const auto join = [](const Tpx64f* low, const Tpx64f* high) {
-        return _mm256_insertf128_pd(_mm256_castpd128_pd256(_mm_load_pd(low)), _mm_load_pd(high), 1);
-    };
-    const __m256d ac = join(a, c), bd = join(b, d);
-    return {V64f(_mm256_unpacklo_pd(ac, bd)), V64f(_mm256_unpackhi_pd(ac, bd))};
-}
-
 // Segments of interpolated curves, on four samples.
 template <class Segment>
 V64f onSegments(V64f x, const Segment* segments, const Tpx32s* ranks) {
     const auto gather = [&](ptrdiff_t offset) {
         const auto at = [&](int i) { return reinterpret_cast<const Tpx64f*>(segments + ranks[i]) + offset; };
-        return gatherPairs(at(0), at(1), at(2), at(3));
+        return loadPairsAt(at(0), at(1), at(2), at(3));
     };
     const Pair<V64f> start = gather(0), line = gather(2);
     const V64f t = x - start.low;
@@ -99,15 +90,12 @@ void fromFloats(const Tpx32f* floats, Tpx32f* samples, ptrdiff_t len) { copyBloc
 
 // Between pixels of C floats and channels, eight pixels at a time: what follows reads registers of floats,
 // which would wait for ones that were written as two.
-V32f join(V8u low, V8u high) {
-    return V32f(_mm256_insertf128_ps(_mm256_castps128_ps256(__m128(low)), __m128(high), 1));
-}
 template <int C>
 void takeApart(const Tpx32f* pixels, Tpx32f* channels, ptrdiff_t len) {
     const Interleaved<const Tpx32f, C> from(pixels, 0);
     for (ptrdiff_t i = 0; i < len; i += kLanes<Tpx32f>) {
         const Block<C> low = deinterleave<4>(from.load(i)), high = deinterleave<4>(from.load(i + 4));
-        for (int c = 0; c < C; c++) store(channels + c * kChunk + i, join(low.at[c], high.at[c]));
+        for (int c = 0; c < C; c++) store(channels + c * kChunk + i, joinHalves<V32f>(low.at[c], high.at[c]));
     }
 }
 template <int C>
@@ -119,71 +107,70 @@ void putTogether(const Tpx32f* channels, Tpx32f* pixels, ptrdiff_t len) {
         for (auto& block : half) block = interleave<4>(block);
         for (int k = 0; k < C; k++)
             store(pixels + i * C + 8 * k,
-                  join(half[2 * k / C].at[2 * k % C], half[(2 * k + 1) / C].at[(2 * k + 1) % C]));
+                  joinHalves<V32f>(half[2 * k / C].at[2 * k % C], half[(2 * k + 1) / C].at[(2 * k + 1) % C]));
     }
 }
 
 template <Layout L, class T>
-void searchImage(const T* src, int srcStep, T* dst, int dstStep, TpxiSize roi, const LookupSpec& spec) {
+void searchImage(ImageView<const T> src, ImageView<T> dst, TpxiSizeL roi, const LookupSpec& spec) {
     constexpr int C = channelsOf(L);
     alignas(32) T samples[C * kChunk] = {}, kept[C * kChunk] = {};
     alignas(32) Tpx32f pixels[C * kChunk], apart[C * kChunk];
     Tpx32f* const channels = C == 1 ? pixels : apart;
-    ptrdiff_t width = roi.width, height = roi.height;
-    joinRows(width, height, C * sizeof(T), srcStep, dstStep);
-    walkRows(src, srcStep, dst, dstStep, height, [&](const T* s, T* d) {
-        for (ptrdiff_t x = 0; x < width; x += kChunk) {
+    const auto row = [&](ptrdiff_t width, const T* s, T* d) {
+        for (ptrdiff_t x = 0; x < width; x += C * kChunk) {
             // Whole registers of every channel: beyond the row's end lies what was there before.
-            const ptrdiff_t len = width - x < kChunk ? width - x : kChunk, whole = (len + 7) / 8 * 8;
-            const ptrdiff_t bytes = len * C * ptrdiff_t(sizeof(T));
-            copyBlock(samples, s + x * C, bytes);
-            if (L == Layout::AC4) copyBlock(kept, d + x * C, bytes);
+            const ptrdiff_t len = width - x < C * kChunk ? width - x : C * kChunk;
+            const ptrdiff_t whole = (len / C + 7) / 8 * 8, bytes = len * ptrdiff_t(sizeof(T));
+            copyBlock(samples, s + x, bytes);
+            if (L == Layout::AC4) copyBlock(kept, d + x, bytes);
             toFloats(samples, pixels, whole * C);
             if constexpr (C > 1) takeApart<C>(pixels, channels, whole);
-            for (int c = 0; c < (L == Layout::AC4 ? 3 : C); c++)
+            for (int c = 0; c < coloursOf(L); c++)
                 mapSearched(channels + c * kChunk, whole, spec.searches[c], spec.curve);
             if constexpr (C > 1) putTogether<C>(channels, pixels, whole);
             fromFloats(pixels, samples, whole * C);
             for (ptrdiff_t i = 0; L == Layout::AC4 && i < whole * C; i += kLanes<T>)
                 store(samples + i, keepAlpha<T>(load(kept + i), load(samples + i)));
-            copyBlock(d + x * C, samples, bytes);
+            copyBlock(d + x, samples, bytes);
         }
-    });
+    };
+    walkJoined(samplesOf(roi, C), row, src, dst);
 }
 
 // ---- Images ----------------------------------------------------------------------------------------------
 
 // Small images of 16s are not worth reading a table of 128 KB. A search finds what the table holds if levels
 // rise.
-constexpr Tpx64s kSearchedPixels = 4096;
+constexpr int64_t kSearchedPixels = 4096;
 template <Layout L>
-bool prefersSearch(TpxiSize roi, const LookupSpec& spec) {
+bool prefersSearch(TpxiSizeL roi, const LookupSpec& spec) {
     bool rise = true;
-    for (int c = 0; c < (L == Layout::AC4 ? 3 : channelsOf(L)); c++)
-        rise &= spec.searches[c].ranking != Ranking::First;
-    return rise && spec.curve == Curve::Nearest && Tpx64s(roi.width) * roi.height <= kSearchedPixels;
+    for (int c = 0; c < coloursOf(L); c++) rise &= spec.searches[c].ranking != Ranking::First;
+    return rise && spec.curve == Curve::Nearest && roi.width * roi.height <= kSearchedPixels;
 }
 
 template <Layout L, class T>
-TpxStatus lookup(const T* src, int srcStep, T* dst, int dstStep, TpxiSize roi, const TpxiLUT_Spec* memory) {
-    if (anyNull(src, dst, memory)) return tpxErrNullPointer;
-    if (srcStep < 1 || dstStep < 1) return tpxErrStep;
+TpxStatus lookup(ImageView<const T> src, ImageView<T> dst, TpxiSizeL roi, const TpxiLUT_Spec* memory) {
+    if (anyNull(src.data, dst.data) || anyNull(memory)) return tpxErrNullPointer;
+    if (src.step < 1 || dst.step < 1) return tpxErrStep;
     if (isEmpty(roi)) return tpxErrSize;
-    int code;
-    __builtin_memcpy(&code, memory, sizeof code);
-    constexpr int kCode = lookupCode<T>(L);
+    const LookupCode code = peek(reinterpret_cast<const LookupCode*>(memory));
+    constexpr LookupCode kCode = lookupCode<T>(L);
     if (code != kCode && code != kCode + kLookupCodeStep && code != kCode + 2 * kLookupCodeStep)
         return tpxErrBadArgument;
     const LookupSpec& spec = *lookupSpecIn(memory);
-    if constexpr (hasSearch<T>(Curve::Nearest))
-        if (!kHasTable<T> || prefersSearch<L>(roi, spec)) {
-            searchImage<L>(src, srcStep, dst, dstStep, roi, spec);
+    constexpr bool kHasTable = tableBytes(kDataType<T>) != 0;
+    if constexpr (hasSearch(kDataType<T>, Curve::Nearest))
+        if (!kHasTable || prefersSearch<L>(roi, spec)) {
+            searchImage<L>(src, dst, roi, spec);
             return tpxOk;
         }
-    if constexpr (kHasTable<T>) {
+    if constexpr (kHasTable) {
+        using Index = std::make_unsigned_t<T>;
         const Tables tables{{spec.tables[0], spec.tables[1], spec.tables[2], spec.tables[3]}, ~Tpx64u(0)};
-        lookupImage<L, sizeof(T)>(reinterpret_cast<const std::make_unsigned_t<T>*>(src), srcStep, dst, dstStep,
-                                  roi, tables);
+        const ImageView<const Index> indices{reinterpret_cast<const Index*>(src.data), src.step};
+        mapImageByTables<L, sizeof(T)>(roi, tables, indices, dst.data, dst.step);
     }
     return tpxOk;
 }
@@ -191,22 +178,28 @@ TpxStatus lookup(const T* src, int srcStep, T* dst, int dstStep, TpxiSize roi, c
 } // namespace
 } // namespace tpx
 
+using namespace tpx;
+
 // ---- Entries ---------------------------------------------------------------------------------------------
 
-#define TPX_LUT(T, L)                                                                       \
-    TPX_ENTRY(tpxiLUT_##T##_##L##R)                                                         \
-    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize,          \
-     const TpxiLUT_Spec* pSpec) {                                                           \
-        using namespace tpx;                                                                \
-        return lookup<Layout::L>(pSrc, srcStep, pDst, dstStep, roiSize, pSpec);             \
-    }                                                                                       \
-    TPX_ENTRY(tpxiLUT_##T##_##L##IR)                                                        \
-    (Tpx##T * pSrcDst, int srcDstStep, TpxiSize roiSize, const TpxiLUT_Spec* pSpec) {       \
-        using namespace tpx;                                                                \
-        return lookup<Layout::L>(pSrcDst, srcDstStep, pSrcDst, srcDstStep, roiSize, pSpec); \
+#define TPX_LUT(T, L)                                                                                         \
+    TPX_ENTRY(tpxiLUT_##T##_##L##R)                                                                           \
+    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize,                            \
+     const TpxiLUT_Spec* pSpec) {                                                                             \
+        return lookup<Layout::L, Tpx##T>({pSrc, srcStep}, {pDst, dstStep}, wide(roiSize), pSpec);             \
+    }                                                                                                         \
+    TPX_ENTRY(tpxiLUT_##T##_##L##IR)                                                                          \
+    (Tpx##T * pSrcDst, int srcDstStep, TpxiSize roiSize, const TpxiLUT_Spec* pSpec) {                         \
+        return lookup<Layout::L, Tpx##T>({pSrcDst, srcDstStep}, {pSrcDst, srcDstStep}, wide(roiSize), pSpec); \
     }
-#define TPX_TYPE(T) TPX_LUT(T, C1) TPX_LUT(T, C3) TPX_LUT(T, C4) TPX_LUT(T, AC4)
-TPX_TYPE(8u)
-TPX_TYPE(16u)
-TPX_TYPE(16s)
-TPX_TYPE(32f)
+#define TPX_LUT_LAYOUTS(T) \
+    TPX_LUT(T, C1)         \
+    TPX_LUT(T, C3)         \
+    TPX_LUT(T, C4)         \
+    TPX_LUT(T, AC4)
+TPX_LUT_LAYOUTS(8u)
+TPX_LUT_LAYOUTS(16u)
+TPX_LUT_LAYOUTS(16s)
+TPX_LUT_LAYOUTS(32f)
+#undef TPX_LUT
+#undef TPX_LUT_LAYOUTS

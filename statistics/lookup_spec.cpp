@@ -1,8 +1,6 @@
 // tpxiLUT_GetSize, tpxiLUT_Init: tables and polynomials between levels.
 #include "statistics/lookup_spec.h"
 
-#include <limits.h>
-
 #include "frame/entry/entry.h"
 #include "frame/simd/through_real.h"
 
@@ -66,7 +64,7 @@ void fillTable(T* table, int begin, int end, const CubicSegment& segment) {
                            square * t * of(segment.cube);
         const V64f limited = minOf(maxOf(curve, of(kMin<T>)), of(kMax<T>));
         Tpx32s results[kLanes4];
-        store(results, V32s(_mm256_cvttpd_epi32(limited)));
+        store(results, toIntegerTruncated(limited));
         for (int i = 0; i < kLanes4 && x + i < end; i++) table[std::make_unsigned_t<T>(x + i)] = T(results[i]);
     }
 }
@@ -86,42 +84,37 @@ void buildTable(T* table, Curve curve, const Tpx32s* levels, const Tpx32s* value
 // Levels and values of 16s come limited to what a sample can be, and can meet.
 template <class T, class L>
 Tpx32f searchedLevel(const L* levels, ptrdiff_t k) {
-    if constexpr (kHasTable<T>)
+    if constexpr (std::is_integral_v<T>)
         return Tpx32f(clampTo(peek(levels + k), kMin<T>, kMax<T> + 1));
     else
         return peek(levels + k);
 }
 template <class T, class L>
 Tpx32f searchedValue(const L* values, ptrdiff_t k) {
-    if constexpr (kHasTable<T>)
+    if constexpr (std::is_integral_v<T>)
         return Tpx32f(clampTo(peek(values + k), kMin<T>, kMax<T>));
     else
         return peek(values + k);
 }
 
-constexpr uint64_t segmentBytes(Curve curve) {
-    return curve == Curve::Nearest  ? sizeof(Tpx32f)
-           : curve == Curve::Linear ? sizeof(LineSegment)
-                                    : sizeof(CubicSegment);
-}
-
 template <class T, class L>
-void buildSearch(const LookupSearch& search, Tpx32f* ownLevels, void* segments, Curve curve, const L* levels,
-                 const L* values) {
+void buildSearch(LookupSearch& search, Curve curve, const L* levels, const L* values) {
     const ptrdiff_t n = search.levelCount;
-    for (ptrdiff_t k = 0; k < n; k++) ownLevels[k] = searchedLevel<T>(levels, k);
-    __builtin_memset(segments, 0, size_t(n + 1) * segmentBytes(curve));
+    for (ptrdiff_t k = 0; k < n; k++) search.levels[k] = searchedLevel<T>(levels, k);
+    __builtin_memset(search.segments, 0, size_t(n + 1) * segmentBytes(curve));
     for (ptrdiff_t k = 0; k + 1 < n; k++) {
         if (curve == Curve::Nearest)
-            static_cast<Tpx32f*>(segments)[k + 1] = searchedValue<T>(values, k);
+            static_cast<Tpx32f*>(search.segments)[k + 1] = searchedValue<T>(values, k);
         else if (curve == Curve::Linear)
-            static_cast<LineSegment*>(segments)[k + 1] = lineThrough(levels, values, k);
+            static_cast<LineSegment*>(search.segments)[k + 1] = lineThrough(levels, values, k);
         else
-            static_cast<CubicSegment*>(segments)[k + 1] = cubicThrough(levels, values, k, n);
+            static_cast<CubicSegment*>(search.segments)[k + 1] = cubicThrough(levels, values, k, n);
     }
+    constexpr uint64_t kManySamples = UINT64_MAX; // all that will ever be searched
+    search.ranking = rankingOf(search.levels, n, kManySamples);
 }
 
-// ---- Layout of the memory --------------------------------------------------------------------------------
+// ---- Codes -----------------------------------------------------------------------------------------------
 
 // The channels that have a level count; of an unknown layout nothing but the first is known to be there.
 constexpr int levelChannels(TpxChannelCode layout) {
@@ -147,29 +140,6 @@ TpxStatus checkLevels(TpxChannelCode layout, const int* nLevels) {
     return isLayout(layout) ? tpxOk : tpxErrChannelIndex;
 }
 
-// Places the parts of a spec in memory from an address on, which lies on a line, and tells how many bytes a
-// caller needs for it.
-template <class T>
-uint64_t arrange(LookupSpec& spec, uintptr_t memory, Curve curve, int channels, const int* nLevels) {
-    uintptr_t at = memory + roundToLines(sizeof spec);
-    const auto take = [&]<class P>(P*& part, uint64_t bytes) {
-        part = reinterpret_cast<P*>(at);
-        at += roundToLines(bytes);
-    };
-    spec.curve = curve;
-    for (int c = 0; c < channels && curve == Curve::Cubic; c++)
-        if (nLevels[c] < 4) spec.curve = Curve::Linear;
-    for (int c = 0; c < channels; c++) {
-        if constexpr (kHasTable<T>) take(spec.tables[c], sizeof(T) << kBits<T>);
-        if (!hasSearch<T>(curve)) continue;
-        LookupSearch& search = spec.searches[c];
-        search.levelCount = nLevels[c];
-        take(search.levels, uint64_t(nLevels[c]) * sizeof(Tpx32f));
-        take(search.segments, (uint64_t(nLevels[c]) + 1) * segmentBytes(spec.curve));
-    }
-    return sizeof(int) + kLine - 1 + (at - memory);
-}
-
 // ---- Operations ------------------------------------------------------------------------------------------
 
 TpxStatus getSize(TpxInterpolationType interpolation, TpxDataType dataType, TpxChannelCode layout,
@@ -178,38 +148,19 @@ TpxStatus getSize(TpxInterpolationType interpolation, TpxDataType dataType, TpxC
     if (anyNull(nLevels, specSize)) return tpxErrNullPointer;
     if (isEmpty(roiSize)) return tpxErrSize;
     if (const TpxStatus status = checkLevels(layout, nLevels)) return status;
-    const auto sizeOf = [&]<class T>(T) {
-        LookupSpec spec;
-        return arrange<T>(spec, 0, curveOf(interpolation), levelChannels(layout), nLevels);
-    };
-    uint64_t size;
-    switch (dataType) {
-        case tpxDataType8u:
-            size = sizeOf(Tpx8u{});
-            break;
-        case tpxDataType16u:
-            size = sizeOf(Tpx16u{});
-            break;
-        case tpxDataType16s:
-            size = sizeOf(Tpx16s{});
-            break;
-        case tpxDataType32f:
-            size = sizeOf(Tpx32f{});
-            break;
-        default:
-            return tpxErrDataType;
-    }
-    if (size > INT_MAX) return tpxErrSizeTooLarge;
-    *specSize = int(size);
+    if (!isDataType(dataType)) return tpxErrDataType;
+    const LookupParts parts =
+        layOutLookup(BlockLayout(), dataType, curveOf(interpolation), levelChannels(layout), nLevels);
+    if (parts.size > kLongestBlock) return tpxErrSizeTooLarge;
+    *specSize = int(parts.size);
     return tpxOk;
 }
-
-void writeCode(TpxiLUT_Spec* memory, int code) { __builtin_memcpy(memory, &code, sizeof code); }
 
 template <class T, class L>
 TpxStatus init(TpxInterpolationType interpolation, TpxChannelCode layout, TpxiSize roiSize,
                const L* const* values, const L* const* levels, const int* nLevels, TpxiLUT_Spec* memory) {
-    if (memory) writeCode(memory, 0);
+    auto code = reinterpret_cast<LookupCode*>(memory);
+    if (code) poke(code, 0);
     if (!isInterpolation(interpolation)) return tpxErrInterpolation;
     if (isEmpty(roiSize)) return tpxErrSize;
     if (anyNull(values, levels, nLevels, memory)) return tpxErrNullPointer;
@@ -218,49 +169,46 @@ TpxStatus init(TpxInterpolationType interpolation, TpxChannelCode layout, TpxiSi
         if (anyNull(values[c], levels[c])) return tpxErrNullPointer;
     if (const TpxStatus status = checkLevels(layout, nLevels)) return status;
 
-    LookupSpec spec{};
-    LookupSpec* const own = lookupSpecIn(memory);
+    LookupSpec* const record = lookupSpecIn(memory);
     const Curve curve = curveOf(interpolation);
-    if (arrange<T>(spec, reinterpret_cast<uintptr_t>(own), curve, channels, nLevels) > INT_MAX)
-        return tpxErrSizeTooLarge;
+    LookupParts parts = layOutLookup(BlockLayout(record), kDataType<T>, curve, channels, nLevels);
+    if (parts.size > kLongestBlock) return tpxErrSizeTooLarge;
+    LookupSpec& spec = parts.spec;
     for (int c = 0; c < channels; c++) {
-        if constexpr (kHasTable<T>)
-            buildTable(reinterpret_cast<T*>(const_cast<Tpx8u*>(spec.tables[c])), spec.curve, levels[c],
-                       values[c], nLevels[c]);
-        if (!hasSearch<T>(curve)) continue;
-        LookupSearch& search = spec.searches[c];
-        buildSearch<T>(search, const_cast<Tpx32f*>(search.levels), const_cast<void*>(search.segments),
-                       spec.curve, levels[c], values[c]);
-        constexpr uint64_t kManySamples = UINT64_MAX; // all that will ever be searched
-        search.ranking = rankingOf(search.levels, search.levelCount, kManySamples);
+        if constexpr (tableBytes(kDataType<T>) != 0)
+            buildTable(reinterpret_cast<T*>(spec.tables[c]), spec.curve, levels[c], values[c], nLevels[c]);
+        if (hasSearch(kDataType<T>, curve)) buildSearch<T>(spec.searches[c], spec.curve, levels[c], values[c]);
     }
-    *own = spec;
+    *record = spec;
     const Layout kind = layout == tpxChannelAC4  ? Layout::AC4
                         : layout == tpxChannelC1 ? Layout::C1
                         : layout == tpxChannelC3 ? Layout::C3
                                                  : Layout::C4;
-    writeCode(memory, lookupCode<T>(kind) + int(curve) * kLookupCodeStep);
+    poke(code, lookupCode<T>(kind) + int(curve) * kLookupCodeStep);
     return tpxOk;
 }
 
 } // namespace
 } // namespace tpx
 
+using namespace tpx;
+
 // ---- Entries ---------------------------------------------------------------------------------------------
 
 TPX_ENTRY(tpxiLUT_GetSize)
 (TpxInterpolationType interpolation, TpxDataType dataType, TpxChannelCode layout, TpxiSize roiSize,
  const int nLevels[], int* pSpecSize) {
-    return tpx::getSize(interpolation, dataType, layout, roiSize, nLevels, pSpecSize);
+    return getSize(interpolation, dataType, layout, roiSize, nLevels, pSpecSize);
 }
 
-#define TPX_INIT(T, L)                                                                                         \
+#define TPX_LUT_INIT(T, L)                                                                                     \
     TPX_ENTRY(tpxiLUT_Init_##T)                                                                                \
     (TpxInterpolationType interpolation, TpxChannelCode layout, TpxiSize roiSize,                              \
      const Tpx##L* const pValues[], const Tpx##L* const pLevels[], const int nLevels[], TpxiLUT_Spec* pSpec) { \
-        return tpx::init<Tpx##T>(interpolation, layout, roiSize, pValues, pLevels, nLevels, pSpec);            \
+        return init<Tpx##T>(interpolation, layout, roiSize, pValues, pLevels, nLevels, pSpec);                 \
     }
-TPX_INIT(8u, 32s)
-TPX_INIT(16u, 32s)
-TPX_INIT(16s, 32s)
-TPX_INIT(32f, 32f)
+TPX_LUT_INIT(8u, 32s)
+TPX_LUT_INIT(16u, 32s)
+TPX_LUT_INIT(16s, 32s)
+TPX_LUT_INIT(32f, 32f)
+#undef TPX_LUT_INIT

@@ -1,7 +1,8 @@
 // What a lookup spec holds, and the identity code that tells its type, layout and interpolation.
 #pragma once
 
-#include "frame/images/walk.h"
+#include "frame/entry/checks.h"
+#include "frame/memory/caller_memory.h"
 #include "statistics/levels.h"
 #include "tpxi/statistics.h"
 
@@ -13,9 +14,9 @@ enum class Curve { Nearest, Linear, Cubic };
 // What a channel has besides its table of integers, for searches: an entry for each rank among the levels, of
 // which the first and the last stand for samples outside all intervals, which stay, and are not used.
 struct LookupSearch {
-    const Tpx32f* levels;
+    Tpx32f* levels;
     ptrdiff_t levelCount;
-    const void* segments; // Tpx32f for the nearest, else LineSegment or CubicSegment
+    void* segments; // Tpx32f for the nearest, else LineSegment or CubicSegment
     Ranking ranking;
 };
 
@@ -29,33 +30,72 @@ struct CubicSegment {
     Tpx64f square, cube;
 };
 
-// In the caller's memory on a boundary of 64 bytes, behind the code. What it points at follows it.
+// What it points at follows it.
 struct LookupSpec {
-    const Tpx8u* tables[4];   // results by the bits of a sample; integers only
+    Tpx8u* tables[4];         // results by the bits of a sample; integers only
     LookupSearch searches[4]; // floats, and 16s nearest
     Curve curve;              // of the tables and searches, not of the code: cubic ones may be linear
 };
 
-inline constexpr uint64_t kLine = 64;
-inline uint64_t roundToLines(uint64_t bytes) { return (bytes + kLine - 1) / kLine * kLine; }
-
-inline LookupSpec* lookupSpecIn(const TpxiLUT_Spec* memory) {
-    return reinterpret_cast<LookupSpec*>(roundToLines(reinterpret_cast<uintptr_t>(memory) + sizeof(int)));
+// A table's bytes, 0 if there is none; and whether there are searches.
+constexpr uint64_t tableBytes(TpxDataType type) {
+    return type == tpxDataType32f ? 0 : type == tpxDataType8u ? 256 : 2 * 65536;
+}
+constexpr bool hasSearch(TpxDataType type, Curve curve) {
+    return type == tpxDataType32f || (type == tpxDataType16s && curve == Curve::Nearest);
 }
 
-// Whether there is a table, and whether there are searches.
-template <class T>
-inline constexpr bool kHasTable = std::is_integral_v<T>;
-template <class T>
-constexpr bool hasSearch(Curve curve) {
-    return !kHasTable<T> || (std::is_same_v<T, Tpx16s> && curve == Curve::Nearest);
+// ---- Layout of the caller's block ------------------------------------------------------------------------
+
+// The identity code stands at the block's begin, which lies at any address, and the record on the next line.
+using LookupCode = int;
+inline LookupSpec* lookupSpecIn(const TpxiLUT_Spec* block) {
+    return alignUp(reinterpret_cast<LookupSpec*>(reinterpret_cast<uintptr_t>(block) + sizeof(LookupCode)));
 }
+
+constexpr uint64_t segmentBytes(Curve curve) {
+    return curve == Curve::Nearest  ? sizeof(Tpx32f)
+           : curve == Curve::Linear ? sizeof(LineSegment)
+                                    : sizeof(CubicSegment);
+}
+
+struct LookupParts {
+    LookupSpec spec; // the record's members
+    uint64_t size;   // of a block at any address
+};
+
+// Lays out, each on a line, the record and the tables and searches of all channels. `asked` is the curve that
+// the caller names.
+inline LookupParts layOutLookup(BlockLayout block, TpxDataType type, Curve asked, int channels,
+                                const int* nLevels) {
+    LookupSpec spec{};
+    block.take<LookupSpec>(1);
+    spec.curve = asked;
+    for (int c = 0; c < channels && asked == Curve::Cubic; c++)
+        if (nLevels[c] < 4) spec.curve = Curve::Linear;
+    for (int c = 0; c < channels; c++) {
+        if (const uint64_t bytes = tableBytes(type)) spec.tables[c] = block.take<Tpx8u>(bytes, kBlockAlignment);
+        if (!hasSearch(type, asked)) continue;
+        const uint64_t levels = uint64_t(nLevels[c]);
+        LookupSearch& search = spec.searches[c];
+        search.levelCount = nLevels[c];
+        search.levels = block.take<Tpx32f>(levels, kBlockAlignment);
+        search.segments = block.take<Tpx8u>((levels + 1) * segmentBytes(spec.curve), kBlockAlignment);
+    }
+    block.align(kBlockAlignment);
+    return {spec, sizeof(LookupCode) + kBlockAlignment - 1 + block.bytes()};
+}
+
+// ---- Identity --------------------------------------------------------------------------------------------
 
 // Of the nearest interpolation; the other curves add a step each.
 inline constexpr int kLookupCodeStep = 0x10;
 template <class T>
-constexpr int lookupCode(Layout layout) {
-    const int type = std::is_same_v<T, Tpx8u> ? 0 : std::is_same_v<T, Tpx16u> ? 1 : kHasTable<T> ? 2 : 3;
+constexpr LookupCode lookupCode(Layout layout) {
+    const int type = std::is_same_v<T, Tpx8u>    ? 0
+                     : std::is_same_v<T, Tpx16u> ? 1
+                     : std::is_same_v<T, Tpx16s> ? 2
+                                                 : 3;
     return 0x1234567 + 4 * type + int(layout);
 }
 

@@ -15,47 +15,57 @@ constexpr Tpx64u indexMask(int bits) {
 // A table for each channel that is computed; D is the sample of the destination, of which an entry has
 // EntryBytes bytes.
 template <Layout L, int EntryBytes, class S, class D>
-TpxStatus palette(const S* src, int srcStep, D* dst, int dstStep, TpxiSize roi, const D* const* tables,
-                  int bits) {
-    if (anyNull(src, dst, tables)) return tpxErrNullPointer;
+TpxStatus palette(ImageView<const S> src, ImageView<D> dst, TpxiSizeL roi, const D* const* tables, int bits) {
+    if (anyNull(src.data) || anyNull(dst.data) || anyNull(tables)) return tpxErrNullPointer;
     Tables byChannel{};
-    for (int c = 0; c < (L == Layout::AC4 ? 3 : channelsOf(L)); c++) {
+    for (int c = 0; c < coloursOf(L); c++) {
         if (!tables[c]) return tpxErrNullPointer;
         byChannel.at[c] = reinterpret_cast<const Tpx8u*>(tables[c]);
     }
     if (isEmpty(roi)) return tpxErrSize;
     if (bits < 1 || bits > int(8 * sizeof(S))) return tpxErrOutOfRange;
-    const ptrdiff_t len = ptrdiff_t(roi.width) * channelsOf(L);
-    if (srcStep < len * ptrdiff_t(sizeof(S)) || dstStep < len * EntryBytes) return tpxErrStep;
+    const ptrdiff_t len = roi.width * channelsOf(L);
+    if (src.step < len * ptrdiff_t(sizeof(S)) || dst.step < len * EntryBytes) return tpxErrStep;
     byChannel.mask = indexMask<S>(bits);
-    lookupImage<L, EntryBytes>(src, srcStep, dst, dstStep, roi, byChannel);
+    mapImageByTables<L, EntryBytes>(roi, byChannel, src, dst.data, dst.step);
     return tpxOk;
 }
 
 } // namespace
 } // namespace tpx
 
+using namespace tpx;
+
 // ---- Entries ---------------------------------------------------------------------------------------------
 
-// Types of source and destination, and bytes of an entry.
-#define TPX_PALETTE(types, S, D, entryBytes, L, tableType, at)                                             \
-    TPX_ENTRY(tpxiLUTPalette_##types##_##L##R)                                                             \
-    (const Tpx##S* pSrc, int srcStep, Tpx##D* pDst, int dstStep, TpxiSize roiSize, tableType pTable,       \
-     int nBitSize) {                                                                                       \
-        using namespace tpx;                                                                               \
-        return palette<Layout::L, entryBytes>(pSrc, srcStep, pDst, dstStep, roiSize, at pTable, nBitSize); \
+// From samples to entries of their type.
+#define TPX_PALETTE(T, L)                                                                               \
+    TPX_ENTRY(tpxiLUTPalette_##T##_##L##R)                                                              \
+    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize,                      \
+     Given<Layout::L, const Tpx##T*> pTable, int nBitSize) {                                            \
+        return palette<Layout::L, sizeof(Tpx##T), Tpx##T, Tpx##T>(                                      \
+            {pSrc, srcStep}, {pDst, dstStep}, wide(roiSize), arrayOf<const Tpx##T*>(pTable), nBitSize); \
     }
-#define TPX_PACKED(types, S, D, entryBytes) TPX_PALETTE(types, S, D, entryBytes, C1, const Tpx##D*, &)
-#define TPX_ARRAY(T, L) TPX_PALETTE(T, T, T, sizeof(Tpx##T), L, const Tpx##T* const*, )
-#define TPX_TYPE(T)                     \
-    TPX_PACKED(T, T, T, sizeof(Tpx##T)) \
-    TPX_ARRAY(T, C3)                    \
-    TPX_ARRAY(T, C4)                    \
-    TPX_ARRAY(T, AC4)
-TPX_TYPE(8u)
-TPX_TYPE(16u)
-TPX_PACKED(8u24u, 8u, 8u, 3)
-TPX_PACKED(8u32u, 8u, 32u, 4)
-TPX_PACKED(16u8u, 16u, 8u, 1)
-TPX_PACKED(16u24u, 16u, 8u, 3)
-TPX_PACKED(16u32u, 16u, 32u, 4)
+// From samples S to packed entries of so many bytes, of type D or of several bytes; `types` names both.
+#define TPX_PALETTE_PACKED(types, S, D, entryBytes)                                                      \
+    TPX_ENTRY(tpxiLUTPalette_##types##_C1R)                                                              \
+    (const Tpx##S* pSrc, int srcStep, Tpx##D* pDst, int dstStep, TpxiSize roiSize, const Tpx##D* pTable, \
+     int nBitSize) {                                                                                     \
+        return palette<Layout::C1, entryBytes, Tpx##S, Tpx##D>({pSrc, srcStep}, {pDst, dstStep},         \
+                                                               wide(roiSize), &pTable, nBitSize);        \
+    }
+#define TPX_PALETTE_LAYOUTS(T) \
+    TPX_PALETTE(T, C1)         \
+    TPX_PALETTE(T, C3)         \
+    TPX_PALETTE(T, C4)         \
+    TPX_PALETTE(T, AC4)
+TPX_PALETTE_LAYOUTS(8u)
+TPX_PALETTE_LAYOUTS(16u)
+TPX_PALETTE_PACKED(8u24u, 8u, 8u, 3)
+TPX_PALETTE_PACKED(8u32u, 8u, 32u, 4)
+TPX_PALETTE_PACKED(16u8u, 16u, 8u, 1)
+TPX_PALETTE_PACKED(16u24u, 16u, 8u, 3)
+TPX_PALETTE_PACKED(16u32u, 16u, 32u, 4)
+#undef TPX_PALETTE
+#undef TPX_PALETTE_PACKED
+#undef TPX_PALETTE_LAYOUTS

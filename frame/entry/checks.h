@@ -31,6 +31,17 @@ constexpr const T* arrayOf(const T* const& samples) {
     return samples;
 }
 
+// ---- Codes of the types of samples -----------------------------------------------------------------------
+
+constexpr bool isDataType(TpxDataType type) {
+    return type == tpxDataType8u || type == tpxDataType16u || type == tpxDataType16s || type == tpxDataType32f;
+}
+template <class T>
+inline constexpr TpxDataType kDataType = std::is_same_v<T, Tpx8u>    ? tpxDataType8u
+                                         : std::is_same_v<T, Tpx16u> ? tpxDataType16u
+                                         : std::is_same_v<T, Tpx16s> ? tpxDataType16s
+                                                                     : tpxDataType32f;
+
 // ---- One length inside: entries widen what the short forms are given -------------------------------------
 
 constexpr TpxiSizeL wide(TpxiSize size) { return {size.width, size.height}; }
