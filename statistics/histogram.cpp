@@ -9,8 +9,6 @@
 namespace tpx {
 namespace {
 
-// ---- Images of bytes -------------------------------------------------------------------------------------
-
 // An image as it is counted: its rows joined where they can be, and its pixels.
 template <class T, int C>
 struct Counted {
@@ -21,6 +19,8 @@ struct Counted {
         : src(image), samples(joinRows(extent, image)), pixels{samples.width / C, samples.height} {}
     uint64_t pixelCount() const { return uint64_t(pixels.width) * uint64_t(pixels.height); }
 };
+
+// ---- Images of bytes -------------------------------------------------------------------------------------
 
 template <int C>
 void countImage(const Counted<Tpx8u, C>& image, const HistogramSpec& spec, Counter* const* hist, Tpx8u*) {
