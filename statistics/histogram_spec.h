@@ -50,7 +50,7 @@ inline HistogramParts layOutHistogram(BlockLayout& block, int nChannels, const i
 // contract as well: floats need none, and bytes, though they have theirs, are counted in tables on the stack.
 inline void layOutTables(BlockLayout& block, TpxDataType dataType, int nChannels, Counter** tables) {
     const uint64_t values = dataType == tpxDataType32f ? 0 : dataType == tpxDataType8u ? 256 : 65536;
-    for (int c = 0; c < nChannels; c++) tables[c] = block.take<Counter>(values);
+    for (int c = 0; c < nChannels; c++) tables[c] = block.take<Tpx32u>(values);
 }
 
 } // namespace tpx
