@@ -104,7 +104,7 @@ struct HalvedRanks {
         Tpx32s left = section;
         while (left > 1) {
             const Tpx32s half = left / 2;
-            for (int i = 0; i < 8; i++) at[i] += peek(levels + at[i] + half) <= x[i] ? half : 0;
+            for (int i = 0; i < 8; i++) at[i] += peek(levels + (at[i] + half)) <= x[i] ? half : 0;
             left -= half;
         }
         for (int i = 0; i < 8; i++) ranks[i] = at[i] + (peek(levels + at[i]) <= x[i]);
