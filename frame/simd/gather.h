@@ -1,5 +1,6 @@
-// Loads of what does not fill a register or does not lie together: pixels of four samples, and pairs of
-// neighbours at positions of a table. No sample is read but those that are asked for.
+// Loads of what does not fill a register or does not lie together: four samples, and registers put together
+// from pieces. No sample is read but those that are asked for. Pixels at positions are in
+// frame/images/gather.h.
 #pragma once
 
 #include "frame/simd/real.h"
@@ -35,6 +36,12 @@ inline V broadcastLane(V a) {
     return V(__builtin_shufflevector(a, a, K, K, K, K));
 }
 
+// The last three lanes, moved to the first; the fourth stays.
+template <class V>
+inline V upperThree(V a) {
+    return V(__builtin_shufflevector(a, a, 1, 2, 3, 3));
+}
+
 // As toInteger.
 inline V32s toInteger(Four<float> a) { return V32s(_mm_cvtps_epi32(__m128(a))); }
 
@@ -51,6 +58,11 @@ inline V8u fromPieces(Tpx32s a, Tpx32s b, Tpx32s c, Tpx32s d) { return V8u(_mm_s
 inline V8u fromPieces(Tpx16s a, Tpx16s b, Tpx16s c, Tpx16s d, Tpx16s e, Tpx16s f, Tpx16s g, Tpx16s h) {
     return V8u(_mm_setr_epi16(a, b, c, d, e, f, g, h));
 }
+// Eight bytes from either of two addresses.
+inline V8u loadEights(const void* low, const void* high) {
+    const auto eight = [](const void* p) { return peek(static_cast<const double*>(p)); };
+    return V8u(__m128i(_mm_set_pd(eight(high), eight(low))));
+}
 // The first eight bytes.
 inline Tpx64s firstPiece(V8u a) { return _mm_cvtsi128_si64(__m128i(a)); }
 
@@ -65,7 +77,8 @@ inline Pair<V64f> loadPairsAt(const double* a, const double* b, const double* c,
     return {interleaveLow(ac, bd), interleaveHigh(ac, bd)};
 }
 
-// Pairs of 16-bit samples in lanes of 32 bits, eight of them, to floats.
+// Pairs of samples that lie side by side, eight of them: the first ones and the second ones as floats. Of 16
+// bits they fill two registers, of 8 bits one.
 template <class T>
 inline Pair<V32f> splitPairs(V8u low, V8u high) {
     static_assert(sizeof(T) == 2);
@@ -73,24 +86,15 @@ inline Pair<V32f> splitPairs(V8u low, V8u high) {
     const auto a = bitsAs<Lanes>(low), b = bitsAs<Lanes>(high);
     return {toFloat({V32s(a << 16 >> 16), V32s(b << 16 >> 16)}), toFloat({V32s(a >> 16), V32s(b >> 16)})};
 }
-
-// Samples at[i] and at[i] + 1 of a row, as floating point, for a register of positions.
-inline Pair<V64f> gatherNeighbours(const double* row, const Tpx32s* at) {
-    return loadPairsAt(row + at[0], row + at[1], row + at[2], row + at[3]);
-}
-inline Pair<V32f> gatherNeighbours(const float* row, const Tpx32s* at) {
-    const auto pair = [&](int k) { return peek(reinterpret_cast<const double*>(row + at[k])); };
-    const auto two = [&](int k) { return _mm_castpd_ps(_mm_set_pd(pair(k + 1), pair(k))); };
-    const auto four = [&](int k) { return joinHalves<V32f>(two(k), two(k + 4)); };
-    const V32f a = four(0), b = four(2);
-    return {evenLanes(a, b), oddLanes(a, b)};
-}
 template <class T>
-inline Pair<V32f> gatherNeighbours(const T* row, const Tpx32s* at) {
-    static_assert(sizeof(T) == 2);
-    const auto pair = [&](int k) { return peek(reinterpret_cast<const Tpx32s*>(row + at[k])); };
-    return splitPairs<T>(fromPieces(pair(0), pair(1), pair(2), pair(3)),
-                         fromPieces(pair(4), pair(5), pair(6), pair(7)));
+inline Pair<V32f> splitPairs(V8u pairs) {
+    static_assert(std::is_same_v<T, Tpx8u>);
+    const auto toFloats = [](V16u samples) {
+        const Pair<V32u> wide = widen(samples);
+        return toFloat({V32s(wide.low), V32s(wide.high)});
+    };
+    const auto both = bitsAs<V16u>(pairs);
+    return {toFloats(both & splat<V16u>(0xFF)), toFloats(both >> 8)};
 }
 
 } // namespace tpx

@@ -45,11 +45,25 @@ inline V32f lastPairs(V32f a, V32f b) { return V32f(_mm256_shuffle_ps(a, b, 0xEE
 // joined.
 inline V32f lowHalves(V32f a, V32f b) { return V32f(_mm256_permute2f128_ps(a, b, 0x20)); }
 inline V32f highHalves(V32f a, V32f b) { return V32f(_mm256_permute2f128_ps(a, b, 0x31)); }
+inline V64f lowHalves(V64f a, V64f b) { return V64f(_mm256_permute2f128_pd(a, b, 0x20)); }
+inline V64f highHalves(V64f a, V64f b) { return V64f(_mm256_permute2f128_pd(a, b, 0x31)); }
 template <class To, class Half>
 inline To joinHalves(Half low, Half high) {
     static_assert(sizeof(Half) == 16 && sizeof(To) == 32);
     return bitsAs<To>(
         _mm256_insertf128_si256(_mm256_castsi128_si256(bitsAs<__m128i>(low)), bitsAs<__m128i>(high), 1));
+}
+
+// Lane k of row i becomes lane i of row k, of doubles, and in either half of registers of floats.
+inline Several<V64f, 4> transpose(const Several<V64f, 4>& rows) {
+    const V64f a = interleaveLow(rows.at[0], rows.at[1]), b = interleaveHigh(rows.at[0], rows.at[1]);
+    const V64f c = interleaveLow(rows.at[2], rows.at[3]), d = interleaveHigh(rows.at[2], rows.at[3]);
+    return {{lowHalves(a, c), lowHalves(b, d), highHalves(a, c), highHalves(b, d)}};
+}
+inline Several<V32f, 4> transpose(const Several<V32f, 4>& rows) {
+    const V32f a = interleaveLow(rows.at[0], rows.at[1]), b = interleaveHigh(rows.at[0], rows.at[1]);
+    const V32f c = interleaveLow(rows.at[2], rows.at[3]), d = interleaveHigh(rows.at[2], rows.at[3]);
+    return {{firstPairs(a, c), lastPairs(a, c), firstPairs(b, d), lastPairs(b, d)}};
 }
 
 // Lane i becomes lane index[i], from 0 to 3, of its half of the register.

@@ -1,8 +1,5 @@
 // Nearest resize: a gather of whole pixels, so only the size of a pixel in bytes matters.
-#include <stddef.h>
-
 #include "frame/entry/entry.h"
-#include "frame/simd/simd.h"
 #include "geometry/resize/tile.h"
 
 namespace tpx {
@@ -53,10 +50,12 @@ class PixelGather {
         int64_t j = 0;
         if constexpr (kPixels > 0) {
             const Tpx8u* shuffle = shuffles;
+// Else counting costs half as much as moving, or more where the loop happens to lie badly.
+#pragma GCC unroll 4
             for (; j < shufflesEnd; j += kPixels, shuffle += 8) {
                 const V8u pixels = load(src + int64_t(at[j]) * Bytes);
-                const __m128i group = _mm_shuffle_epi8(__m128i(pixels), __m128i(load(shuffle)));
-                poke(reinterpret_cast<Tpx64s*>(dst + j * Bytes), Tpx64s(_mm_cvtsi128_si64(group)));
+                poke(reinterpret_cast<Tpx64s*>(dst + j * Bytes),
+                     firstPiece(shuffleBytes(pixels, load(shuffle))));
             }
         }
         for (; j < piecesEnd; j++)
@@ -66,46 +65,63 @@ class PixelGather {
     }
 };
 
-template <int Bytes, class Gather>
-void gatherRows(const Tile& tile, const Gather& gather) {
+// Types of one size share their code.
+template <int Bytes>
+void gatherRows(const Tile<Tpx8u>& tile) {
+    const PixelGather<Bytes> gather(tile.plan.axisX, tile.x, tile.width, tile.buffer);
     const Tpx32s* const index = tile.plan.axisY.pIndex + tile.y;
     for (int64_t i = 0; i < tile.height; i++) {
-        Tpx8u* const dst = tile.dstRow<Tpx8u>(i);
+        Tpx8u* const dst = tile.dst.row(i);
         if (i > 0 && index[i] == index[i - 1])
-            __builtin_memcpy(dst, tile.dstRow<Tpx8u>(i - 1), size_t(tile.width) * Bytes);
+            __builtin_memcpy(dst, tile.dst.row(i - 1), size_t(tile.width) * Bytes);
         else
-            gather(tile.srcRow<Tpx8u>(index[i]), dst);
+            gather(tile.src.row(index[i]), dst);
     }
 }
 
-template <int N, class Form, class T>
-TpxStatus resizeNearest(const TileCall<Form, T>& call) {
+template <Layout L, class T>
+TpxStatus resizeNearest(const TileCall<T>& call) {
     const TpxStatus status = checkTile(call, tpxInterpolationNearest);
     if (status != tpxOk) return status;
-    constexpr int kBytes = N * int(sizeof(T));
-    const Tile tile = makeTile(call, N);
-    gatherRows<kBytes>(tile, PixelGather<kBytes>(tile.plan.axisX, tile.x, tile.width, tile.buffer));
+    constexpr int kBytes = channelsOf(L) * int(sizeof(T));
+    const TileCall<Tpx8u> bytes{call.form,
+                                {reinterpret_cast<const Tpx8u*>(call.src.data), call.src.step},
+                                {reinterpret_cast<Tpx8u*>(call.dst.data), call.dst.step},
+                                call.offset,
+                                call.size,
+                                call.spec,
+                                call.buffer};
+    gatherRows<kBytes>(makeTile(bytes, kBytes));
     return doneTile(call);
 }
 
 } // namespace
 } // namespace tpx
 
-using namespace tpx;
+// ---- Entries ---------------------------------------------------------------------------------------------
 
-#define NEAREST_FORM(Form, name, T, N)                                                                  \
-    TPX_ENTRY(name)                                                                                     \
-    (const T* pSrc, Form::Length srcStep, T* pDst, Form::Length dstStep, Form::Point dstOffset,         \
-     Form::Size dstSize, const TpxiResizeSpec* pSpec, Tpx8u* pBuffer) {                                 \
-        const TileCall<Form, T> call{pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, pSpec, pBuffer}; \
-        return resizeNearest<N>(call);                                                                  \
+#define TPX_RESIZE_NEAREST(T, L, R, Step, Point, Size)                                            \
+    TPX_ENTRY(tpxiResizeNearest_##T##_##L##R)                                                     \
+    (const Tpx##T* pSrc, Step srcStep, Tpx##T* pDst, Step dstStep, Point dstOffset, Size dstSize, \
+     const TpxiResizeSpec* pSpec, Tpx8u* pBuffer) {                                               \
+        return tpx::resizeNearest<tpx::Layout::L, Tpx##T>({tpx::kFormOf<Size>,                    \
+                                                           {pSrc, srcStep},                       \
+                                                           {pDst, dstStep},                       \
+                                                           tpx::wide(dstOffset),                  \
+                                                           tpx::wide(dstSize),                    \
+                                                           pSpec,                                 \
+                                                           pBuffer});                             \
     }
-#define NEAREST(type, N)                                                      \
-    NEAREST_FORM(ShortForm, tpxiResizeNearest_##type##_C##N##R, Tpx##type, N) \
-    NEAREST_FORM(LongForm, tpxiResizeNearest_##type##_C##N##R_L, Tpx##type, N)
-#define NEAREST_LAYOUTS(type) NEAREST(type, 1) NEAREST(type, 3) NEAREST(type, 4)
-
-NEAREST_LAYOUTS(8u)
-NEAREST_LAYOUTS(16u)
-NEAREST_LAYOUTS(16s)
-NEAREST_LAYOUTS(32f)
+#define TPX_RESIZE_NEAREST_LAYOUTS(T)                               \
+    TPX_RESIZE_NEAREST(T, C1, R, int, TpxiPoint, TpxiSize)          \
+    TPX_RESIZE_NEAREST(T, C3, R, int, TpxiPoint, TpxiSize)          \
+    TPX_RESIZE_NEAREST(T, C4, R, int, TpxiPoint, TpxiSize)          \
+    TPX_RESIZE_NEAREST(T, C1, R_L, TpxSizeL, TpxiPointL, TpxiSizeL) \
+    TPX_RESIZE_NEAREST(T, C3, R_L, TpxSizeL, TpxiPointL, TpxiSizeL) \
+    TPX_RESIZE_NEAREST(T, C4, R_L, TpxSizeL, TpxiPointL, TpxiSizeL)
+TPX_RESIZE_NEAREST_LAYOUTS(8u)
+TPX_RESIZE_NEAREST_LAYOUTS(16u)
+TPX_RESIZE_NEAREST_LAYOUTS(16s)
+TPX_RESIZE_NEAREST_LAYOUTS(32f)
+#undef TPX_RESIZE_NEAREST
+#undef TPX_RESIZE_NEAREST_LAYOUTS

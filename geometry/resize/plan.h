@@ -1,12 +1,11 @@
-// The plan of a resize: the record behind TpxiResizeSpec, where it lies, and what its queries, initialisers and
-// the processing calls share. Inside, every length is 64-bit; the short and the _L forms of a call differ in
-// their records and in the tag of the plans that they take.
+// The plan of a resize: the record behind TpxiResizeSpec, where it and its tables lie, and what its queries,
+// its initialisers and the processing calls share.
 #pragma once
 
-#include <stddef.h>
-
+#include "frame/entry/checks.h"
+#include "frame/images/gather.h"
+#include "frame/memory/caller_memory.h"
 #include "frame/runs/routines.h"
-#include "frame/simd/core.h"
 #include "tpxi/geometry.h"
 
 // One axis: where each destination position lies in the source, and with which weights.
@@ -36,41 +35,49 @@ struct TpxiResizeSpec {
     TpxiBorderSize border;
     TpxiResizeAxis axisY;
     TpxiResizeAxis axisX;
-    // The tables follow.
+    // The tables follow (takeTables).
 };
 
 static_assert(sizeof(TpxiResizeAxis) == 64 && sizeof(TpxiResizeSpec) == 168);
 
 namespace tpx {
 
-struct ShortForm {
-    static constexpr bool kLong = false;
-    static constexpr Tpx32u kTag = 0x4b617389;
-    using Length = int;
-    using Size = TpxiSize;
-    using Point = TpxiPoint;
-    using Border = TpxiBorderSize;
-};
+// Inside, every length is 64-bit. The short and the _L forms of a call differ in the tag of the plans that they
+// take, and in what they refuse.
+enum class Form : Tpx32u { Short = 0x4b617389, Long = 0x4b61738c };
+template <class Record>
+inline constexpr Form kFormOf =
+    std::is_same_v<Record, TpxSizeL> || std::is_same_v<Record, TpxiSizeL> ||
+            std::is_same_v<Record, TpxiPointL> || std::is_same_v<Record, TpxiBorderSizeL>
+        ? Form::Long
+        : Form::Short;
 
-struct LongForm {
-    static constexpr bool kLong = true;
-    static constexpr Tpx32u kTag = 0x4b61738c;
-    using Length = TpxSizeL;
-    using Size = TpxiSizeL;
-    using Point = TpxiPointL;
-    using Border = TpxiBorderSizeL;
-};
-
-// The next address that is a multiple of `alignment`. Callers' plans and buffers may lie anywhere and have
-// spare bytes for it.
-template <class T>
-inline T* alignUp(T* p, uintptr_t alignment) {
-    return reinterpret_cast<T*>((reinterpret_cast<uintptr_t>(p) + alignment - 1) & -alignment);
-}
+inline bool isFor(Form form, const TpxiResizeSpec& plan) { return plan.tag == Tpx32u(form); }
 
 // The record inside the caller's block. The caller's own pointer must not be dereferenced.
-inline TpxiResizeSpec* planIn(TpxiResizeSpec* spec) { return alignUp(spec, 64); }
-inline const TpxiResizeSpec* planIn(const TpxiResizeSpec* spec) { return alignUp(spec, 64); }
+inline TpxiResizeSpec* planIn(TpxiResizeSpec* spec) { return alignUp(spec); }
+inline const TpxiResizeSpec* planIn(const TpxiResizeSpec* spec) { return alignUp(spec); }
+
+// ---- Axes ------------------------------------------------------------------------------------------------
+
+constexpr int64_t commonDivisor(int64_t a, int64_t b) {
+    while (b != 0) {
+        const int64_t r = a % b;
+        a = b;
+        b = r;
+    }
+    return a;
+}
+
+inline TpxiResizeAxis axisOf(int64_t src, int64_t dst) {
+    const int64_t divisor = commonDivisor(src, dst);
+    TpxiResizeAxis axis = {};
+    axis.srcLen = Tpx32u(src);
+    axis.dstLen = Tpx32s(dst);
+    axis.srcRatio = Tpx32u(src / divisor);
+    axis.dstRatio = Tpx32u(dst / divisor);
+    return axis;
+}
 
 inline double scaleOf(const TpxiResizeAxis& axis) { return double(axis.srcRatio) / double(axis.dstRatio); }
 
@@ -89,20 +96,77 @@ inline int64_t srcOffset(const TpxiResizeSpec& plan, const TpxiResizeAxis& axis,
     return d / axis.dstRatio * axis.srcRatio + axis.pIndex[d % axis.dstRatio * run];
 }
 
-// ---- Checks that several calls share --------------------------------------------------------------------
+// ---- Tables ----------------------------------------------------------------------------------------------
 
-template <class Size>
-inline bool isZero(Size size) {
-    return size.width == 0 || size.height == 0;
+// What the weights of a plan are.
+enum class Weights { Q14, Single, Double };
+
+constexpr Weights weightsFor(TpxDataType dataType, TpxInterpolationType interpolation) {
+    if (dataType == tpxDataType64f) return Weights::Double;
+    return dataType == tpxDataType8u && interpolation == tpxInterpolationLinear ? Weights::Q14
+                                                                                : Weights::Single;
 }
 
-template <class Point>
-inline bool isOutside(Point offset, const TpxiResizeSpec& plan) {
+// Entries of a super-sampling axis, whose tables are those of one period.
+inline int64_t entriesOf(const TpxiResizeAxis& axis) {
+    return axis.dstRatio * superRun<int64_t>(axis.srcRatio, axis.dstRatio);
+}
+
+// Takes the tables of a plan from the block that begins with it; its kind, lobes and axes are set. Alignments
+// count from the plan.
+inline void takeTables(TpxiResizeSpec& plan, Weights weights, BlockLayout& block) {
+    TpxiResizeAxis &y = plan.axisY, &x = plan.axisX;
+    block.take<TpxiResizeSpec>(1);
+    if (plan.interpolation == tpxInterpolationSuper) {
+        y.pIndex = block.take<Tpx32s>(entriesOf(y));
+        x.pIndex = block.take<Tpx32s>(entriesOf(x));
+        y.pCoef32f = block.take<Tpx32f>(entriesOf(y), 32);
+        x.pCoef32f = block.take<Tpx32f>(entriesOf(x), 32);
+        return;
+    }
+    y.pIndex = block.take<Tpx32s>(y.dstLen);
+    x.pIndex = block.take<Tpx32s>(x.dstLen);
+    if (plan.interpolation == tpxInterpolationNearest) return;
+    if (weights == Weights::Q14) {
+        y.pCoefQ14 = block.take<Tpx16s>(y.dstLen);
+        x.pCoefQ14 = block.take<Tpx16s>(2 * int64_t(x.dstLen));
+    } else if (weights == Weights::Double) {
+        y.pCoef64f = block.take<Tpx64f>(y.dstLen, 64);
+        x.pCoef64f = block.take<Tpx64f>(x.dstLen, 64);
+    } else if (plan.interpolation == tpxInterpolationLinear) {
+        y.pCoef32f = block.take<Tpx32f>(y.dstLen);
+        x.pCoef32f = block.take<Tpx32f>(x.dstLen);
+    } else {
+        y.pCoef32f = block.take<Tpx32f>(footprintOf(plan.lobesY).size * int64_t(y.dstLen), 32);
+        x.pCoef32f = block.take<Tpx32f>(footprintOf(plan.lobesX).size * int64_t(x.dstLen), 32);
+    }
+}
+
+// ---- Checks that several calls share ---------------------------------------------------------------------
+
+// The data types of the _L calls; only linear has plans of 64f.
+constexpr bool isPlanType(TpxDataType type, TpxInterpolationType interpolation) {
+    return type == tpxDataType8u || type == tpxDataType16u || type == tpxDataType16s ||
+           type == tpxDataType32f || (type == tpxDataType64f && interpolation == tpxInterpolationLinear);
+}
+
+// The _L calls serve lengths below 0x20000000.
+constexpr bool isTooLong(TpxiSizeL size) { return size.width > 0x1fffffff || size.height > 0x1fffffff; }
+
+constexpr bool isSmaller(TpxiSizeL size, TpxiSizeL than) {
+    return size.width < than.width || size.height < than.height;
+}
+
+// The smallest source of a kind that reads `taps` source pixels for a destination pixel.
+constexpr TpxiSizeL squareOf(int taps) { return {taps, taps}; }
+
+constexpr bool isZero(TpxiSizeL size) { return size.width == 0 || size.height == 0; }
+
+inline bool isOutside(TpxiPointL offset, const TpxiResizeSpec& plan) {
     return offset.x < 0 || offset.x >= plan.axisX.dstLen || offset.y < 0 || offset.y >= plan.axisY.dstLen;
 }
 
-template <class Size>
-inline bool isLarger(Size tile, const TpxiResizeSpec& plan) {
+inline bool isLarger(TpxiSizeL tile, const TpxiResizeSpec& plan) {
     return tile.width > plan.axisX.dstLen || tile.height > plan.axisY.dstLen;
 }
 

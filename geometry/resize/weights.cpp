@@ -13,7 +13,7 @@ void buildNearest(TpxiResizeAxis& axis) {
 // ---- Linear -------------------------------------------------------------------------------------------
 
 void buildLinearQ14(TpxiResizeAxis& axis, bool inPairs) {
-    buildPositions(axis, 1, [&](int64_t i, double fraction) {
+    buildPositions(axis, kTwoTaps, [&](int64_t i, double fraction) {
         const auto q = Tpx16s(fraction * 16384.0 + 1e-07);
         if (inPairs) {
             axis.pCoefQ14[2 * i] = Tpx16s(16384 - q);
@@ -24,12 +24,12 @@ void buildLinearQ14(TpxiResizeAxis& axis, bool inPairs) {
     });
 }
 
-void buildFractions(TpxiResizeAxis& axis, int reach, Tpx32f* fractions) {
-    buildPositions(axis, reach, [&](int64_t i, double fraction) { fractions[i] = Tpx32f(fraction); });
+void buildFractions(TpxiResizeAxis& axis, Footprint taps, Tpx32f* fractions) {
+    buildPositions(axis, taps, [&](int64_t i, double fraction) { fractions[i] = Tpx32f(fraction); });
 }
 
-void buildFractions(TpxiResizeAxis& axis, int reach, Tpx64f* fractions) {
-    buildPositions(axis, reach, [&](int64_t i, double fraction) { fractions[i] = fraction; });
+void buildFractions(TpxiResizeAxis& axis, Footprint taps, Tpx64f* fractions) {
+    buildPositions(axis, taps, [&](int64_t i, double fraction) { fractions[i] = fraction; });
 }
 
 // ---- Cubic --------------------------------------------------------------------------------------------

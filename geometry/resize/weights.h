@@ -9,10 +9,10 @@
 namespace tpx {
 
 // Fills the index table of an interpolating axis, counts the positions at either end whose taps reach outside
-// (`reach` source positions on each side), and gives store(i, fraction) the distance from the index.
+// the source, and gives store(i, fraction) the distance from the index.
 template <class Store>
-inline void buildPositions(TpxiResizeAxis& axis, int reach, Store store) {
-    const double scale = scaleOf(axis), first = reach - 1, last = double(axis.srcLen) - reach;
+inline void buildPositions(TpxiResizeAxis& axis, Footprint taps, Store store) {
+    const double scale = scaleOf(axis), first = -taps.offset, last = double(axis.srcLen) - taps.last();
     axis.leadCount = axis.trailCount = 0;
     for (int64_t i = 0; i < axis.dstLen; i++) {
         const double c = (double(i) + 0.5) * scale - 0.5, whole = TPXS(FloorOne)(c);
@@ -26,8 +26,8 @@ inline void buildPositions(TpxiResizeAxis& axis, int reach, Store store) {
 void buildNearest(TpxiResizeAxis& axis);
 
 void buildLinearQ14(TpxiResizeAxis& axis, bool inPairs);
-void buildFractions(TpxiResizeAxis& axis, int reach, Tpx32f* fractions);
-void buildFractions(TpxiResizeAxis& axis, int reach, Tpx64f* fractions);
+void buildFractions(TpxiResizeAxis& axis, Footprint taps, Tpx32f* fractions);
+void buildFractions(TpxiResizeAxis& axis, Footprint taps, Tpx64f* fractions);
 
 // Four weights for each fraction, from the left or the top.
 void buildCubic(const Tpx32f* fractions, int64_t count, Tpx32f valueB, Tpx32f valueC, Tpx32f* weights);

@@ -108,6 +108,37 @@ TEST(ResizePlan, SizesOfPlansAndInitialisationBuffers) {
     EXPECT_EQ(-1, spec);
 }
 
+// Sizes are formulas that callers know; what initialisers lay out must fit below, at whatever remainders
+// lengths leave.
+TEST(ResizePlan, TablesFitIntoTheSizes) {
+    constexpr TpxSizeL kLongest = 0x1fffffff;
+    const auto check = [&](TpxiSizeL dst, TpxDataType type, TpxInterpolationType kind) {
+        const TpxiSizeL src =
+            kind == kSuper ? TpxiSizeL{dst.width + dst.height % 7, dst.height * 3 + 1} : TpxiSizeL{1000, 6};
+        if (src.width > kLongest || src.height > kLongest) return;
+        TpxSizeL bytes = 0, init = 0;
+        ASSERT_EQ(tpxOk, tpxiResizeGetSize_L(src, dst, type, kind, 0, &bytes, &init));
+        TpxiResizeSpec plan = {};
+        plan.interpolation = kind;
+        plan.lobesX = plan.lobesY = kind == kCubic ? 2 : kind == kLanczos ? 3 : 1;
+        plan.axisX = tpx::axisOf(src.width, dst.width);
+        plan.axisY = tpx::axisOf(src.height, dst.height);
+        tpx::BlockLayout block;
+        tpx::takeTables(plan, tpx::weightsFor(type, kind), block);
+        ASSERT_LE(block.bytesAnywhere(), uint64_t(bytes))
+            << dst.width << " by " << dst.height << ", kind " << kind << ", type " << type;
+    };
+    for (TpxSizeL w = 1; w <= 70; w++)
+        for (TpxSizeL h = 1; h <= 70; h++)
+            for (const TpxiSizeL dst :
+                 {TpxiSizeL{w, h}, {kLongest - w, h}, {w, kLongest - h}, {w * 100, h * 77}}) {
+                for (const auto kind : {kNearest, kLinear, kCubic, kLanczos, kSuper})
+                    check(dst, tpxDataType32f, kind);
+                check(dst, tpxDataType8u, kLinear);
+                check(dst, tpxDataType64f, kLinear);
+            }
+}
+
 TEST(ResizePlan, SizesBeyondTheResultAreRefused) {
     const int most = 0x7fffffff;
     for (const TpxiSize dst : {TpxiSize{most, 1}, {1, most}, {most, most}})
