@@ -6,18 +6,23 @@ namespace tpx {
 struct Abs {
     static constexpr bool kWholeSteps = true;
 
-    template <class T, class Body>
-    static TpxStatus withRule(int, Body body) {
-        return body([](Vec<T> x) { return absSat(x); });
+    template <Layout L, class T>
+    static TpxStatus run(const UnaryCall<L, T>& call) {
+        return call.map([](Vec<T> x) { return absSat(x); });
     }
 };
 
 } // namespace tpx
 
-#define TPX_ABS(L)         \
-    TPX_UNARY(Abs, 16s, L) \
-    TPX_UNARY(Abs, 32f, L)
+// ---- Entries -------------------------------------------------------------------------------------------
+
+#define TPX_ABS(L)                   \
+    TPX_UNARY(16s, L, tpxiAbs_, Abs) \
+    TPX_UNARY(32f, L, tpxiAbs_, Abs)
 TPX_ABS(C1)
 TPX_ABS(C3)
 TPX_ABS(C4)
 TPX_ABS(AC4)
+#undef TPX_ABS
+#undef TPX_UNARY
+#undef TPX_UNARY_SFS

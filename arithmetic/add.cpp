@@ -38,4 +38,12 @@ struct Add {
 
 } // namespace tpx
 
-TPX_BINARY(Add)
+// ---- Entries -------------------------------------------------------------------------------------------
+
+TPX_BINARY_TYPES(C1, tpxiAdd_, Add)
+TPX_BINARY_TYPES(C3, tpxiAdd_, Add)
+TPX_BINARY_TYPES(C4, tpxiAdd_, Add)
+TPX_BINARY_TYPES(AC4, tpxiAdd_, Add)
+#undef TPX_BINARY
+#undef TPX_BINARY_SFS
+#undef TPX_BINARY_TYPES

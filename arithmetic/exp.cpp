@@ -49,21 +49,26 @@ struct Window {
 struct Exp {
     static constexpr bool kWholeSteps = false;
 
-    template <class T, class Body>
-    static TpxStatus withRule(int n, Body body) {
+    template <Layout L, class T>
+    static TpxStatus run(const UnaryCall<L, T>& call) {
         if constexpr (std::is_same_v<T, float>)
-            return body([](V32f x) { return exponential(x); });
+            return call.map([](V32f x) { return exponential(x); });
         else
-            return body(Window<T>(n));
+            return call.map(Window<T>(call.scaleFactor));
     }
 };
 
 } // namespace tpx
 
-#define TPX_EXP(L)             \
-    TPX_UNARY_SFS(Exp, 8u, L)  \
-    TPX_UNARY_SFS(Exp, 16u, L) \
-    TPX_UNARY_SFS(Exp, 16s, L) \
-    TPX_UNARY(Exp, 32f, L)
+// ---- Entries -------------------------------------------------------------------------------------------
+
+#define TPX_EXP(L)                       \
+    TPX_UNARY_SFS(8u, L, tpxiExp_, Exp)  \
+    TPX_UNARY_SFS(16u, L, tpxiExp_, Exp) \
+    TPX_UNARY_SFS(16s, L, tpxiExp_, Exp) \
+    TPX_UNARY(32f, L, tpxiExp_, Exp)
 TPX_EXP(C1)
 TPX_EXP(C3)
+#undef TPX_EXP
+#undef TPX_UNARY
+#undef TPX_UNARY_SFS

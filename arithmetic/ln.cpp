@@ -6,22 +6,10 @@
 namespace tpx {
 namespace {
 
-// Warns of the first sample, in row-major order, that has no logarithm. Rows are looked at before they are
-// mapped, since in place they are gone afterwards, and only until there is something to warn of.
-template <class T>
-struct LogarithmWarning {
-    TpxStatus found = tpxOk;
-
-    void inspect(const T* row, ptrdiff_t len) {
-        if (found) return;
-        const ptrdiff_t at = findRun(row, len, [](Vec<T> x) { return x <= Vec<T>{}; });
-        if (at >= 0) found = loadShort(row + at, 1)[0] == 0 ? tpxWarnLnZeroArg : tpxWarnLnNegArg;
-    }
-    TpxStatus status() const { return found; }
-};
+// ---- Rules ------------------------------------------------------------------------------------------------
 
 template <class F, class T>
-struct IntegerLogarithm : LogarithmWarning<T> {
+struct IntegerLogarithm {
     explicit IntegerLogarithm(int n) : scale(powerOfTwo<F>(-n)) {}
 
     // Zero goes the way of 1 and so gives 0; signed samples without a logarithm give the smallest value.
@@ -37,35 +25,97 @@ struct IntegerLogarithm : LogarithmWarning<T> {
     F scale;
 };
 
-struct FloatLogarithm : LogarithmWarning<float> {
-    V32f operator()(V32f x) const { return logarithm(x); }
+// What a rule makes of every byte.
+struct ByteResults {
+    Tpx8u at[256];
+
+    template <class Rule>
+    explicit ByteResults(const Rule& rule) {
+        for (int i = 0; i < 256; i++) at[i] = Tpx8u(i);
+        mapRun(at, at, 256, rule);
+    }
 };
+
+// From so many samples on a table of all results is worth its making.
+constexpr ptrdiff_t kTableFloor = 1024;
+
+// ---- Rows -------------------------------------------------------------------------------------------------
+
+// Warns of the first sample, in row-major order, that has no logarithm. Rows are looked at before they are
+// mapped, since in place they are gone afterwards, and only until there is something to warn of.
+template <class T>
+struct LogarithmWarning {
+    TpxStatus status = tpxOk;
+
+    void inspect(const T* row, ptrdiff_t len) {
+        if (status) return;
+        const ptrdiff_t at = findRun(row, len, [](Vec<T> x) { return x <= Vec<T>{}; });
+        if (at >= 0) status = peek(row + at) == 0 ? tpxWarnLnZeroArg : tpxWarnLnNegArg;
+    }
+};
+
+// Rows are not joined: one that is looked at first is still in the nearest cache when it is mapped, a long run
+// of all of them is not.
+template <Layout L, class T, class Rule>
+TpxStatus mapInspected(const UnaryCall<L, T>& call, Rule rule) {
+    LogarithmWarning<T> warning;
+    const auto walk = [&](auto mapRow) {
+        walkRows(
+            call.extent,
+            [&](ptrdiff_t len, T* d, const T* s) {
+                warning.inspect(s, len);
+                mapRow(len, d, s);
+            },
+            call.dst, call.src);
+    };
+    if constexpr (sizeof(T) == 1)
+        if (call.extent.width * call.extent.height >= kTableFloor) {
+            const ByteResults results(rule);
+            const Tables tables{{results.at}, ~Tpx64u(0)};
+            walk([&](ptrdiff_t len, T* d, const T* s) { lookupRow<Layout::C1, T, 1>(s, d, len, tables); });
+            return warning.status;
+        }
+    const bool inPlace = call.src.data == call.dst.data; // its lines are in the caches already
+    if (!inPlace && goesPastCaches(kStreamPointwise, trafficOf(call.extent, call.dst, call.src))) {
+        walk([&](ptrdiff_t len, T* d, const T* s) { streamRun(d, len, rule, s); });
+        streamFence();
+    } else {
+        walk([&](ptrdiff_t len, T* d, const T* s) { applyRun(d, len, rule, s); });
+    }
+    return warning.status;
+}
 
 } // namespace
 
 struct Ln {
-    static constexpr bool kWholeSteps = false, kCostly = true;
+    static constexpr bool kWholeSteps = false;
 
-    template <class T, class Body>
-    static TpxStatus withRule(int n, Body body) {
+    template <Layout L, class T>
+    static TpxStatus run(const UnaryCall<L, T>& call) {
         if constexpr (std::is_same_v<T, float>) {
-            return body(FloatLogarithm{});
+            return mapInspected(call, [](V32f x) { return logarithm(x); });
         } else {
-            n = clampTo(n, -20, 20); // past these every logarithm but 0 saturates, or rounds to 0
+            // Past these factors every logarithm but 0 saturates, or rounds to 0.
+            const int n = clampTo(call.scaleFactor, -20, 20);
             // Single precision decides the rounding of every logarithm of 8 bits, and of 16 bits while results
             // stay small (tested sample by sample).
-            if (sizeof(T) == 1 || n >= -1) return body(IntegerLogarithm<float, T>(n));
-            return body(IntegerLogarithm<double, T>(n));
+            if (sizeof(T) == 1 || n >= -1) return mapInspected(call, IntegerLogarithm<float, T>(n));
+            return mapInspected(call, IntegerLogarithm<double, T>(n));
         }
     }
 };
 
 } // namespace tpx
 
-#define TPX_LN(L)             \
-    TPX_UNARY_SFS(Ln, 8u, L)  \
-    TPX_UNARY_SFS(Ln, 16u, L) \
-    TPX_UNARY_SFS(Ln, 16s, L) \
-    TPX_UNARY(Ln, 32f, L)
+// ---- Entries -------------------------------------------------------------------------------------------
+
+#define TPX_LN(L)                      \
+    TPX_UNARY_SFS(8u, L, tpxiLn_, Ln)  \
+    TPX_UNARY_SFS(16u, L, tpxiLn_, Ln) \
+    TPX_UNARY_SFS(16s, L, tpxiLn_, Ln) \
+    TPX_UNARY(32f, L, tpxiLn_, Ln)
 TPX_LN(C1)
 TPX_LN(C3)
+#undef TPX_LN
+#undef TPX_UNARY
+#undef TPX_UNARY_SFS

@@ -31,4 +31,12 @@ struct Mul {
 
 } // namespace tpx
 
-TPX_BINARY(Mul)
+// ---- Entries -------------------------------------------------------------------------------------------
+
+TPX_BINARY_TYPES(C1, tpxiMul_, Mul)
+TPX_BINARY_TYPES(C3, tpxiMul_, Mul)
+TPX_BINARY_TYPES(C4, tpxiMul_, Mul)
+TPX_BINARY_TYPES(AC4, tpxiMul_, Mul)
+#undef TPX_BINARY
+#undef TPX_BINARY_SFS
+#undef TPX_BINARY_TYPES

@@ -53,22 +53,23 @@ inline V16u squareSaturated(V16u x) {
 struct Sqr {
     static constexpr bool kWholeSteps = true;
 
-    template <class T, class Body>
-    static TpxStatus withRule(int n, Body body) {
+    template <Layout L, class T>
+    static TpxStatus run(const UnaryCall<L, T>& call) {
         if constexpr (std::is_same_v<T, float>) {
-            return body([](V32f x) { return x * x; });
+            return call.map([](V32f x) { return x * x; });
         } else {
             // From 2 * bits + 1 on the largest square rounds to 0; from -bits down 1 saturates.
-            if (n > 0) return body(shrinkingRule<T>(clampTo(n, 1, 2 * kBits<T> + 1)));
-            const auto growing = growingRule<T>(-clampTo(n, -kValueBits<T>, 0));
+            const int n = clampTo(call.scaleFactor, -kValueBits<T>, 2 * kBits<T> + 1);
+            if (n > 0) return call.map(shrinkingRule<T>(n));
+            const auto growing = growingRule<T>(-n);
             if constexpr (std::is_same_v<T, Tpx8u>) {
                 // No sample above 15 stays below saturation: the 16 results that there are make a table.
                 Table16<Tpx8u> table;
                 table.bytes = growing(V8u{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15});
-                return body([table](V8u x) { return lookupOrMax(table, x); });
+                return call.map([table](V8u x) { return lookupOrMax(table, x); });
             } else {
-                if (n == 0) return body([](Vec<T> x) { return squareSaturated(x); });
-                return body(growing);
+                if (n == 0) return call.map([](Vec<T> x) { return squareSaturated(x); });
+                return call.map(growing);
             }
         }
     }
@@ -76,12 +77,17 @@ struct Sqr {
 
 } // namespace tpx
 
-#define TPX_SQR(L)             \
-    TPX_UNARY_SFS(Sqr, 8u, L)  \
-    TPX_UNARY_SFS(Sqr, 16u, L) \
-    TPX_UNARY_SFS(Sqr, 16s, L) \
-    TPX_UNARY(Sqr, 32f, L)
+// ---- Entries -------------------------------------------------------------------------------------------
+
+#define TPX_SQR(L)                       \
+    TPX_UNARY_SFS(8u, L, tpxiSqr_, Sqr)  \
+    TPX_UNARY_SFS(16u, L, tpxiSqr_, Sqr) \
+    TPX_UNARY_SFS(16s, L, tpxiSqr_, Sqr) \
+    TPX_UNARY(32f, L, tpxiSqr_, Sqr)
 TPX_SQR(C1)
 TPX_SQR(C3)
 TPX_SQR(C4)
 TPX_SQR(AC4)
+#undef TPX_SQR
+#undef TPX_UNARY
+#undef TPX_UNARY_SFS

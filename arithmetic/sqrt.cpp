@@ -32,57 +32,77 @@ struct IntegerRoot : NegativeWarning<T> {
     F scale;
 };
 
-template <bool Alpha>
+// Alpha has a root, too, unless it is not to be looked at and so cannot raise the warning.
+enum class Alpha { Seen, Unseen };
+
+template <Alpha A>
 struct FloatRoot : NegativeWarning<float> {
     V32f operator()(V32f x) {
-        if constexpr (!Alpha) x = keepAlpha<float>(V32f{}, x);
+        if constexpr (A == Alpha::Unseen) x = keepAlpha<float>(V32f{}, x);
         see(x);
         return squareRoot(x);
     }
 };
+
+template <class Call, class Root>
+TpxStatus mapRoot(const Call& call, Root root) {
+    call.map([&root](auto x) { return root(x); });
+    return root.status();
+}
 
 } // namespace
 
 struct Sqrt {
     static constexpr bool kWholeSteps = true;
 
-    template <class T, class Body>
-    static TpxStatus withRule(int n, Body body) {
+    template <Layout L, class T>
+    static TpxStatus run(const UnaryCall<L, T>& call) {
         if constexpr (std::is_same_v<T, float>) {
-            return body(FloatRoot<true>{});
+            return mapRoot(call, FloatRoot<Alpha::Seen>{});
         } else {
-            n = clampTo(n, -20, 20); // past these every root saturates, or rounds to 0
-            if (sizeof(T) == 1 || n >= 0) return body(IntegerRoot<float, T>(n));
-            return body(IntegerRoot<double, T>(n));
+            // Past these factors every root saturates, or rounds to 0.
+            const int n = clampTo(call.scaleFactor, -20, 20);
+            if (sizeof(T) == 1 || n >= 0) return mapRoot(call, IntegerRoot<float, T>(n));
+            return mapRoot(call, IntegerRoot<double, T>(n));
         }
     }
 };
 
-// Alpha is not looked at, so it cannot raise the warning.
 struct SqrtOfColours {
     static constexpr bool kWholeSteps = true;
 
-    template <class T, class Body>
-    static TpxStatus withRule(int, Body body) {
-        return body(FloatRoot<false>{});
+    static TpxStatus run(const UnaryCall<Layout::AC4, float>& call) {
+        return mapRoot(call, FloatRoot<Alpha::Unseen>{});
     }
 };
 
 } // namespace tpx
 
-#define TPX_SQRT(L)             \
-    TPX_UNARY_SFS(Sqrt, 8u, L)  \
-    TPX_UNARY_SFS(Sqrt, 16u, L) \
-    TPX_UNARY_SFS(Sqrt, 16s, L)
+// ---- Entries -------------------------------------------------------------------------------------------
+
+#define TPX_SQRT(L)                        \
+    TPX_UNARY_SFS(8u, L, tpxiSqrt_, Sqrt)  \
+    TPX_UNARY_SFS(16u, L, tpxiSqrt_, Sqrt) \
+    TPX_UNARY_SFS(16s, L, tpxiSqrt_, Sqrt)
 TPX_SQRT(C1)
 TPX_SQRT(C3)
 TPX_SQRT(AC4)
-TPX_UNARY(Sqrt, 32f, C1)
-TPX_UNARY(Sqrt, 32f, C3)
-TPX_UNARY_INPLACE(Sqrt, 32f, C4)
-TPX_UNARY_INPLACE(Sqrt, 32f, AC4)
+TPX_UNARY(32f, C1, tpxiSqrt_, Sqrt)
+TPX_UNARY(32f, C3, tpxiSqrt_, Sqrt)
+#undef TPX_SQRT
+#undef TPX_UNARY
+#undef TPX_UNARY_SFS
 
 TPX_ENTRY(tpxiSqrt_32f_AC4R)
 (const Tpx32f* pSrc, int srcStep, Tpx32f* pDst, int dstStep, TpxiSize roiSize) {
-    return tpx::unary<tpx::SqrtOfColours, tpx::Layout::AC4>(pSrc, srcStep, pDst, dstStep, roiSize);
+    using namespace tpx;
+    return unary<SqrtOfColours, Layout::AC4, Tpx32f>({pSrc, srcStep}, {pDst, dstStep}, wide(roiSize));
+}
+TPX_ENTRY(tpxiSqrt_32f_AC4IR)(Tpx32f* pSrcDst, int srcDstStep, TpxiSize roiSize) {
+    using namespace tpx;
+    return unary<Sqrt, Layout::AC4, Tpx32f>({pSrcDst, srcDstStep}, {pSrcDst, srcDstStep}, wide(roiSize));
+}
+TPX_ENTRY(tpxiSqrt_32f_C4IR)(Tpx32f* pSrcDst, int srcDstStep, TpxiSize roiSize) {
+    using namespace tpx;
+    return unary<Sqrt, Layout::C4, Tpx32f>({pSrcDst, srcDstStep}, {pSrcDst, srcDstStep}, wide(roiSize));
 }

@@ -38,4 +38,12 @@ struct Sub {
 
 } // namespace tpx
 
-TPX_BINARY(Sub)
+// ---- Entries -------------------------------------------------------------------------------------------
+
+TPX_BINARY_TYPES(C1, tpxiSub_, Sub)
+TPX_BINARY_TYPES(C3, tpxiSub_, Sub)
+TPX_BINARY_TYPES(C4, tpxiSub_, Sub)
+TPX_BINARY_TYPES(AC4, tpxiSub_, Sub)
+#undef TPX_BINARY
+#undef TPX_BINARY_SFS
+#undef TPX_BINARY_TYPES

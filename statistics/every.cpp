@@ -20,13 +20,15 @@ struct Larger {
     }
 };
 
+// Of several channels, results stay in the caches.
 template <class Rule, Layout L, class T>
-TpxStatus every(const TwoImages<T>& a, TpxiSize roi) {
-    if (anyNull(a.src1, a.src2, a.dst)) return tpxErrNullPointer;
+TpxStatus every(const ImageView<const T>& src1, const ImageView<const T>& src2, const ImageView<T>& dst,
+                TpxiSizeL roi) {
+    if (anyNull(src1.data, src2.data, dst.data)) return tpxErrNullPointer;
     if (isEmpty(roi)) return tpxErrSize;
-    if (a.src1Step < 1 || a.src2Step < 1 || a.dstStep < 1) return tpxErrStep;
-    combineImages<L == Layout::AC4, L == Layout::C1>(a, ptrdiff_t(roi.width) * channelsOf(L), roi.height,
-                                                     Rule{});
+    if (src1.step < 1 || src2.step < 1 || dst.step < 1) return tpxErrStep;
+    mapImage<pointwiseLayout(L), L == Layout::C1 ? Streaming::Maybe : Streaming::Never>(
+        samplesOf(roi, channelsOf(L)), Rule{}, dst, src1, src2);
     return tpxOk;
 }
 
@@ -35,32 +37,40 @@ TpxStatus every(const TwoImages<T>& a, TpxiSize roi) {
 
 // ---- Entries ---------------------------------------------------------------------------------------------
 
-#define TPX_EVERY_R(name, Rule, T)                                                                          \
-    TPX_ENTRY(tpxi##name##Every_##T##_C1R)                                                                  \
-    (const Tpx##T* pSrc1, int src1Step, const Tpx##T* pSrc2, int src2Step, Tpx##T* pDst, int dstStep,       \
-     TpxiSize roiSize) {                                                                                    \
-        using namespace tpx;                                                                                \
-        return every<Rule, Layout::C1, Tpx##T>({pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep}, roiSize); \
+#define TPX_EVERY_R(T, name, Rule)                                                                    \
+    TPX_ENTRY(name##T##_C1R)                                                                          \
+    (const Tpx##T* pSrc1, int src1Step, const Tpx##T* pSrc2, int src2Step, Tpx##T* pDst, int dstStep, \
+     TpxiSize roiSize) {                                                                              \
+        using namespace tpx;                                                                          \
+        return every<Rule, Layout::C1, Tpx##T>({pSrc1, src1Step}, {pSrc2, src2Step}, {pDst, dstStep}, \
+                                               wide(roiSize));                                        \
     }
-#define TPX_EVERY_IR(name, Rule, T, L)                                                                   \
-    TPX_ENTRY(tpxi##name##Every_##T##_##L##IR)                                                           \
-    (const Tpx##T* pSrc, int srcStep, Tpx##T* pSrcDst, int srcDstStep, TpxiSize roiSize) {               \
-        using namespace tpx;                                                                             \
-        return every<Rule, Layout::L, Tpx##T>({pSrc, srcStep, pSrcDst, srcDstStep, pSrcDst, srcDstStep}, \
-                                              roiSize);                                                  \
+#define TPX_EVERY_IR(T, L, name, Rule)                                                                       \
+    TPX_ENTRY(name##T##_##L##IR)                                                                             \
+    (const Tpx##T* pSrc, int srcStep, Tpx##T* pSrcDst, int srcDstStep, TpxiSize roiSize) {                   \
+        using namespace tpx;                                                                                 \
+        return every<Rule, Layout::L, Tpx##T>({pSrc, srcStep}, {pSrcDst, srcDstStep}, {pSrcDst, srcDstStep}, \
+                                              wide(roiSize));                                                \
     }
-#define TPX_EVERY_TYPE(name, Rule, T) \
-    TPX_EVERY_IR(name, Rule, T, C1)   \
-    TPX_EVERY_IR(name, Rule, T, C3)   \
-    TPX_EVERY_IR(name, Rule, T, C4)   \
-    TPX_EVERY_IR(name, Rule, T, AC4)
-#define TPX_EVERY(name, Rule)       \
-    TPX_EVERY_TYPE(name, Rule, 8u)  \
-    TPX_EVERY_TYPE(name, Rule, 16u) \
-    TPX_EVERY_TYPE(name, Rule, 16s) \
-    TPX_EVERY_TYPE(name, Rule, 32f) \
-    TPX_EVERY_R(name, Rule, 8u)     \
-    TPX_EVERY_R(name, Rule, 16u)    \
-    TPX_EVERY_R(name, Rule, 32f)
-TPX_EVERY(Min, Smaller)
-TPX_EVERY(Max, Larger)
+#define TPX_EVERY_LAYOUTS(T, name, Rule) \
+    TPX_EVERY_IR(T, C1, name, Rule)      \
+    TPX_EVERY_IR(T, C3, name, Rule)      \
+    TPX_EVERY_IR(T, C4, name, Rule)      \
+    TPX_EVERY_IR(T, AC4, name, Rule)
+TPX_EVERY_LAYOUTS(8u, tpxiMinEvery_, Smaller)
+TPX_EVERY_LAYOUTS(16u, tpxiMinEvery_, Smaller)
+TPX_EVERY_LAYOUTS(16s, tpxiMinEvery_, Smaller)
+TPX_EVERY_LAYOUTS(32f, tpxiMinEvery_, Smaller)
+TPX_EVERY_R(8u, tpxiMinEvery_, Smaller)
+TPX_EVERY_R(16u, tpxiMinEvery_, Smaller)
+TPX_EVERY_R(32f, tpxiMinEvery_, Smaller)
+TPX_EVERY_LAYOUTS(8u, tpxiMaxEvery_, Larger)
+TPX_EVERY_LAYOUTS(16u, tpxiMaxEvery_, Larger)
+TPX_EVERY_LAYOUTS(16s, tpxiMaxEvery_, Larger)
+TPX_EVERY_LAYOUTS(32f, tpxiMaxEvery_, Larger)
+TPX_EVERY_R(8u, tpxiMaxEvery_, Larger)
+TPX_EVERY_R(16u, tpxiMaxEvery_, Larger)
+TPX_EVERY_R(32f, tpxiMaxEvery_, Larger)
+#undef TPX_EVERY_R
+#undef TPX_EVERY_IR
+#undef TPX_EVERY_LAYOUTS

@@ -23,16 +23,29 @@ inline void walkPointwise(Extent e, Cached cached, Streamed streamed, const Imag
     }
 }
 
+// Samples alike are one run, whatever pixels they belong to; what counts is alpha that stays. The work of
+// several layouts is so compiled once.
+constexpr Layout pointwiseLayout(Layout layout) { return layout == Layout::AC4 ? layout : Layout::C1; }
+
 // A rule on registers of samples. Widths count samples; those of AC4 are of whole pixels whose alpha stays.
+// Rows work with a copy of the rule, whose address goes nowhere: its constants stay in registers.
 template <Layout L, Streaming M = Streaming::Maybe, class T, class Rule, class... Src>
 inline void mapImage(Extent e, Rule rule, const ImageView<T>& dst, const ImageView<Src>&... src) {
     if constexpr (L == Layout::AC4)
         walkJoined(
-            e, [&](ptrdiff_t len, T* d, const Src*... s) { applyKeepingAlpha<T>(d, len, rule, s...); }, dst,
-            src...);
+            e,
+            [&](ptrdiff_t len, T* d, const Src*... s) {
+                Rule own = rule;
+                applyKeepingAlpha<T>(d, len, own, s...);
+            },
+            dst, src...);
     else
         walkPointwise<M>(
-            e, [&](ptrdiff_t len, T* d, const Src*... s) { applyRun(d, len, rule, s...); },
+            e,
+            [&](ptrdiff_t len, T* d, const Src*... s) {
+                Rule own = rule;
+                applyRun(d, len, own, s...);
+            },
             [&](ptrdiff_t len, T* d, const Src*... s) { streamRun(d, len, rule, s...); }, dst, src...);
 }
 
@@ -72,28 +85,6 @@ void mapImageByTables(TpxiSizeL roi, const Tables& tables, const ImageView<const
             lookupRow<L, S, EntryBytes>(s, reinterpret_cast<Tpx8u*>(d), len, tables);
         },
         src, ImageView<Entry>{static_cast<Entry*>(dst), dstStep});
-}
-
-// ---- Going away ------------------------------------------------------------------------------------------
-
-template <Layout L, int EntryBytes, class S>
-void lookupImage(const S* src, int srcStep, void* dst, int dstStep, TpxiSize roi, const Tables& tables) {
-    mapImageByTables<L, EntryBytes>(wide(roi), tables, ImageView<const S>{src, srcStep}, dst, dstStep);
-}
-template <class T>
-struct TwoImages {
-    const T* src1;
-    ptrdiff_t src1Step;
-    const T* src2;
-    ptrdiff_t src2Step;
-    T* dst;
-    ptrdiff_t dstStep;
-};
-template <bool KeepAlpha, bool MayStream, class T, class Rule>
-void combineImages(const TwoImages<T>& a, ptrdiff_t len, ptrdiff_t height, Rule rule) {
-    mapImage<KeepAlpha ? Layout::AC4 : Layout::C1, MayStream ? Streaming::Maybe : Streaming::Never>(
-        Extent{len, height}, rule, ImageView<T>{a.dst, a.dstStep}, ImageView<const T>{a.src1, a.src1Step},
-        ImageView<const T>{a.src2, a.src2Step});
 }
 
 } // namespace tpx

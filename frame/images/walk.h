@@ -52,47 +52,4 @@ inline void walkStreaming(bool stream, Extent e, Cached cached, Streamed streame
     streamFence();
 }
 
-// ---- Going away ------------------------------------------------------------------------------------------
-
-inline bool exceedsCache(uint64_t bytes, uint64_t floor) { return goesPastCaches({floor}, bytes); }
-inline bool fillsCache(uint64_t bytes, uint64_t floor) { return goesPastCaches({floor, 0, true}, bytes); }
-
-template <class T>
-constexpr ptrdiff_t wholeStep(ptrdiff_t step) {
-    return step & -ptrdiff_t(sizeof(T));
-}
-template <class... Steps>
-inline void joinRows(ptrdiff_t& len, ptrdiff_t& height, ptrdiff_t sampleBytes, Steps... steps) {
-    const bool gapless = (... && (steps == len * sampleBytes));
-    if (gapless) {
-        len *= height;
-        height = 1;
-    }
-}
-template <class S, class D, class Row>
-inline void walkRows(const S* src, ptrdiff_t srcStep, D* dst, ptrdiff_t dstStep, ptrdiff_t height, Row row) {
-    for (ptrdiff_t y = 0; y < height; y++) {
-        row(src, dst);
-        src = addBytes(src, srcStep);
-        dst = addBytes(dst, dstStep);
-    }
-}
-template <class S, class D, class Row>
-inline void walkRows(const S* src1, ptrdiff_t src1Step, const S* src2, ptrdiff_t src2Step, D* dst,
-                     ptrdiff_t dstStep, ptrdiff_t height, Row row) {
-    for (ptrdiff_t y = 0; y < height; y++) {
-        row(src1, src2, dst);
-        src1 = addBytes(src1, src1Step);
-        src2 = addBytes(src2, src2Step);
-        dst = addBytes(dst, dstStep);
-    }
-}
-template <class D, class Row>
-inline void walkRows(D* dst, ptrdiff_t dstStep, ptrdiff_t height, Row row) {
-    for (ptrdiff_t y = 0; y < height; y++) {
-        row(dst);
-        dst = addBytes(dst, dstStep);
-    }
-}
-
 } // namespace tpx

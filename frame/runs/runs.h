@@ -96,7 +96,7 @@ template <class T, class At, class Whole, class Fetch = NoFetch>
 
 // dst[i] = rule(src[i], ...), from one source or more. A source may be the destination.
 template <class T, class Rule, class... Src>
-inline void applyRun(T* dst, ptrdiff_t len, Rule&& rule, const Src*... src) {
+[[gnu::always_inline]] inline void applyRun(T* dst, ptrdiff_t len, Rule&& rule, const Src*... src) {
     writeRun(
         dst, len, samplesToBoundary(dst), [&](ptrdiff_t i) { return rule(load(src + i)...); },
         [&] { return rule(loadShort(src, len)...); },
@@ -110,7 +110,7 @@ inline void mapRun(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
 // The same on pixels of four samples of type T, whose fourth is left as it was. Registers stay on whole pixels.
 // R is T, or float where samples are only moved; the length is in R.
 template <class T, class R, class Rule, class... Src>
-inline void applyKeepingAlpha(R* dst, ptrdiff_t len, Rule&& rule, const Src*... src) {
+[[gnu::always_inline]] inline void applyKeepingAlpha(R* dst, ptrdiff_t len, Rule&& rule, const Src*... src) {
     writeRun(
         dst, len, 0, [&](ptrdiff_t i) { return keepAlpha<T>(load(dst + i), rule(load(src + i)...)); },
         [&] { return keepAlpha<T>(loadShort(dst, len), rule(loadShort(src, len)...)); },
