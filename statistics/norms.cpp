@@ -35,8 +35,7 @@ struct Square {
     }
 };
 
-// ---- Kinds of norms, by the type of samples and by their channels
-// ---------------------------------------------
+// ---- Kinds of norms, by the type of samples and by their channels -----------------------------------------
 //
 //   OfImage, OfDifference   the accumulators of one image and of the difference of two
 //   norm(x)                 what comes of a channel's value
