@@ -25,18 +25,19 @@ struct BinaryImages {
 
 // ---- The rule of the scale factor: s * 2^-n, rounded to nearest with ties to even, saturated ------------
 
-// n > 0.
+// The exact result's register of lanes, be it one or a pair, and either of them shifted and saturated to T.
 template <class W>
-inline W shrink(W s, int n) {
-    return RoundedShift<tpxRoundNearestEven, W, Headroom::Half>(n)(s);
+W lanesOf(W);
+template <class W>
+W lanesOf(Pair<W>);
+
+template <class T, class Shift>
+inline Vec<T> shrink(Vec<T> s, const Shift& shift) {
+    return shift(s);
 }
-template <class T>
-inline Vec<T> shrinkExact(Vec<T> s, int n) {
-    return shrink(s, n);
-}
-template <class T, class W>
-inline Vec<T> shrinkExact(Pair<W> s, int n) {
-    return narrow<T>(Pair<W>{shrink(s.low, n), shrink(s.high, n)});
+template <class T, class W, class Shift>
+inline Vec<T> shrink(Pair<W> s, const Shift& shift) {
+    return narrow<T>(Pair<W>{shift(s.low), shift(s.high)});
 }
 
 // What a factor from kZeroFrom on leaves; no source is read.
@@ -56,10 +57,16 @@ void fillZero(Extent e, const ImageView<T>& dst) {
     }
 }
 
+// A function for each rule: in one of all of them even small images pay for its frame.
+template <Layout L, class T, class Rule>
+[[gnu::noinline]] void mapImages(const BinaryImages<T>& a, Extent e, Rule rule) {
+    mapImage<L>(e, rule, a.dst, a.src1, a.src2);
+}
+
 // The work, once the arguments have passed their checks.
 template <class Op, Layout L, class T>
 TpxStatus binaryRows(const BinaryImages<T>& a, Extent e, int n) {
-    const auto map = [&](auto rule) { mapImage<L>(e, rule, a.dst, a.src1, a.src2); };
+    const auto map = [&](auto rule) { mapImages<L>(a, e, rule); };
     using V = Vec<T>;
     if constexpr (std::is_same_v<T, float>) {
         map([](V x, V y) { return Op::saturated(x, y); });
@@ -74,7 +81,9 @@ TpxStatus binaryRows(const BinaryImages<T>& a, Extent e, int n) {
                 return tpxOk;
             }
         }
-        map([n](V x, V y) { return shrinkExact<T>(Op::exact(x, y), n); });
+        using W = decltype(lanesOf(Op::exact(V{}, V{})));
+        const RoundedShift<tpxRoundNearestEven, W, Headroom::Half> shift(n); // its constants made once
+        map([shift](V x, V y) { return shrink<T>(Op::exact(x, y), shift); });
     } else if (n == -1) {
         map([](V x, V y) {
             const V s = Op::saturated(x, y);
