@@ -14,6 +14,7 @@ void addReductions();
 void addExtremesOfTwoAndBlocks();
 void addHistograms();
 void addLookups();
+void addFixedMasks();
 void addResizes();
 
 } // namespace bench

@@ -115,6 +115,7 @@ int run(int argc, char** argv) {
     addExtremesOfTwoAndBlocks();
     addHistograms();
     addLookups();
+    addFixedMasks();
     addResizes();
     Progress progress;
     benchmark::RunSpecifiedBenchmarks(&progress);

@@ -3,6 +3,7 @@ file(GLOB_RECURSE TPX_SOURCES CONFIGURE_DEPENDS
      ${PROJECT_SOURCE_DIR}/frame/*.cpp
      ${PROJECT_SOURCE_DIR}/arithmetic/*.cpp
      ${PROJECT_SOURCE_DIR}/movement/*.cpp
+     ${PROJECT_SOURCE_DIR}/filters/*.cpp
      ${PROJECT_SOURCE_DIR}/geometry/*.cpp
      ${PROJECT_SOURCE_DIR}/statistics/*.cpp
      ${PROJECT_SOURCE_DIR}/threshold/*.cpp)

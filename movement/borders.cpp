@@ -2,9 +2,10 @@
 //
 // The rows of the image are built whole, margins included; the rows above and below are copies of them. Samples
 // are only moved, so pixels of one size share their code.
-#include "frame/images/padded_row.h"
+#include "movement/borders.h"
 
 #include "frame/entry/entry.h"
+#include "frame/images/padded_row.h"
 #include "frame/images/walk.h"
 
 namespace tpx {
@@ -172,7 +173,37 @@ inline TpxStatus copyExtended(ImageView<const T> src, TpxiSizeL srcRoi, ImageVie
                                             value);
 }
 
+// ---- For the filters ---------------------------------------------------------------------------------------
+
+template <int PixelBytes>
+[[gnu::noinline]] void copyPixels(Border kind, ConstBytes src, Bytes dst, const RowShape& row,
+                                  const ColumnShape& column, const Tpx8u* pixel) {
+    using Px = Pixel<PixelBytes, false>;
+    if (kind == Border::Const)
+        extend<Border::Const, Px>(false, src, dst, row, column, pixel);
+    else if (kind == Border::Mirror)
+        extend<Border::Mirror, Px>(false, src, dst, row, column, nullptr);
+    else
+        extend<Border::Replicate, Px>(false, src, dst, row, column, nullptr);
+}
+
 } // namespace
+
+void copyWithBorder(Border kind, int pixelBytes, ImageView<const Tpx8u> src, TpxiSizeL srcSize,
+                    ImageView<Tpx8u> dst, TpxiSizeL dstSize, int64_t top, int64_t left, const void* pixel) {
+    const auto copy = pixelBytes == 1    ? copyPixels<1>
+                      : pixelBytes == 2  ? copyPixels<2>
+                      : pixelBytes == 3  ? copyPixels<3>
+                      : pixelBytes == 4  ? copyPixels<4>
+                      : pixelBytes == 6  ? copyPixels<6>
+                      : pixelBytes == 8  ? copyPixels<8>
+                      : pixelBytes == 12 ? copyPixels<12>
+                                         : copyPixels<16>;
+    copy(kind, src, dst.from(left * pixelBytes, top),
+         {left, srcSize.width, dstSize.width - srcSize.width - left},
+         {top, srcSize.height, dstSize.height - srcSize.height - top}, static_cast<const Tpx8u*>(pixel));
+}
+
 } // namespace tpx
 
 using namespace tpx;

@@ -25,6 +25,8 @@ inline V8u interleaveUnits(V8u a8, V8u b8) {
 }
 
 // The lanes of `a` and `b` in turn: a0 b0 a1 b1 ... from the lower half of both, or from the upper.
+inline V8u interleaveLow(V8u a, V8u b) { return V8u(_mm_unpacklo_epi8(__m128i(a), __m128i(b))); }
+inline V8u interleaveHigh(V8u a, V8u b) { return V8u(_mm_unpackhi_epi8(__m128i(a), __m128i(b))); }
 inline V16s interleaveLow(V16s a, V16s b) { return V16s(_mm_unpacklo_epi16(__m128i(a), __m128i(b))); }
 inline V16s interleaveHigh(V16s a, V16s b) { return V16s(_mm_unpackhi_epi16(__m128i(a), __m128i(b))); }
 

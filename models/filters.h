@@ -1,0 +1,18 @@
+// Neighbourhood filters in their plain form: a loop over the mask for each sample.
+#pragma once
+
+#include <tpxi.h>
+
+#include <cmath>
+#include <cstddef>
+#include <type_traits>
+
+namespace tpx::model {
+
+// The sum over the mask, times the scale, rounded to nearest with ties to even and saturated. Weights lie in
+// rows from the top; the source goes on around the region. Steps are in samples.
+template <typename S, typename D>
+void correlate(const S* src, ptrdiff_t srcStep, D* dst, ptrdiff_t dstStep, TpxiSize size, int channels,
+               const int* weights, int side, float scale);
+
+} // namespace tpx::model
