@@ -1,7 +1,7 @@
 // tpxiFilterLaplaceBorder, tpxiFilterHipassBorder, tpxiFilterSharpenBorder: what differs from the surroundings,
 // and the image with that added.
 #include "filters/fixed_masks.h"
-#include "frame/simd/through_real.h"
+#include "frame/simd/rounding.h"
 
 namespace tpx {
 namespace {
@@ -24,15 +24,11 @@ struct Whole {
     Several<V32f, 1> operator()(V32f sums) const { return {{sums}}; }
 };
 
-// An eighth, rounded to nearest with ties to even: half of 8 less 1, and 1 more where the quotient is odd.
+// An eighth, rounded to nearest with ties to even.
 struct Eighth {
     template <class V>
-    static V eighth(V x) {
-        using Lane = LaneOf<V>;
-        return (x + splat<V>(Lane(3)) + ((x >> 3) & splat<V>(Lane(1)))) >> 3;
-    }
-    template <class V>
     auto operator()(Pair<V> sums) const {
+        const RoundedShift<tpxRoundNearestEven, V, Headroom::Half> eighth(3);
         return Whole()(Pair<V>{eighth(sums.low), eighth(sums.high)});
     }
     Several<V32f, 1> operator()(V32f sums) const { return {{sums * splat<V32f>(0.125f)}}; }
