@@ -86,6 +86,7 @@ void makeSheet(const Options& options) {
     borders(gallery, source);
     twoImages(gallery, source);
     thresholds(gallery, source);
+    filters(gallery, source);
     measuring(gallery, source);
 
     const Image8u picture = sheet.render();

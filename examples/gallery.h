@@ -83,3 +83,4 @@ void channels(Gallery& gallery, const Image8u& source);
 void borders(Gallery& gallery, const Image8u& source);
 void thresholds(Gallery& gallery, const Image8u& source);
 void measuring(Gallery& gallery, const Image8u& source);
+void filters(Gallery& gallery, const Image8u& source);
