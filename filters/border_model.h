@@ -80,30 +80,79 @@ class Cut {
 
     void strips() {
         if (inMemory_.allInMemory()) return direct(0, 0, call_.roi);
+        const Pieces pieces = cut();
+        const auto buffer = static_cast<S*>(call_.strips);
+        for (int i = 0; i < pieces.count; i++) {
+            const Piece& piece = pieces.at[i];
+            if (piece.isSide)
+                side(piece.x, piece.y, piece.size, buffer);
+            else
+                fromCopy(piece.x, piece.y, piece.size, buffer);
+        }
+        direct(pieces.interior.x, pieces.interior.y, pieces.interior.size);
+    }
+
+    // Source and destination are one image: all strips are copied before anything is written, one behind the
+    // other, and the interior is done before them.
+    void stripsInPlace() {
+        if (inMemory_.allInMemory()) return direct(0, 0, call_.roi);
+        const Pieces pieces = cut();
+        ImageView<S> copies[4];
+        auto buffer = static_cast<S*>(call_.strips);
+        for (int i = 0; i < pieces.count; i++) {
+            const Piece& piece = pieces.at[i];
+            const int64_t width = piece.size.width + call_.mask.width - 1;
+            copies[i] = {buffer, ptrdiff_t(width * N * int64_t(sizeof(S)))};
+            makeCopy(piece.x, piece.y, piece.size, copies[i], width);
+            buffer += width * (piece.size.height + call_.mask.height - 1) * N;
+        }
+        direct(pieces.interior.x, pieces.interior.y, pieces.interior.size);
+        for (int i = 0; i < pieces.count; i++) {
+            const Piece& piece = pieces.at[i];
+            run(copies[i].from(reach_.left * N, reach_.top), piece.x, piece.y, piece.size, 0);
+        }
+    }
+
+ private:
+    struct Piece {
+        int64_t x, y;
+        TpxiSizeL size;
+        bool isSide;
+    };
+    struct Pieces {
+        Piece at[4];
+        int count;
+        Piece interior;
+    };
+    // The strips in their order, and what they leave.
+    Pieces cut() const {
         // Masks with a side of 2 reflect from a strip of two rows or columns.
         const bool mirror = call_.border.kind == Border::Mirror;
+        Pieces pieces{};
         int64_t x0 = 0, y0 = 0, x1 = call_.roi.width, y1 = call_.roi.height;
-        const auto buffer = static_cast<S*>(call_.strips);
+        const auto add = [&](int64_t x, int64_t y, int64_t width, int64_t height, bool isSide) {
+            pieces.at[pieces.count++] = {x, y, {width, height}, isSide};
+        };
         if (!inMemory_.top) {
-            fromCopy(0, 0, {x1, reach_.top}, buffer);
+            add(0, 0, x1, reach_.top, false);
             y0 = reach_.top;
         }
         if (!inMemory_.bottom) {
             y1 -= reach_.bottom + (mirror && call_.mask.height == 2);
-            fromCopy(0, y1, {x1, call_.roi.height - y1}, buffer);
+            add(0, y1, x1, call_.roi.height - y1, false);
         }
         if (!inMemory_.left) {
-            side(0, y0, {reach_.left, y1 - y0}, buffer);
+            add(0, y0, reach_.left, y1 - y0, true);
             x0 = reach_.left;
         }
         if (!inMemory_.right) {
             x1 -= reach_.right + (mirror && call_.mask.width == 2);
-            side(x1, y0, {call_.roi.width - x1, y1 - y0}, buffer);
+            add(x1, y0, call_.roi.width - x1, y1 - y0, true);
         }
-        direct(x0, y0, {x1 - x0, y1 - y0});
+        pieces.interior = {x0, y0, {x1 - x0, y1 - y0}, false};
+        return pieces;
     }
 
- private:
     void run(ImageView<const S> src, int64_t x, int64_t y, TpxiSizeL size, ptrdiff_t slack) {
         if (size.width > 0 && size.height > 0)
             kernel_(Region<S, D>{src, call_.dst.from(x * N, y), size, slack});
@@ -172,6 +221,17 @@ void filterRegion(const FilterCall<S, D>& call, bool byStrips, Kernel kernel) {
     border_model::Cut<N, S, D, Kernel> cut(call, kernel);
     if (byStrips)
         cut.strips();
+    else
+        cut.wholeCopy();
+}
+
+// The same where source and destination are one image, for kernels that take a region of which that is true, as
+// the interior then is. call.strips has room for all strips at a time.
+template <int N, class S, class Kernel>
+void filterRegionInPlace(const FilterCall<S, S>& call, bool byStrips, Kernel kernel) {
+    border_model::Cut<N, S, S, Kernel> cut(call, kernel);
+    if (byStrips)
+        cut.stripsInPlace();
     else
         cut.wholeCopy();
 }

@@ -25,6 +25,7 @@
 #include "tpxi/borders.h"
 #include "tpxi/convert.h"
 #include "tpxi/copy.h"
+#include "tpxi/filters_box.h"
 #include "tpxi/filters_fixed.h"
 #include "tpxi/geometry.h"
 #include "tpxi/statistics.h"

@@ -1,0 +1,408 @@
+// tpxiFilterBoxBorder: the mean over a mask.
+//
+// Sums of columns slide down by one row, those of masks are made of them along the row. In place, finished rows
+// wait in a ring until no window reads the source's row.
+#include "filters/border_model.h"
+#include "filters/box_sums.h"
+#include "frame/entry/entry.h"
+
+namespace tpx {
+namespace {
+
+// ---- Means ------------------------------------------------------------------------------------------------
+
+// Eight sums as floats, of which sumsAt(i) makes a register from the i-th on.
+template <class Sum, class At>
+inline V32f eightFloats(At sumsAt, ptrdiff_t i) {
+    if constexpr (std::is_same_v<Sum, Tpx32f>) {
+        return sumsAt(i);
+    } else if constexpr (std::is_same_v<Sum, Tpx16u>) {
+        const Pair<V32u> wide = widen(sumsAt(i));
+        return toFloat(Pair<V32s>{V32s(wide.low), V32s(wide.high)});
+    } else {
+        return toFloat(Pair<V32s>{sumsAt(i), sumsAt(i + 4)});
+    }
+}
+
+// Times the reciprocal in single precision, to nearest.
+struct ByProduct {
+    V32f reciprocal;
+
+    explicit ByProduct(int64_t samples) : reciprocal(splat<V32f>(1.0f / float(samples))) {}
+
+    template <class D, class Sum, class At>
+    Vec<D> means(At sumsAt, ptrdiff_t i) const {
+        const auto eight = [&](ptrdiff_t at) { return eightFloats<Sum>(sumsAt, at) * reciprocal; };
+        if constexpr (std::is_same_v<D, Tpx32f>)
+            return eight(i);
+        else if constexpr (sizeof(D) == 2)
+            return narrow<D>(toInteger(eight(i)));
+        else
+            return narrow<D>(
+                Pair<V16s>{narrow<Tpx16s>(toInteger(eight(i))), narrow<Tpx16s>(toInteger(eight(i + 8)))});
+    }
+};
+
+// The same means of bytes from sums in 16 bits, in integers: (sum x factor / 2^16 + half) >> shift, that is sum
+// / samples + 1/2 rounded down. With an odd number of samples no quotient is a tie, and the nearest one is 1 /
+// (2 samples) away from it. Both ways stay closer to the quotient q, which is at most 255: the product is off
+// by no more than q 2^-23, and the integers by q |factor samples / 2^(16 + shift) - 1|. The latter is tested.
+struct ByShift {
+    V16u factor, half;
+    int shift = 0;
+    bool isExact = false;
+
+    explicit ByShift(int64_t samples) {
+        if (samples % 2 == 0 || samples < 3 || samples > 257) return;
+        while (samples >> (shift + 1)) shift++;
+        const int64_t one = int64_t(1) << (16 + shift), f = (one + samples / 2) / samples,
+                      off = f * samples > one ? f * samples - one : one - f * samples;
+        isExact = 2 * samples * 255 * off < one;
+        factor = splat<V16u>(Tpx16u(f));
+        half = splat<V16u>(Tpx16u(1 << (shift - 1)));
+    }
+
+    template <class D, class Sum, class At>
+    Vec<D> means(At sumsAt, ptrdiff_t i) const {
+        const auto eight = [&](ptrdiff_t at) {
+            return shiftRight(multiplyHigh(sumsAt(at), factor) + half, shift);
+        };
+        return narrow<D>(Pair<V16u>{eight(i), eight(i + 8)});
+    }
+};
+
+// ---- Regions ----------------------------------------------------------------------------------------------
+
+// The largest magnitude of a sample.
+template <class S>
+constexpr int64_t kLargest = std::is_signed_v<S> ? int64_t(kMax<S>) + 1 : int64_t(kMax<S>);
+
+// What a call keeps in its buffer.
+template <class S>
+struct BoxMemory {
+    void* columns; // sums of all columns of the region and its neighbours, up to 32 bits each
+    ImageView<S> ring;
+};
+
+template <Layout L, class S>
+class BoxKernel {
+    static constexpr int N = channelsOf(L);
+    static constexpr ptrdiff_t kBlock = kLanes<S>;
+
+ public:
+    BoxKernel(TpxiSizeL mask, const BoxMemory<S>& memory)
+        : mask_(mask),
+          reach_(reachOf(mask)),
+          memory_(memory),
+          byProduct_(mask.width * mask.height),
+          byShift_(mask.width * mask.height) {}
+
+    void operator()(const Region<S, S>& region) const {
+        if constexpr (std::is_integral_v<S>) {
+            if (sizeof(S) == 1 && mask_.height * kLargest<S> <= kMax<Tpx16u>)
+                return run<std::conditional_t<sizeof(S) == 1, Tpx16u, Tpx32s>>(region);
+            if (mask_.height * kLargest<S> <= kMax<Tpx32s>) return run<Tpx32s>(region);
+        }
+        run<Tpx32f>(region);
+    }
+
+ private:
+    // Row by row: `Column` holds the sum of a column.
+    template <class Column>
+    void run(const Region<S, S>& region) const {
+        const ptrdiff_t length = ptrdiff_t(region.size.width) * N;
+        const ColumnSums<Column, S> columns(static_cast<Column*>(memory_.columns),
+                                            length + ptrdiff_t(mask_.width - 1) * N);
+        const bool inPlace = region.src.data == region.dst.data;
+        const int64_t rows = region.size.height, held = reach_.top + 1;
+        const auto src = region.src.from(-ptrdiff_t(reach_.left) * N, -ptrdiff_t(reach_.top));
+        for (int64_t y = 0; y < rows; y++) {
+            if (isFormed<Column>(y))
+                columns.form(src.from(0, ptrdiff_t(y)), mask_.height);
+            else
+                columns.slide(src.row(ptrdiff_t(y + mask_.height - 1)), src.row(ptrdiff_t(y - 1)));
+            S* const dst = region.dst.row(ptrdiff_t(y));
+            if (!inPlace) {
+                meansOfRow(columns.data(), length, dst, dst);
+                continue;
+            }
+            S* const slot = memory_.ring.row(ptrdiff_t(y % held));
+            if (y >= held) copyRow(region.dst.row(ptrdiff_t(y - held)), slot, length);
+            meansOfRow(columns.data(), length, slot, dst);
+        }
+        if (inPlace)
+            for (int64_t y = rows > held ? rows - held : 0; y < rows; y++)
+                copyRow(region.dst.row(ptrdiff_t(y)), memory_.ring.row(ptrdiff_t(y % held)), length);
+    }
+
+    // Whether the sums at a row are made anew. Those of floats are, at least every few rows, to be rid of
+    // errors.
+    template <class Column>
+    bool isFormed(int64_t y) const {
+        if constexpr (std::is_same_v<Column, Tpx32f>) {
+            constexpr int64_t kSmallMask = 5, kShortestSlide = 16;
+            if (mask_.height <= kSmallMask) return true;
+            return y % (mask_.height < kShortestSlide ? kShortestSlide : mask_.height) == 0;
+        }
+        return y == 0;
+    }
+
+    static void copyRow(S* dst, const S* src, ptrdiff_t length) {
+        __builtin_memcpy(dst, src, size_t(length) * sizeof(S));
+    }
+
+    // Results go to `dst`, alpha comes from `alpha`.
+    template <class Column>
+    void meansOfRow(const Column* columns, ptrdiff_t length, S* dst, const S* alpha) const {
+        const int64_t samples = mask_.width * mask_.height;
+        if constexpr (std::is_same_v<Column, Tpx16u>) {
+            if (samples * kLargest<S> <= kMax<Tpx16u>) {
+                if (byShift_.isExact) return means<Tpx16u>(columns, length, dst, alpha, byShift_);
+                return means<Tpx16u>(columns, length, dst, alpha, byProduct_);
+            }
+        }
+        if constexpr (std::is_same_v<Column, Tpx32f>) {
+            if (WindowTile<Tpx32f>::canSum(mask_.width, N))
+                return means<Tpx32f>(columns, length, dst, alpha, byProduct_);
+        } else {
+            if (samples * kLargest<S> <= kMax<Tpx32s> && WindowTile<Tpx32s>::canSum(mask_.width, N))
+                return means<Tpx32s>(columns, length, dst, alpha, byProduct_);
+        }
+        slidingMeans(columns, length, dst, alpha);
+    }
+
+    template <class Sum, class Column, class Mean>
+    void means(const Column* columns, ptrdiff_t length, S* dst, const S* alpha, const Mean& mean) const {
+        if (mask_.width == 1) return meansOfTaps<Sum, 1>(columns, length, dst, alpha, mean);
+        if (mask_.width == 3) return meansOfTaps<Sum, 3>(columns, length, dst, alpha, mean);
+        if (mask_.width == 5) return meansOfTaps<Sum, 5>(columns, length, dst, alpha, mean);
+        meansOfTiles<Sum>(columns, length, dst, alpha, mean);
+    }
+
+    template <class Sum, int Taps, class Column, class Mean>
+    static void meansOfTaps(const Column* columns, ptrdiff_t length, S* dst, const S* alpha, const Mean& mean) {
+        const auto putFrom = [&](const Column* from) {
+            put<Sum>(
+                [&](ptrdiff_t i) {
+                    Vec<Sum> sum = sumsFrom<Sum>(from + i);
+                    for (int k = 1; k < Taps; k++) sum += sumsFrom<Sum>(from + i + k * N);
+                    return sum;
+                },
+                length, dst, alpha, mean);
+        };
+        if (length >= kBlock) return putFrom(columns);
+        constexpr ptrdiff_t kReach = (Taps - 1) * N;
+        Column padded[2 * kBlock + kReach] = {};
+        copyBlock(padded, columns, (length + kReach) * ptrdiff_t(sizeof(Column)));
+        putFrom(padded);
+    }
+
+    template <class Sum, class Column, class Mean>
+    [[gnu::noinline]] void meansOfTiles(const Column* columns, ptrdiff_t length, S* dst, const S* alpha,
+                                        const Mean& mean) const {
+        WindowTile<Sum> tile;
+        forTiles<WindowTile<Sum>::kLength>(length, [&](ptrdiff_t x, ptrdiff_t part) {
+            tile.sum(columns + x, part, mask_.width, N);
+            put<Sum>([&](ptrdiff_t i) { return load(tile.sums + i); }, part, dst + x, alpha + x, mean);
+        });
+    }
+
+    template <class Column>
+    [[gnu::noinline]] void slidingMeans(const Column* columns, ptrdiff_t length, S* dst, const S* alpha) const {
+        SlidingWindow<Column> window(columns, length, mask_.width, N);
+        constexpr ptrdiff_t kTile = 240; // whole pixels
+        Tpx32f sums[kTile + 16] = {};
+        forTiles<kTile>(length, [&](ptrdiff_t x, ptrdiff_t part) {
+            window.next(sums, part);
+            put<Tpx32f>([&](ptrdiff_t i) { return load(sums + i); }, part, dst + x, alpha + x, byProduct_);
+        });
+    }
+
+    template <ptrdiff_t Tile, class Body>
+    static void forTiles(ptrdiff_t length, Body body) {
+        // A tile is of whole pixels.
+        constexpr ptrdiff_t kTile = Tile / N * N;
+        for (ptrdiff_t x = 0; x < length; x += kTile) body(x, length - x < kTile ? length - x : kTile);
+    }
+
+    // Sums, of which sumsAt(i) makes a register from the i-th on and which may be taken up to a block's end, to
+    // means.
+    template <class Sum, class At, class Mean>
+    static void put(At sumsAt, ptrdiff_t length, S* dst, const S* alpha, const Mean& mean) {
+        const auto at = [&](ptrdiff_t i) { return mean.template means<S, Sum>(sumsAt, i); };
+        if (length < kBlock) {
+            const Vec<S> block = at(0);
+            if constexpr (L == Layout::AC4) {
+                const Vec<S> all = keepAlpha<S>(loadShort(alpha, length), block);
+                copyShort(dst, &all, length * ptrdiff_t(sizeof(S)));
+            } else {
+                copyShort(dst, &block, length * ptrdiff_t(sizeof(S)));
+            }
+            return;
+        }
+        const auto one = [&](ptrdiff_t i) {
+            if constexpr (L == Layout::AC4)
+                store(dst + i, keepAlpha<S>(load(alpha + i), at(i)));
+            else
+                store(dst + i, at(i));
+        };
+        ptrdiff_t i = 0;
+        for (; i + kBlock <= length; i += kBlock) one(i);
+        if (i < length) one(length - kBlock);
+    }
+
+    TpxiSizeL mask_;
+    Reach reach_;
+    BoxMemory<S> memory_;
+    ByProduct byProduct_;
+    ByShift byShift_;
+};
+
+// ---- Work buffers -----------------------------------------------------------------------------------------
+
+// Sizes of areas, as far as they can be told: what is past any buffer stays there.
+constexpr int64_t kPastAll = int64_t(1) << 48;
+constexpr int64_t product(int64_t a, int64_t b) {
+    int64_t p = 0;
+    return __builtin_mul_overflow(a, b, &p) || p > kPastAll ? kPastAll : p;
+}
+
+// The areas of the buffer, whose sizes are contract: strips, sums of columns, a ring of rows and its pointers.
+struct BoxAreas {
+    int64_t strips, columns, ring, pointers;
+    int64_t all() const { return strips + columns + ring + pointers; }
+};
+
+template <int SampleBytes>
+constexpr int64_t ringStep(TpxiSizeL roi, int N) {
+    return int64_t(roundUp(uint64_t(roi.width * N * SampleBytes), 32));
+}
+
+template <int SampleBytes, bool Floats>
+constexpr BoxAreas boxAreas(TpxiSizeL roi, TpxiSizeL mask, int N) {
+    const Reach reach = reachOf(mask);
+    const int64_t width = roi.width + mask.width - 1, height = roi.height + mask.height - 1;
+    BoxAreas areas{};
+    areas.ring = product(reach.top + 1, ringStep<SampleBytes>(roi, N)) + 64;
+    areas.pointers = 8 * reach.top + 8;
+    if (2 * mask.width <= roi.width && 2 * mask.height <= roi.height) {
+        if (Floats && N == 1) {
+            areas.pointers = 0;
+            areas.ring = product(4 * mask.height, int64_t(roundUp(uint64_t(roi.width), 8))) + 64;
+        }
+    } else if (const int64_t whole = product(width, height) * SampleBytes * N; whole > areas.ring) {
+        areas.ring = whole;
+    }
+    const int64_t across = product(width, mask.height - 1 + reach.bottom),
+                  along = product(height, mask.width - 1 + reach.right);
+    areas.strips =
+        4 * N * (2 * across + (mask.height == 2 ? width : 0) + 2 * along + (mask.width == 2 ? height : 0));
+    const int64_t columns = mask.width + roi.width + 3;
+    if (N > 1)
+        areas.columns = 16 * columns;
+    else if (SampleBytes != 2)
+        areas.columns = 4 * columns;
+    else if (mask.width == 3 && mask.height == 3)
+        areas.columns = ((8 * roi.width + 62) & ~int64_t(63)) + 64;
+    else if (mask.width == 5 && mask.height == 5)
+        areas.columns = ((16 * roi.width + 124) & ~int64_t(127)) + 64;
+    else
+        areas.columns = 4 * (columns + mask.width + roi.width) + 140;
+    return areas;
+}
+
+template <class S>
+constexpr BoxAreas boxAreasOf(TpxiSizeL roi, TpxiSizeL mask, int N) {
+    return boxAreas<int(sizeof(S)), std::is_floating_point_v<S>>(roi, mask, N);
+}
+
+TpxStatus boxBufferSize(TpxiSizeL roi, TpxiSizeL mask, TpxDataType type, int N, int* pBufferSize) {
+    if (anyNull(pBufferSize)) return tpxErrNullPointer;
+    if (isEmpty(roi)) return tpxErrSize;
+    if (isEmpty(mask)) return tpxErrMaskSize;
+    const auto areasOf = type == tpxDataType8u                              ? boxAreasOf<Tpx8u>
+                         : type == tpxDataType16u || type == tpxDataType16s ? boxAreasOf<Tpx16u>
+                         : type == tpxDataType32f                           ? boxAreasOf<Tpx32f>
+                                                                            : nullptr;
+    if (areasOf == nullptr) return tpxErrDataType;
+    if (N != 1 && N != 3 && N != 4) return tpxErrChannelCount;
+    const int64_t bytes = areasOf(roi, mask, N).all();
+    if (bytes > int64_t(kLongestBlock)) return tpxErrSizeTooLarge;
+    *pBufferSize = int(bytes);
+    return tpxOk;
+}
+
+// ---- Calls ------------------------------------------------------------------------------------------------
+
+template <class S>
+struct BoxCall {
+    ImageView<const S> src;
+    ImageView<S> dst;
+    TpxiSizeL roi, mask;
+    TpxBorderType border;
+    const S* value;
+    Tpx8u* buffer;
+};
+
+template <class S>
+TpxStatus checkBox(const BoxCall<S>& call, BorderWord border) {
+    if (anyNull(call.src.data) || anyNull(call.dst.data, call.buffer)) return tpxErrNullPointer;
+    if (call.src.step < 1 || call.dst.step < 1) return tpxErrStep;
+    if (isEmpty(call.roi)) return tpxErrSize;
+    if (isEmpty(call.mask)) return tpxErrMaskSize;
+    if (!border.valid) return tpxErrBorder;
+    return border.kind == Border::Const && anyNull(call.value) ? tpxErrNullPointer : tpxOk;
+}
+
+template <Layout L, class S>
+TpxStatus boxFilter(const BoxCall<S>& call) {
+    constexpr int N = channelsOf(L);
+    const BorderWord border = readFilterBorder(call.border);
+    if (const TpxStatus status = checkBox(call, border); status != tpxOk) return status;
+
+    // The sums of columns come first, then the strips; the whole copy of a small region may go on into the
+    // ring.
+    const BoxAreas areas = boxAreasOf<S>(call.roi, call.mask, N);
+    Tpx8u* const strips = call.buffer + areas.columns;
+    S* const ring = reinterpret_cast<S*>(alignUp(strips + areas.strips));
+    S value[N] = {};
+    if (border.kind == Border::Const)
+        for (int c = 0; c < coloursOf(L); c++) value[c] = peek(call.value + c);
+    const FilterCall<S, S> filter = {call.src, call.dst, call.roi, call.mask, border, value, strips};
+    const BoxKernel<L, S> kernel(call.mask,
+                                 {call.buffer, {ring, ptrdiff_t(ringStep<int(sizeof(S))>(call.roi, N))}});
+    const bool byStrips = isSmallerThanRegion(call.mask, call.roi);
+    if (call.src.data == call.dst.data)
+        filterRegionInPlace<N>(filter, byStrips, kernel);
+    else
+        filterRegion<N>(filter, byStrips, kernel);
+    return tpxOk;
+}
+
+} // namespace
+} // namespace tpx
+
+using namespace tpx;
+
+// ---- Entries ----------------------------------------------------------------------------------------------
+
+TPX_ENTRY(tpxiFilterBoxBorderGetBufferSize)
+(TpxiSize roiSize, TpxiSize maskSize, TpxDataType dataType, int numChannels, int* pBufferSize) {
+    return boxBufferSize(wide(roiSize), wide(maskSize), dataType, numChannels, pBufferSize);
+}
+
+#define TPX_BOX(T, L)                                                                                         \
+    TPX_ENTRY(tpxiFilterBoxBorder_##T##_##L##R)                                                               \
+    (const Tpx##T* pSrc, int srcStep, Tpx##T* pDst, int dstStep, TpxiSize roiSize, TpxiSize maskSize,         \
+     TpxBorderType border, const Tpx##T* pBorderValue, Tpx8u* pBuffer) {                                      \
+        return boxFilter<Layout::L>(BoxCall<Tpx##T>{                                                          \
+            {pSrc, srcStep}, {pDst, dstStep}, wide(roiSize), wide(maskSize), border, pBorderValue, pBuffer}); \
+    }
+#define TPX_BOX_LAYOUTS(T) TPX_BOX(T, C1) TPX_BOX(T, C3) TPX_BOX(T, C4) TPX_BOX(T, AC4)
+
+TPX_BOX_LAYOUTS(8u)
+TPX_BOX_LAYOUTS(16u)
+TPX_BOX_LAYOUTS(16s)
+TPX_BOX_LAYOUTS(32f)
+#undef TPX_BOX
+#undef TPX_BOX_LAYOUTS

@@ -1,0 +1,141 @@
+// Sums of neighbouring samples at a cost that does not grow with their number: of columns, slid down row by
+// row, and along rows by doubling.
+#pragma once
+
+#include "frame/images/view.h"
+#include "frame/runs/runs.h"
+
+namespace tpx {
+
+// As many sums as a register holds, from samples or from narrower sums.
+template <class Sum, class From>
+inline Vec<Sum> sumsFrom(const From* p) {
+    if constexpr (std::is_same_v<Sum, From>)
+        return load(p);
+    else
+        return loadAs<Sum>(p);
+}
+
+// ---- Columns ----------------------------------------------------------------------------------------------
+
+// Over some rows of samples, for a run of columns. `sums` lies at any address.
+template <class Sum, class S>
+class ColumnSums {
+ public:
+    ColumnSums(Sum* sums, ptrdiff_t length) : sums_(sums), length_(length) {}
+
+    const Sum* data() const { return sums_; }
+
+    // Over `rows` rows from the view's first on.
+    void form(ImageView<const S> src, int64_t rows) const {
+        if (rows == 3) return formOf<3>(src);
+        if (rows == 5) return formOf<5>(src);
+        formOf<1>(src);
+        for (int64_t y = 1; y < rows; y++) add(src.row(y));
+    }
+    // One row down.
+    void slide(const S* enters, const S* leaves) const {
+        update([](Vec<Sum> sum, Vec<Sum> in, Vec<Sum> out) { return sum + (in - out); }, enters, leaves);
+    }
+
+ private:
+    template <int Rows>
+    void formOf(ImageView<const S> src) const {
+        const S* rows[Rows];
+        for (int y = 0; y < Rows; y++) rows[y] = src.row(y);
+        const auto sumAt = [&](auto from) {
+            Vec<Sum> sum = from(rows[0]);
+            for (int y = 1; y < Rows; y++) sum += from(rows[y]);
+            return sum;
+        };
+        writeRun(
+            sums_, length_, 0,
+            [&](ptrdiff_t i) { return sumAt([&](const S* row) { return sumsFrom<Sum>(row + i); }); },
+            [&] { return sumAt([&](const S* row) { return shortSums(row); }); });
+    }
+    void add(const S* row) const {
+        update([](Vec<Sum> sum, Vec<Sum> in) { return sum + in; }, row);
+    }
+
+    template <class Rule, class... Row>
+    void update(Rule rule, const Row*... rows) const {
+        writeRun(
+            sums_, length_, 0, [&](ptrdiff_t i) { return rule(load(sums_ + i), sumsFrom<Sum>(rows + i)...); },
+            [&] { return rule(loadShort(sums_, length_), shortSums(rows)...); });
+    }
+    Vec<Sum> shortSums(const S* row) const {
+        return convertShort<Sum>(row, length_, [](const S* p) { return sumsFrom<Sum>(p); });
+    }
+
+    Sum* sums_;
+    ptrdiff_t length_;
+};
+
+// ---- Along rows -------------------------------------------------------------------------------------------
+
+// The sums of `count` entries N apart, for a stretch of a row at a time. Sums of 1, 2, 4, ... entries are made
+// one from the other, and those that `count` is made up of are added: nothing is ever subtracted, so floats
+// keep no trace of what has left the window.
+template <class Sum>
+struct WindowTile {
+    static constexpr ptrdiff_t kLength = 1024, kReach = 3072;
+    alignas(64) Sum sums[kLength + kLanes<Sum>];
+    alignas(64) Sum powers[kLength + kReach + 2 * kLanes<Sum>];
+
+    // Whether the neighbours of a tile have room.
+    static bool canSum(int64_t count, int N) { return (count - 1) * N <= kReach; }
+
+    template <class From>
+    void sum(const From* from, ptrdiff_t length, int64_t count, int N) {
+        constexpr ptrdiff_t L = kLanes<Sum>;
+        const ptrdiff_t all = length + ptrdiff_t(count - 1) * N;
+        convertRun(from, powers, all, [](const From* p) { return sumsFrom<Sum>(p); });
+        store(powers + all, Vec<Sum>{}); // registers are whole
+        int64_t summed = 0;
+        for (int64_t width = 1;; width *= 2) { // powers[i] is the sum of so many entries
+            if (count & width) {
+                const Sum* const at = powers + ptrdiff_t(summed) * N;
+                if (summed == 0)
+                    for (ptrdiff_t i = 0; i < length; i += L) store(sums + i, load(at + i));
+                else
+                    for (ptrdiff_t i = 0; i < length; i += L) store(sums + i, load(sums + i) + load(at + i));
+                summed += width;
+            }
+            if (summed == count) return;
+            const ptrdiff_t end = length + ptrdiff_t(count - 2 * width) * N, apart = ptrdiff_t(width) * N;
+            for (ptrdiff_t i = 0; i < end; i += L)
+                store(powers + i, load(powers + i) + load(powers + i + apart));
+        }
+    }
+};
+
+// The same for any count, one entry after the other in double precision, which holds every sum of integers
+// that can occur.
+template <class From>
+class SlidingWindow {
+ public:
+    // The row has `length` results, so length + (count - 1) N entries.
+    SlidingWindow(const From* from, ptrdiff_t length, int64_t count, int N)
+        : from_(from), reach_(ptrdiff_t(count) * N), end_(length), N_(N) {
+        for (ptrdiff_t i = 0; i < reach_; i++) sums_[i % N] += double(peek(from + i));
+    }
+    // The next results.
+    void next(Tpx32f* sums, ptrdiff_t length) {
+        for (ptrdiff_t k = 0; k < length; k++, i_++) {
+            double& sum = sums_[channel_];
+            sums[k] = Tpx32f(sum);
+            if (i_ + N_ < end_) sum += double(peek(from_ + i_ + reach_)) - double(peek(from_ + i_));
+            if (++channel_ == N_) channel_ = 0;
+        }
+    }
+
+ private:
+    const From* from_;
+    ptrdiff_t reach_, end_;
+    int N_;
+    ptrdiff_t i_ = 0;
+    int channel_ = 0;
+    double sums_[4] = {};
+};
+
+} // namespace tpx
