@@ -71,6 +71,25 @@ struct ByShift {
     }
 };
 
+// The same in one multiplication, sum x factor / 2^15 rounded, for a few small numbers of samples.
+struct ByRounding {
+    V16s factor;
+    bool isExact = false;
+
+    explicit ByRounding(int64_t samples) {
+        const int64_t one = 1 << 15, f = (one + samples / 2) / samples,
+                      off = f * samples > one ? f * samples - one : one - f * samples;
+        isExact = samples % 2 == 1 && samples >= 3 && samples <= 128 && 2 * samples * 255 * off < one;
+        factor = splat<V16s>(Tpx16s(f));
+    }
+
+    template <class D, class Sum, class At>
+    Vec<D> means(At sumsAt, ptrdiff_t i) const {
+        const auto eight = [&](ptrdiff_t at) { return multiplyRounded(V16s(sumsAt(at)), factor); };
+        return narrow<D>(Pair<V16s>{eight(i), eight(i + 8)});
+    }
+};
+
 // ---- Regions ----------------------------------------------------------------------------------------------
 
 // The largest magnitude of a sample.
@@ -81,6 +100,7 @@ constexpr int64_t kLargest = std::is_signed_v<S> ? int64_t(kMax<S>) + 1 : int64_
 template <class S>
 struct BoxMemory {
     void* columns; // sums of all columns of the region and its neighbours, up to 32 bits each
+    ptrdiff_t columnBytes;
     ImageView<S> ring;
 };
 
@@ -95,7 +115,8 @@ class BoxKernel {
           reach_(reachOf(mask)),
           memory_(memory),
           byProduct_(mask.width * mask.height),
-          byShift_(mask.width * mask.height) {}
+          byShift_(mask.width * mask.height),
+          byRounding_(mask.width * mask.height) {}
 
     void operator()(const Region<S, S>& region) const {
         if constexpr (std::is_integral_v<S>) {
@@ -111,8 +132,13 @@ class BoxKernel {
     template <class Column>
     void run(const Region<S, S>& region) const {
         const ptrdiff_t length = ptrdiff_t(region.size.width) * N;
-        const ColumnSums<Column, S> columns(static_cast<Column*>(memory_.columns),
-                                            length + ptrdiff_t(mask_.width - 1) * N);
+        ptrdiff_t count = length + ptrdiff_t(mask_.width - 1) * N;
+        // Narrow strips are worked on by whole registers.
+        if (const ptrdiff_t whole = ptrdiff_t(roundUp(uint64_t(count), uint64_t(kBlock)));
+            (whole - count) * ptrdiff_t(sizeof(S)) <= region.slack &&
+            whole * ptrdiff_t(sizeof(Column)) <= memory_.columnBytes)
+            count = whole;
+        const ColumnSums<Column, S> columns(static_cast<Column*>(memory_.columns), count);
         const bool inPlace = region.src.data == region.dst.data;
         const int64_t rows = region.size.height, held = reach_.top + 1;
         const auto src = region.src.from(-ptrdiff_t(reach_.left) * N, -ptrdiff_t(reach_.top));
@@ -157,6 +183,7 @@ class BoxKernel {
         const int64_t samples = mask_.width * mask_.height;
         if constexpr (std::is_same_v<Column, Tpx16u>) {
             if (samples * kLargest<S> <= kMax<Tpx16u>) {
+                if (byRounding_.isExact) return means<Tpx16u>(columns, length, dst, alpha, byRounding_);
                 if (byShift_.isExact) return means<Tpx16u>(columns, length, dst, alpha, byShift_);
                 return means<Tpx16u>(columns, length, dst, alpha, byProduct_);
             }
@@ -165,7 +192,7 @@ class BoxKernel {
             if (WindowTile<Tpx32f>::canSum(mask_.width, N))
                 return means<Tpx32f>(columns, length, dst, alpha, byProduct_);
         } else {
-            if (samples * kLargest<S> <= kMax<Tpx32s> && WindowTile<Tpx32s>::canSum(mask_.width, N))
+            if (samples * kLargest<S> <= kMax<Tpx32s>)
                 return means<Tpx32s>(columns, length, dst, alpha, byProduct_);
         }
         slidingMeans(columns, length, dst, alpha);
@@ -181,30 +208,34 @@ class BoxKernel {
 
     template <class Sum, int Taps, class Column, class Mean>
     static void meansOfTaps(const Column* columns, ptrdiff_t length, S* dst, const S* alpha, const Mean& mean) {
-        const auto putFrom = [&](const Column* from) {
-            put<Sum>(
-                [&](ptrdiff_t i) {
-                    Vec<Sum> sum = sumsFrom<Sum>(from + i);
-                    for (int k = 1; k < Taps; k++) sum += sumsFrom<Sum>(from + i + k * N);
-                    return sum;
-                },
-                length, dst, alpha, mean);
-        };
-        if (length >= kBlock) return putFrom(columns);
-        constexpr ptrdiff_t kReach = (Taps - 1) * N;
-        Column padded[2 * kBlock + kReach] = {};
-        copyBlock(padded, columns, (length + kReach) * ptrdiff_t(sizeof(Column)));
-        putFrom(padded);
+        // A row shorter than a block reads on behind the columns, in the buffer.
+        put<Sum>(
+            [&](ptrdiff_t i) {
+                Vec<Sum> sum = sumsFrom<Sum>(columns + i);
+                for (int k = 1; k < Taps; k++) sum += sumsFrom<Sum>(columns + i + k * N);
+                return sum;
+            },
+            length, dst, alpha, mean);
     }
 
     template <class Sum, class Column, class Mean>
     [[gnu::noinline]] void meansOfTiles(const Column* columns, ptrdiff_t length, S* dst, const S* alpha,
                                         const Mean& mean) const {
-        WindowTile<Sum> tile;
-        forTiles<WindowTile<Sum>::kLength>(length, [&](ptrdiff_t x, ptrdiff_t part) {
-            tile.sum(columns + x, part, mask_.width, N);
-            put<Sum>([&](ptrdiff_t i) { return load(tile.sums + i); }, part, dst + x, alpha + x, mean);
-        });
+        if constexpr (std::is_integral_v<Sum>) {
+            using Window = IntegerWindow<Sum, N, Column>;
+            Window window(columns, mask_.width);
+            alignas(64) Sum sums[Window::kRoom];
+            forTiles<Window::kTile>(length, [&](ptrdiff_t x, ptrdiff_t part) {
+                window.next(sums, part);
+                put<Sum>([&](ptrdiff_t i) { return load(sums + i); }, part, dst + x, alpha + x, mean);
+            });
+        } else {
+            WindowTile<Sum> tile;
+            forTiles<WindowTile<Sum>::kLength>(length, [&](ptrdiff_t x, ptrdiff_t part) {
+                tile.sum(columns + x, part, mask_.width, N);
+                put<Sum>([&](ptrdiff_t i) { return load(tile.sums + i); }, part, dst + x, alpha + x, mean);
+            });
+        }
     }
 
     template <class Column>
@@ -256,6 +287,7 @@ class BoxKernel {
     BoxMemory<S> memory_;
     ByProduct byProduct_;
     ByShift byShift_;
+    ByRounding byRounding_;
 };
 
 // ---- Work buffers -----------------------------------------------------------------------------------------
@@ -369,8 +401,9 @@ TpxStatus boxFilter(const BoxCall<S>& call) {
     if (border.kind == Border::Const)
         for (int c = 0; c < coloursOf(L); c++) value[c] = peek(call.value + c);
     const FilterCall<S, S> filter = {call.src, call.dst, call.roi, call.mask, border, value, strips};
-    const BoxKernel<L, S> kernel(call.mask,
-                                 {call.buffer, {ring, ptrdiff_t(ringStep<int(sizeof(S))>(call.roi, N))}});
+    const BoxKernel<L, S> kernel(
+        call.mask,
+        {call.buffer, ptrdiff_t(areas.columns), {ring, ptrdiff_t(ringStep<int(sizeof(S))>(call.roi, N))}});
     const bool byStrips = isSmallerThanRegion(call.mask, call.roi);
     if (call.src.data == call.dst.data)
         filterRegionInPlace<N>(filter, byStrips, kernel);

@@ -35,6 +35,9 @@ class ColumnSums {
     }
     // One row down.
     void slide(const S* enters, const S* leaves) const {
+        if constexpr (kInPairs) {
+            if (length_ >= kLanes<S>) return slidePairs(enters, leaves);
+        }
         update([](Vec<Sum> sum, Vec<Sum> in, Vec<Sum> out) { return sum + (in - out); }, enters, leaves);
     }
 
@@ -63,6 +66,37 @@ class ColumnSums {
             sums_, length_, 0, [&](ptrdiff_t i) { return rule(load(sums_ + i), sumsFrom<Sum>(rows + i)...); },
             [&] { return rule(loadShort(sums_, length_), shortSums(rows)...); });
     }
+    // Sums of twice the samples' width: two registers at a time, whose differences are sums of pairs.
+    static constexpr bool kInPairs = std::is_integral_v<Sum> && sizeof(Sum) == 2 * sizeof(S);
+    static auto differences(Vec<S> in, Vec<S> out) {
+        if constexpr (sizeof(S) == 1) {
+            const V8s signs = V8s(splat<V16s>(Tpx16s(0xFF01)));
+            return Pair<V16s>{multiplyAddPairs(interleaveLow(in, out), signs),
+                              multiplyAddPairs(interleaveHigh(in, out), signs)};
+        } else {
+            const V16s signs = V16s(splat<V32s>(Tpx32s(0xFFFF0001)));
+            // Both lower by half of the range, unsigned samples have the same difference as signed ones.
+            const V16s low = splat<V16s>(std::is_signed_v<S> ? Tpx16s(0) : kMin<Tpx16s>);
+            const V16s a = V16s(in) ^ low, b = V16s(out) ^ low;
+            return Pair<V32s>{multiplyAddPairs(interleaveLow(a, b), signs),
+                              multiplyAddPairs(interleaveHigh(a, b), signs)};
+        }
+    }
+    void slidePairs(const S* enters, const S* leaves) const {
+        constexpr ptrdiff_t kBlock = kLanes<S>, L = kLanes<Sum>;
+        const auto at = [&](ptrdiff_t i) {
+            const auto by = differences(load(enters + i), load(leaves + i));
+            return Pair<Vec<Sum>>{load(sums_ + i) + Vec<Sum>(by.low), load(sums_ + i + L) + Vec<Sum>(by.high)};
+        };
+        const auto put = [&](ptrdiff_t i, Pair<Vec<Sum>> sums) {
+            store(sums_ + i, sums.low);
+            store(sums_ + i + L, sums.high);
+        };
+        const Pair<Vec<Sum>> tail = at(length_ - kBlock); // before the others are stored
+        for (ptrdiff_t i = 0; i + kBlock <= length_; i += kBlock) put(i, at(i));
+        put(length_ - kBlock, tail);
+    }
+
     Vec<Sum> shortSums(const S* row) const {
         return convertShort<Sum>(row, length_, [](const S* p) { return sumsFrom<Sum>(p); });
     }
@@ -107,6 +141,66 @@ struct WindowTile {
                 store(powers + i, load(powers + i) + load(powers + i + apart));
         }
     }
+};
+
+// The lanes K places higher, zeros below.
+template <int K, class V>
+inline V lanesUp(V a) {
+    return V(_mm_slli_si128(__m128i(a), K * int(sizeof(LaneOf<V>))));
+}
+
+// Exact sums of integers along a row of `count` entries N apart: what enters and what leaves the window are
+// gathered from the row's start on, for any count. Up to 16 bytes behind the last entry are read, and left
+// alone.
+template <class Sum, int N, class From>
+class IntegerWindow {
+    static constexpr ptrdiff_t L = kLanes<Sum>;
+
+ public:
+    static constexpr ptrdiff_t kTile = 1024 / N / L * N * L; // whole pixels, whole registers
+    static constexpr ptrdiff_t kRoom = kTile + 2 * L;        // what next() writes
+
+    IntegerWindow(const From* from, int64_t count) : from_(from), reach_(ptrdiff_t(count) * N) {
+        if constexpr (N == 1) {
+            Sum sum = 0;
+            for (ptrdiff_t i = 0; i < reach_; i++) sum = Sum(sum + Sum(peek(from + i)));
+            sum_ = splat<Vec<Sum>>(sum);
+        } else {
+            for (ptrdiff_t i = 0; i < reach_; i += N) sum_ += sumsFrom<Sum>(from + i);
+        }
+    }
+
+    // The next results, a tile but for the last.
+    void next(Sum* sums, ptrdiff_t length) {
+        if constexpr (N == 1) {
+            constexpr V8u kLast = sizeof(Sum) == 2
+                                      ? V8u{14, 15, 14, 15, 14, 15, 14, 15, 14, 15, 14, 15, 14, 15, 14, 15}
+                                      : V8u{12, 13, 14, 15, 12, 13, 14, 15, 12, 13, 14, 15, 12, 13, 14, 15};
+            sums[0] = sum_[0];
+            for (ptrdiff_t i = 0; i < length; i += L) {
+                Vec<Sum> by = change(i);
+                by += lanesUp<1>(by);
+                by += lanesUp<2>(by);
+                if constexpr (L == 8) by += lanesUp<4>(by);
+                const Vec<Sum> next = sum_ + by;
+                store(sums + i + 1, next);
+                sum_ = Vec<Sum>(shuffleBytes(V8u(next), kLast));
+            }
+        } else { // a pixel at a time; what lies behind it is overwritten by the next
+            for (ptrdiff_t i = 0; i < length; i += N) {
+                store(sums + i, sum_);
+                sum_ += change(i);
+            }
+        }
+        from_ += length;
+    }
+
+ private:
+    Vec<Sum> change(ptrdiff_t i) const { return sumsFrom<Sum>(from_ + i + reach_) - sumsFrom<Sum>(from_ + i); }
+
+    const From* from_;
+    ptrdiff_t reach_;
+    Vec<Sum> sum_{};
 };
 
 // The same for any count, one entry after the other in double precision, which holds every sum of integers
