@@ -13,7 +13,7 @@ namespace {
 
 // Eight sums as floats, of which sumsAt(i) makes a register from the i-th on.
 template <class Sum, class At>
-inline V32f eightFloats(At sumsAt, ptrdiff_t i) {
+[[gnu::always_inline]] inline V32f eightFloats(At sumsAt, ptrdiff_t i) {
     if constexpr (std::is_same_v<Sum, Tpx32f>) {
         return sumsAt(i);
     } else if constexpr (std::is_same_v<Sum, Tpx16u>) {
@@ -31,7 +31,7 @@ struct ByProduct {
     explicit ByProduct(int64_t samples) : reciprocal(splat<V32f>(1.0f / float(samples))) {}
 
     template <class D, class Sum, class At>
-    Vec<D> means(At sumsAt, ptrdiff_t i) const {
+    [[gnu::always_inline]] Vec<D> means(At sumsAt, ptrdiff_t i) const {
         const auto eight = [&](ptrdiff_t at) { return eightFloats<Sum>(sumsAt, at) * reciprocal; };
         if constexpr (std::is_same_v<D, Tpx32f>)
             return eight(i);
@@ -63,7 +63,7 @@ struct ByShift {
     }
 
     template <class D, class Sum, class At>
-    Vec<D> means(At sumsAt, ptrdiff_t i) const {
+    [[gnu::always_inline]] Vec<D> means(At sumsAt, ptrdiff_t i) const {
         const auto eight = [&](ptrdiff_t at) {
             return shiftRight(multiplyHigh(sumsAt(at), factor) + half, shift);
         };
@@ -84,7 +84,7 @@ struct ByRounding {
     }
 
     template <class D, class Sum, class At>
-    Vec<D> means(At sumsAt, ptrdiff_t i) const {
+    [[gnu::always_inline]] Vec<D> means(At sumsAt, ptrdiff_t i) const {
         const auto eight = [&](ptrdiff_t at) { return multiplyRounded(V16s(sumsAt(at)), factor); };
         return narrow<D>(Pair<V16s>{eight(i), eight(i + 8)});
     }
@@ -104,6 +104,55 @@ struct BoxMemory {
     ImageView<S> ring;
 };
 
+// Means of 3x3 bytes of one channel, without sums of columns: a row's sums of three are shared by the output
+// rows above and below, for a few rows at a time.
+struct RowOfThrees {
+    V16s even, odd; // those centred on the bytes of even number, and of odd
+
+    // Of 16 bytes, whose neighbours begin at p.
+    explicit RowOfThrees(const Tpx8u* p) {
+        const V16u last = V16u(load(p + 2));
+        even = addPairs(load(p)) + V16s(last & splat<V16u>(0xFF));
+        odd = addPairs(load(p + 1)) + V16s(last >> 8);
+    }
+};
+
+inline void meansOf3x3(const Region<Tpx8u, Tpx8u>& region, V16s factor) {
+    constexpr ptrdiff_t kBlock = kLanes<Tpx8u>;
+    constexpr int64_t kBand = 8;
+    const ptrdiff_t width = ptrdiff_t(region.size.width);
+    const auto src = region.src.from(-1, -1);
+    for (int64_t y = 0; y < region.size.height; y += kBand) {
+        const int64_t left = region.size.height - y, rows = left < kBand ? left : kBand;
+        const auto column = [&](ptrdiff_t x, auto put) {
+            const Tpx8u* from = src.from(x, ptrdiff_t(y)).data;
+            Tpx8u* to = region.dst.from(x, ptrdiff_t(y)).data;
+            const RowOfThrees first(from);
+            from = addBytes(from, src.step);
+            RowOfThrees above(from);
+            V16s even = first.even + above.even, odd = first.odd + above.odd; // of two rows
+            for (int64_t row = 0; row < rows; row++) {
+                from = addBytes(from, src.step);
+                const RowOfThrees below(from);
+                const V16s evenMeans = multiplyRounded(even + below.even, factor),
+                           oddMeans = multiplyRounded(odd + below.odd, factor);
+                put(to, V8u(evenMeans | oddMeans << 8));
+                even = above.even + below.even;
+                odd = above.odd + below.odd;
+                above = below;
+                to = addBytes(to, region.dst.step);
+            }
+        };
+        const auto whole = [](Tpx8u* to, V8u means) { store(to, means); };
+        if (width < kBlock) {
+            column(0, [&](Tpx8u* to, V8u means) { copyShort(to, &means, width); });
+            continue;
+        }
+        for (ptrdiff_t x = 0; x + kBlock <= width; x += kBlock) column(x, whole);
+        if (width % kBlock) column(width - kBlock, whole);
+    }
+}
+
 template <Layout L, class S>
 class BoxKernel {
     static constexpr int N = channelsOf(L);
@@ -119,6 +168,11 @@ class BoxKernel {
           byRounding_(mask.width * mask.height) {}
 
     void operator()(const Region<S, S>& region) const {
+        if constexpr (L == Layout::C1 && sizeof(S) == 1) {
+            if (mask_.width == 3 && mask_.height == 3 && region.src.data != region.dst.data &&
+                (region.size.width >= kBlock || region.slack >= kBlock))
+                return meansOf3x3(region, byRounding_.factor);
+        }
         if constexpr (std::is_integral_v<S>) {
             if (sizeof(S) == 1 && mask_.height * kLargest<S> <= kMax<Tpx16u>)
                 return run<std::conditional_t<sizeof(S) == 1, Tpx16u, Tpx32s>>(region);
@@ -259,7 +313,8 @@ class BoxKernel {
     // Sums, of which sumsAt(i) makes a register from the i-th on and which may be taken up to a block's end, to
     // means.
     template <class Sum, class At, class Mean>
-    static void put(At sumsAt, ptrdiff_t length, S* dst, const S* alpha, const Mean& mean) {
+    [[gnu::always_inline]] static void put(At sumsAt, ptrdiff_t length, S* dst, const S* alpha,
+                                           const Mean& mean) {
         const auto at = [&](ptrdiff_t i) { return mean.template means<S, Sum>(sumsAt, i); };
         if (length < kBlock) {
             const Vec<S> block = at(0);
