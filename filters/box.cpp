@@ -32,7 +32,9 @@ struct ByProduct {
 
     template <class D, class Sum, class At>
     [[gnu::always_inline]] Vec<D> means(At sumsAt, ptrdiff_t i) const {
-        const auto eight = [&](ptrdiff_t at) { return eightFloats<Sum>(sumsAt, at) * reciprocal; };
+        const auto eight = [&](ptrdiff_t at) __attribute__((always_inline)) {
+            return eightFloats<Sum>(sumsAt, at) * reciprocal;
+        };
         if constexpr (std::is_same_v<D, Tpx32f>)
             return eight(i);
         else if constexpr (sizeof(D) == 2)
@@ -64,7 +66,7 @@ struct ByShift {
 
     template <class D, class Sum, class At>
     [[gnu::always_inline]] Vec<D> means(At sumsAt, ptrdiff_t i) const {
-        const auto eight = [&](ptrdiff_t at) {
+        const auto eight = [&](ptrdiff_t at) __attribute__((always_inline)) {
             return shiftRight(multiplyHigh(sumsAt(at), factor) + half, shift);
         };
         return narrow<D>(Pair<V16u>{eight(i), eight(i + 8)});
@@ -85,7 +87,9 @@ struct ByRounding {
 
     template <class D, class Sum, class At>
     [[gnu::always_inline]] Vec<D> means(At sumsAt, ptrdiff_t i) const {
-        const auto eight = [&](ptrdiff_t at) { return multiplyRounded(V16s(sumsAt(at)), factor); };
+        const auto eight = [&](ptrdiff_t at) __attribute__((always_inline)) {
+            return multiplyRounded(V16s(sumsAt(at)), factor);
+        };
         return narrow<D>(Pair<V16s>{eight(i), eight(i + 8)});
     }
 };
@@ -253,7 +257,7 @@ class BoxKernel {
     }
 
     template <class Sum, class Column, class Mean>
-    void means(const Column* columns, ptrdiff_t length, S* dst, const S* alpha, const Mean& mean) const {
+    void means(const Column* columns, ptrdiff_t length, S* dst, const S* alpha, Mean mean) const {
         if (mask_.width == 1) return meansOfTaps<Sum, 1>(columns, length, dst, alpha, mean);
         if (mask_.width == 3) return meansOfTaps<Sum, 3>(columns, length, dst, alpha, mean);
         if (mask_.width == 5) return meansOfTaps<Sum, 5>(columns, length, dst, alpha, mean);
@@ -261,10 +265,10 @@ class BoxKernel {
     }
 
     template <class Sum, int Taps, class Column, class Mean>
-    static void meansOfTaps(const Column* columns, ptrdiff_t length, S* dst, const S* alpha, const Mean& mean) {
+    static void meansOfTaps(const Column* columns, ptrdiff_t length, S* dst, const S* alpha, Mean mean) {
         // A row shorter than a block reads on behind the columns, in the buffer.
         put<Sum>(
-            [&](ptrdiff_t i) {
+            [&](ptrdiff_t i) __attribute__((always_inline)) {
                 Vec<Sum> sum = sumsFrom<Sum>(columns + i);
                 for (int k = 1; k < Taps; k++) sum += sumsFrom<Sum>(columns + i + k * N);
                 return sum;
@@ -274,20 +278,24 @@ class BoxKernel {
 
     template <class Sum, class Column, class Mean>
     [[gnu::noinline]] void meansOfTiles(const Column* columns, ptrdiff_t length, S* dst, const S* alpha,
-                                        const Mean& mean) const {
+                                        Mean mean) const {
         if constexpr (std::is_integral_v<Sum>) {
             using Window = IntegerWindow<Sum, N, Column>;
             Window window(columns, mask_.width);
             alignas(64) Sum sums[Window::kRoom];
             forTiles<Window::kTile>(length, [&](ptrdiff_t x, ptrdiff_t part) {
                 window.next(sums, part);
-                put<Sum>([&](ptrdiff_t i) { return load(sums + i); }, part, dst + x, alpha + x, mean);
+                put<Sum>(
+                    [&](ptrdiff_t i) __attribute__((always_inline)) { return load(sums + i); }, part, dst + x,
+                    alpha + x, mean);
             });
         } else {
             WindowTile<Sum> tile;
             forTiles<WindowTile<Sum>::kLength>(length, [&](ptrdiff_t x, ptrdiff_t part) {
                 tile.sum(columns + x, part, mask_.width, N);
-                put<Sum>([&](ptrdiff_t i) { return load(tile.sums + i); }, part, dst + x, alpha + x, mean);
+                put<Sum>(
+                    [&](ptrdiff_t i) __attribute__((always_inline)) { return load(tile.sums + i); }, part,
+                    dst + x, alpha + x, mean);
             });
         }
     }
@@ -313,9 +321,10 @@ class BoxKernel {
     // Sums, of which sumsAt(i) makes a register from the i-th on and which may be taken up to a block's end, to
     // means.
     template <class Sum, class At, class Mean>
-    [[gnu::always_inline]] static void put(At sumsAt, ptrdiff_t length, S* dst, const S* alpha,
-                                           const Mean& mean) {
-        const auto at = [&](ptrdiff_t i) { return mean.template means<S, Sum>(sumsAt, i); };
+    [[gnu::always_inline]] static void put(At sumsAt, ptrdiff_t length, S* dst, const S* alpha, Mean mean) {
+        const auto at = [&](ptrdiff_t i) __attribute__((always_inline)) {
+            return mean.template means<S, Sum>(sumsAt, i);
+        };
         if (length < kBlock) {
             const Vec<S> block = at(0);
             if constexpr (L == Layout::AC4) {
@@ -326,7 +335,7 @@ class BoxKernel {
             }
             return;
         }
-        const auto one = [&](ptrdiff_t i) {
+        const auto one = [&](ptrdiff_t i) __attribute__((always_inline)) {
             if constexpr (L == Layout::AC4)
                 store(dst + i, keepAlpha<S>(load(alpha + i), at(i)));
             else

@@ -84,17 +84,19 @@ class ColumnSums {
     }
     void slidePairs(const S* enters, const S* leaves) const {
         constexpr ptrdiff_t kBlock = kLanes<S>, L = kLanes<Sum>;
-        const auto at = [&](ptrdiff_t i) {
+        Sum* const sums = sums_; // which what is stored could be, for all that the compiler knows
+        const ptrdiff_t last = length_ - kBlock;
+        const auto at = [=](ptrdiff_t i) __attribute__((always_inline)) {
             const auto by = differences(load(enters + i), load(leaves + i));
-            return Pair<Vec<Sum>>{load(sums_ + i) + Vec<Sum>(by.low), load(sums_ + i + L) + Vec<Sum>(by.high)};
+            return Pair<Vec<Sum>>{load(sums + i) + Vec<Sum>(by.low), load(sums + i + L) + Vec<Sum>(by.high)};
         };
-        const auto put = [&](ptrdiff_t i, Pair<Vec<Sum>> sums) {
-            store(sums_ + i, sums.low);
-            store(sums_ + i + L, sums.high);
+        const auto put = [=](ptrdiff_t i, Pair<Vec<Sum>> pair) __attribute__((always_inline)) {
+            store(sums + i, pair.low);
+            store(sums + i + L, pair.high);
         };
-        const Pair<Vec<Sum>> tail = at(length_ - kBlock); // before the others are stored
-        for (ptrdiff_t i = 0; i + kBlock <= length_; i += kBlock) put(i, at(i));
-        put(length_ - kBlock, tail);
+        const Pair<Vec<Sum>> tail = at(last); // before the others are stored
+        for (ptrdiff_t i = 0; i <= last; i += kBlock) put(i, at(i));
+        put(last, tail);
     }
 
     Vec<Sum> shortSums(const S* row) const {
@@ -172,32 +174,36 @@ class IntegerWindow {
 
     // The next results, a tile but for the last.
     void next(Sum* sums, ptrdiff_t length) {
+        const From *const leaves = from_, *const enters = from_ + reach_;
+        Vec<Sum> sum = sum_;
+        const auto change = [=](ptrdiff_t i) __attribute__((always_inline)) {
+            return sumsFrom<Sum>(enters + i) - sumsFrom<Sum>(leaves + i);
+        };
         if constexpr (N == 1) {
             constexpr V8u kLast = sizeof(Sum) == 2
                                       ? V8u{14, 15, 14, 15, 14, 15, 14, 15, 14, 15, 14, 15, 14, 15, 14, 15}
                                       : V8u{12, 13, 14, 15, 12, 13, 14, 15, 12, 13, 14, 15, 12, 13, 14, 15};
-            sums[0] = sum_[0];
+            sums[0] = sum[0];
             for (ptrdiff_t i = 0; i < length; i += L) {
                 Vec<Sum> by = change(i);
                 by += lanesUp<1>(by);
                 by += lanesUp<2>(by);
                 if constexpr (L == 8) by += lanesUp<4>(by);
-                const Vec<Sum> next = sum_ + by;
+                const Vec<Sum> next = sum + by;
                 store(sums + i + 1, next);
-                sum_ = Vec<Sum>(shuffleBytes(V8u(next), kLast));
+                sum = Vec<Sum>(shuffleBytes(V8u(next), kLast));
             }
         } else { // a pixel at a time; what lies behind it is overwritten by the next
             for (ptrdiff_t i = 0; i < length; i += N) {
-                store(sums + i, sum_);
-                sum_ += change(i);
+                store(sums + i, sum);
+                sum += change(i);
             }
         }
+        sum_ = sum;
         from_ += length;
     }
 
  private:
-    Vec<Sum> change(ptrdiff_t i) const { return sumsFrom<Sum>(from_ + i + reach_) - sumsFrom<Sum>(from_ + i); }
-
     const From* from_;
     ptrdiff_t reach_;
     Vec<Sum> sum_{};
