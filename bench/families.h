@@ -15,6 +15,7 @@ void addExtremesOfTwoAndBlocks();
 void addHistograms();
 void addLookups();
 void addFixedMasks();
+void addBoxes();
 void addResizes();
 
 } // namespace bench

@@ -116,6 +116,7 @@ int run(int argc, char** argv) {
     addHistograms();
     addLookups();
     addFixedMasks();
+    addBoxes();
     addResizes();
     Progress progress;
     benchmark::RunSpecifiedBenchmarks(&progress);

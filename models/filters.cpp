@@ -31,6 +31,7 @@ void correlate(const S* src, ptrdiff_t srcStep, D* dst, ptrdiff_t dstStep, TpxiS
                                             const int*, int, float);
 TPX_CORRELATE(8u, 8u)
 TPX_CORRELATE(8u, 16s)
+TPX_CORRELATE(16u, 16u)
 TPX_CORRELATE(16s, 16s)
 TPX_CORRELATE(32f, 32f)
 #undef TPX_CORRELATE
