@@ -27,6 +27,7 @@
 #include "tpxi/copy.h"
 #include "tpxi/filters_box.h"
 #include "tpxi/filters_fixed.h"
+#include "tpxi/filters_median.h"
 #include "tpxi/geometry.h"
 #include "tpxi/statistics.h"
 #include "tpxi/threshold.h"
