@@ -1,6 +1,6 @@
 // tpxiFilterMedianBorder: medians of any odd mask, over a border and in place.
 #include "filters/in_place.h"
-#include "filters/median_kernels.h"
+#include "filters/median_choice.h"
 #include "frame/images/pointwise.h"
 #include "frame/runs/routines.h"
 

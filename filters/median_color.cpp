@@ -80,7 +80,7 @@ class VectorMedian {
 
     // The distance between the window's pixels I and J, for a register of windows from column x on.
     template <int I, int J>
-    static V between(const Row* const* window, int64_t x) {
+    [[gnu::always_inline]] static V between(const Row* const* window, int64_t x) {
         constexpr int upper = I < J ? I : J, lower = I < J ? J : I, above = lower / K - upper / K;
         constexpr int difference = upper % K - lower % K;
         constexpr int columns = above == 0 ? -difference : difference;
@@ -93,9 +93,9 @@ class VectorMedian {
         for (int64_t x = 0; x < pixels; x += kLane) {
             V least = splat<V>(std::is_floating_point_v<Lane> ? Lane(__builtin_inf()) : kMax<Lane>);
             V first{};
-            unroll<K * K>([&](auto i) {
+            unroll<K * K>([&](auto i) __attribute__((always_inline)) {
                 V sum{};
-                unroll<K * K>([&](auto j) {
+                unroll<K * K>([&](auto j) __attribute__((always_inline)) {
                     if constexpr (i != j) sum += between<i, j>(window, x);
                 });
                 const auto less = sum < least;

@@ -52,7 +52,7 @@ struct RectangleShape {
     static constexpr int kWidth = Width, kHeight = Height, kCount = Width * Height;
     static constexpr ShapePlace at(int k) { return {k % Width, k / Width}; }
     template <class V>
-    static V select(V* v) {
+    [[gnu::always_inline]] static V select(V* v) {
         return medianOf<kCount>(v);
     }
 };
@@ -64,7 +64,7 @@ struct CrossShape {
         return k < Side ? ShapePlace{k, Side / 2} : ShapePlace{Side / 2, k - Side + (k - Side >= Side / 2)};
     }
     template <class V>
-    static V select(V* v) {
+    [[gnu::always_inline]] static V select(V* v) {
         return medianOf<kCount>(v);
     }
 };
@@ -78,7 +78,7 @@ struct WeightedShape {
         return k == 8 ? ShapePlace{1, 1} : ShapePlace{(k + (k > 3)) % 3, (k + (k > 3)) / 3};
     }
     template <class V>
-    static V select(V* v) {
+    [[gnu::always_inline]] static V select(V* v) {
         sortNetwork<8>(v);
         return minOf(maxOf(v[8], v[3 - Pairs]), v[4 + Pairs]);
     }
@@ -101,9 +101,9 @@ struct ShapeMedian {
                 copyBlock(pad[r], rows[r], (width + kReach) * ptrdiff_t(sizeof(T)));
                 rows[r] = pad[r];
             }
-            writeRow<L>(region.dst.row(y), width, [&](ptrdiff_t i) {
+            writeRow<L>(region.dst.row(y), width, [&](ptrdiff_t i) TPX_INLINED {
                 Vec<T> v[Shape::kCount];
-                unroll<Shape::kCount>([&](auto k) {
+                unroll<Shape::kCount>([&](auto k) TPX_INLINED {
                     constexpr ShapePlace place = Shape::at(k);
                     v[k] = load(rows[place.row] + i + place.column * N);
                 });
@@ -147,14 +147,14 @@ class SquareMedian {
  private:
     static void sortColumns(const T* const* rows, ptrdiff_t count, ptrdiff_t slack, Columns& upper,
                             Columns& lower) {
-        const auto sortAt = [&](ptrdiff_t i, auto loadRow) {
+        const auto sortAt = [&](ptrdiff_t i, auto loadRow) TPX_INLINED {
             Vec<T> common[K - 1], sorted[K];
-            unroll<K - 1>([&](auto r) { common[r] = loadRow(rows[r + 1] + i); });
+            unroll<K - 1>([&](auto r) TPX_INLINED { common[r] = loadRow(rows[r + 1] + i); });
             sortNetwork<K - 1>(common);
             insertSorted<K - 1>(common, loadRow(rows[0] + i), sorted);
-            unroll<K>([&](auto r) { store(upper.rank[r] + i, sorted[r]); });
+            unroll<K>([&](auto r) TPX_INLINED { store(upper.rank[r] + i, sorted[r]); });
             insertSorted<K - 1>(common, loadRow(rows[K] + i), sorted);
-            unroll<K>([&](auto r) { store(lower.rank[r] + i, sorted[r]); });
+            unroll<K>([&](auto r) TPX_INLINED { store(lower.rank[r] + i, sorted[r]); });
         };
         const auto whole = [](const T* p) { return load(p); };
         if (count < kLane) return sortAt(0, [&](const T* p) { return loadWithin(p, count, slack); });
@@ -164,9 +164,9 @@ class SquareMedian {
     }
 
     static void select(const Columns& columns, T* dst, ptrdiff_t width) {
-        writeRow<L>(dst, width, [&](ptrdiff_t i) {
-            return medianOfColumns<K>(
-                [&](auto rank, auto column) { return load(columns.rank[rank] + i + column * N); });
+        writeRow<L>(dst, width, [&](ptrdiff_t i) TPX_INLINED {
+            return medianOfColumns<K>([&](auto rank, auto column)
+                                          TPX_INLINED { return load(columns.rank[rank] + i + column * N); });
         });
     }
 };
@@ -180,9 +180,7 @@ struct Keys {
     using V = VecBits<T>;
     static constexpr BitsOf<T> kTop = BitsOf<T>(Key(1) << (kBits<T> - 1));
 
-    static Vec<T> samples(V keys) {
-        return select(keys, bitsAs<Vec<T>>(keys ^ kTop), bitsAs<Vec<T>>(~keys));
-    }
+    static Vec<T> samples(V keys) { return select(keys, bitsAs<Vec<T>>(keys ^ kTop), bitsAs<Vec<T>>(~keys)); }
     template <class M>
     static V choose(M mask, V a, V b) {
         return bitsAs<V>(select(mask, bitsAs<Vec<T>>(a), bitsAs<Vec<T>>(b)));
@@ -287,7 +285,7 @@ class BisectedMedian {
         for (ptrdiff_t y = 0; y < region.size.height; y++) {
             const ImageView<const T> window = region.src.from(-(mask_.width / 2) * N, y - mask_.height / 2);
             if (width >= kLanes<T>) {
-                writeRow<L>(region.dst.row(y), width, [&](ptrdiff_t i) {
+                writeRow<L>(region.dst.row(y), width, [&](ptrdiff_t i) TPX_INLINED {
                     return median<Wide>(window,
                                         [i](const T* row, ptrdiff_t column) { return load(row + i + column); });
                 });
@@ -336,25 +334,5 @@ class BisectedMedian {
 
     TpxiSizeL mask_;
 };
-
-// ---- The kernel of a mask ---------------------------------------------------------------------------------
-
-constexpr bool isOdd(TpxiSizeL mask) {
-    return mask.width >= 1 && mask.height >= 1 && mask.width % 2 == 1 && mask.height % 2 == 1;
-}
-
-// run(kernel) with the region kernel for a mask of odd sides.
-template <Layout L, class T, class Run>
-void withMedianOf(TpxiSizeL mask, Run run) {
-    const auto is = [mask](int width, int height) { return mask.width == width && mask.height == height; };
-    if (is(3, 3)) return run(SquareMedian<L, 3, T>());
-    if (is(5, 5)) return run(SquareMedian<L, 5, T>());
-    if (is(7, 7)) return run(SquareMedian<L, 7, T>());
-    if (is(3, 1)) return run(ShapeMedian<L, RectangleShape<3, 1>, T>());
-    if (is(1, 3)) return run(ShapeMedian<L, RectangleShape<1, 3>, T>());
-    if (is(5, 1)) return run(ShapeMedian<L, RectangleShape<5, 1>, T>());
-    if (is(1, 5)) return run(ShapeMedian<L, RectangleShape<1, 5>, T>());
-    run(BisectedMedian<L, T>(mask));
-}
 
 } // namespace tpx

@@ -5,6 +5,9 @@
 
 #include "filters/stencil.h"
 
+// Of lambdas: networks live in registers only if all of their parts are inlined, and compilers lose heart.
+#define TPX_INLINED __attribute__((always_inline))
+
 namespace tpx {
 
 template <class V>
@@ -23,12 +26,13 @@ struct Network {
     Exchange at[Count];
 };
 
+template <const auto& network, int... I, class V>
+[[gnu::always_inline]] inline void exchange(std::integer_sequence<int, I...>, V* v) {
+    (putInOrder(v[network.at[I].low], v[network.at[I].high]), ...);
+}
 template <const auto& network, class V>
 [[gnu::always_inline]] inline void exchange(V* v) {
-    unroll<std::remove_cvref_t<decltype(network)>::kCount>([&](auto k) {
-        constexpr Exchange e = network.at[k];
-        putInOrder(v[e.low], v[e.high]);
-    });
+    exchange<network>(std::make_integer_sequence<int, std::remove_cvref_t<decltype(network)>::kCount>{}, v);
 }
 
 // ---- Sorting: networks of the fewest comparisons known, Knuth, The Art of Computer Programming 3, 5.3.4 ---
@@ -98,7 +102,7 @@ template <int N, class V>
 template <int N, class V>
 [[gnu::always_inline]] inline void insertSorted(const V* v, V x, V* to) {
     to[0] = minOf(v[0], x);
-    unroll<N - 1>([&](auto k) { to[k + 1] = minOf(maxOf(x, v[k]), v[k + 1]); });
+    unroll<N - 1>([&](auto k) TPX_INLINED { to[k + 1] = minOf(maxOf(x, v[k]), v[k + 1]); });
     to[N] = maxOf(v[N - 1], x);
 }
 
@@ -170,6 +174,19 @@ inline constexpr Network<41> kSelect<7>{{{4, 13},  {15, 24}, {10, 20}, {8, 22}, 
                                          {12, 14}, {12, 15}, {14, 18}, {11, 14}, {11, 15}, {14, 15}}};
 template <>
 inline constexpr int kSelected<7> = 14;
+template <>
+inline constexpr Network<86> kSelect<9>{
+    {{14, 34}, {24, 41}, {18, 31}, {10, 21}, {5, 22},  {25, 36}, {12, 32}, {1, 34},  {17, 37}, {9, 29},
+     {15, 28}, {13, 40}, {12, 45}, {34, 42}, {0, 25},  {18, 20}, {6, 33},  {4, 24},  {33, 46}, {19, 39},
+     {17, 27}, {26, 28}, {3, 7},   {19, 43}, {12, 27}, {23, 30}, {22, 26}, {13, 25}, {25, 27}, {16, 23},
+     {2, 33},  {3, 11},  {16, 21}, {16, 19}, {13, 20}, {30, 35}, {7, 12},  {12, 35}, {29, 34}, {2, 29},
+     {12, 13}, {3, 33},  {11, 30}, {7, 34},  {20, 30}, {8, 25},  {8, 34},  {25, 44}, {21, 29}, {12, 21},
+     {20, 25}, {25, 34}, {8, 20},  {8, 22},  {29, 33}, {3, 26},  {3, 19},  {13, 24}, {24, 33}, {13, 29},
+     {21, 26}, {11, 13}, {24, 29}, {7, 13},  {7, 19},  {23, 25}, {25, 26}, {13, 23}, {13, 38}, {23, 43},
+     {25, 43}, {19, 22}, {22, 29}, {21, 38}, {23, 24}, {19, 23}, {21, 23}, {20, 24}, {24, 25}, {22, 23},
+     {24, 38}, {23, 38}, {22, 24}, {20, 23}, {23, 24}, {20, 23}}};
+template <>
+inline constexpr int kSelected<9> = 23;
 
 // The median of KxK samples in sorted columns: at(rank, column).
 template <int K, class At>
@@ -182,11 +199,11 @@ template <int K, class At>
     } else {
         constexpr auto& middle = kMiddle<K>;
         V candidates[middle.count];
-        unroll<K>([&](auto y) {
+        unroll<K>([&](auto y) TPX_INLINED {
             V row[K];
-            unroll<K>([&](auto x) { row[x] = at(y, x); });
+            unroll<K>([&](auto x) TPX_INLINED { row[x] = at(y, x); });
             sortNetwork<K>(row);
-            unroll<middle.count>([&](auto k) {
+            unroll<middle.count>([&](auto k) TPX_INLINED {
                 if constexpr (middle.at[k].row == y) candidates[k] = row[middle.at[k].column];
             });
         });

@@ -1,7 +1,7 @@
 // tpxiFilterMedian, tpxiFilterMedianCross, tpxiFilterMedianWeightedCenter3x3: medians without a border, whose
 // surroundings are read from memory.
 #include "filters/fixed_masks.h"
-#include "filters/median_kernels.h"
+#include "filters/median_choice.h"
 #include "frame/images/pointwise.h"
 
 namespace tpx {

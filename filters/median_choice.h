@@ -1,0 +1,39 @@
+// The region kernel that serves a mask best.
+#pragma once
+
+#include "filters/median_histogram.h"
+#include "filters/median_kernels.h"
+
+namespace tpx {
+
+constexpr bool isOdd(TpxiSizeL mask) {
+    return mask.width >= 1 && mask.height >= 1 && mask.width % 2 == 1 && mask.height % 2 == 1;
+}
+
+// Up to so many samples bisection is the faster one.
+template <class T>
+inline constexpr int64_t kMostBisected = sizeof(T) == 1 ? 45 : 100;
+
+// run(kernel) with the region kernel for a mask of odd sides.
+template <Layout L, class T, class Run>
+void withMedianOf(TpxiSizeL mask, Run run) {
+    const auto is = [mask](int width, int height) { return mask.width == width && mask.height == height; };
+    if (is(3, 3)) return run(SquareMedian<L, 3, T>());
+    if (is(5, 5)) return run(SquareMedian<L, 5, T>());
+    if (is(7, 7)) return run(SquareMedian<L, 7, T>());
+    if (is(9, 9)) return run(SquareMedian<L, 9, T>());
+    if (is(3, 1)) return run(ShapeMedian<L, RectangleShape<3, 1>, T>());
+    if (is(1, 3)) return run(ShapeMedian<L, RectangleShape<1, 3>, T>());
+    if (is(5, 1)) return run(ShapeMedian<L, RectangleShape<5, 1>, T>());
+    if (is(1, 5)) return run(ShapeMedian<L, RectangleShape<1, 5>, T>());
+    const int64_t samples = mask.width * mask.height;
+    if constexpr (sizeof(T) == 1) {
+        if (samples > kMostBisected<T>)
+            return ColumnMedian<L>::serves(mask) ? run(ColumnMedian<L>(mask)) : run(SlidingMedian<L, T>(mask));
+    } else if constexpr (sizeof(T) == 2) {
+        if (samples > kMostBisected<T>) return run(SlidingMedian<L, T>(mask));
+    }
+    run(BisectedMedian<L, T>(mask));
+}
+
+} // namespace tpx
