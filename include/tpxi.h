@@ -28,6 +28,7 @@
 #include "tpxi/filters_box.h"
 #include "tpxi/filters_fixed.h"
 #include "tpxi/filters_median.h"
+#include "tpxi/filters_general.h"
 #include "tpxi/geometry.h"
 #include "tpxi/statistics.h"
 #include "tpxi/threshold.h"

@@ -1,0 +1,181 @@
+// What the general filter makes of its sums: which rule holds where, and the rules.
+//
+// Which one holds depends on the kernel, on the block's mode and on the width of the region that is worked on,
+// strips at the borders included. That is the contract's doing and stands here alone.
+#pragma once
+
+#include "filters/general_block.h"
+#include "frame/simd/control.h"
+#include "frame/simd/simd.h"
+
+namespace tpx {
+
+// Sums of integers, in the order of the kernel's shapes.
+enum class IntegerRule {
+    Shift, // a power of two, ties to even
+    Scale, // times the inverse, in the direction of the control register
+    Whole, // the sum itself
+    FlooredShift,
+    UpwardShift, // a power of two, down; halves up
+    Divide,      // by a float estimate that is put right, 8u alone
+    Quotient,    // true, rounded by its mode
+};
+
+inline constexpr int64_t kWideForIntegers = 16, kWideForFloats = 8;
+
+class IntegerRules {
+ public:
+    IntegerRules(const FilterBlock& b, int64_t regionWidth)
+        : bytes_(b.kind == FilterKind::Integers8u),
+          mode_(b.roundMode & 3),
+          shift_(b.shift),
+          divisor_(b.divisor),
+          inverse_(b.inverse),
+          offset_(b.offset),
+          offsetF_(b.offsetF) {
+        const bool exact = (b.roundMode & tpxRoundExactFlag) != 0, wide = regionWidth >= kWideForIntegers;
+        const Shape shape = b.kernelWidth == 1    ? b.kernelHeight >= 3 && wide ? Shape::Line : Shape::Other
+                            : b.kernelHeight == 1 ? Shape::Line
+                            : b.kernelWidth >= 3 && wide && b.pairsUsable ? Shape::General
+                                                                          : Shape::Other;
+        const IntegerRule plain = shift_ != 0 ? IntegerRule::Shift : IntegerRule::Scale;
+        direction_ = Rounding::Nearest;
+        if (shape == Shape::Other ||
+            (shape == Shape::General && !bytes_ && (exact || mode_ == tpxRoundHalfAway))) {
+            rule_ = IntegerRule::Quotient;
+        } else if (shape == Shape::Line) {
+            rule_ = exact ? IntegerRule::Divide : plain;
+            if (!exact) direction_ = Rounding::OfThread;
+        } else if (!exact && mode_ != tpxRoundHalfAway) {
+            rule_ = plain;
+            if (mode_ == tpxRoundTowardZero) direction_ = Rounding::TowardZero;
+        } else if (b.divisorClass == DivisorClass::PowerOfTwo) {
+            rule_ = mode_ == tpxRoundTowardZero    ? IntegerRule::FlooredShift
+                    : mode_ == tpxRoundNearestEven ? IntegerRule::Shift
+                                                   : IntegerRule::UpwardShift;
+        } else {
+            rule_ = b.divisorClass == DivisorClass::One ? IntegerRule::Whole : IntegerRule::Divide;
+        }
+    }
+
+    // What the control register has to say meanwhile.
+    Rounding direction() const { return direction_; }
+    bool isQuotient() const { return rule_ == IntegerRule::Quotient; }
+
+    // Results before they saturate.
+    template <int Pairs>
+    [[gnu::always_inline]] void apply(Pair<V32s> (&sums)[Pairs]) const {
+        const auto each = [&](auto rule) {
+            for (Pair<V32s>& x : sums) x = rule(x);
+        };
+        const auto eachWithOffset = [&](auto rule) {
+            const V32s offset = splat<V32s>(offset_);
+            each([&](Pair<V32s> x) {
+                const Pair<V32s> y = rule(x);
+                return Pair<V32s>{y.low + offset, y.high + offset};
+            });
+        };
+        // With 1 more where the quotient is odd, for ties to even.
+        const auto shifted = [&](Tpx32s addend, Tpx32s oddMask) {
+            const V32s add = splat<V32s>(addend), odd = splat<V32s>(oddMask);
+            eachWithOffset([&](Pair<V32s> x) {
+                const auto one = [&](V32s v) {
+                    return shiftRight(v + add + (shiftRight(v, shift_) & odd), shift_);
+                };
+                return Pair<V32s>{one(x.low), one(x.high)};
+            });
+        };
+        const Tpx32s half = Tpx32s((Tpx32u(1) << shift_) >> 1);
+        switch (rule_) {
+            case IntegerRule::Shift:
+                return shifted(half - 1, 1);
+            case IntegerRule::FlooredShift:
+                return shifted(0, 0);
+            case IntegerRule::UpwardShift:
+                return shifted(half, 0);
+            case IntegerRule::Scale:
+                return eachWithOffset(
+                    [&](Pair<V32s> x) { return toInteger(toFloat(x) * splat<V32f>(inverse_)); });
+            case IntegerRule::Whole:
+                return eachWithOffset([](Pair<V32s> x) { return x; });
+            case IntegerRule::Divide:
+                return eachWithOffset([&](Pair<V32s> x) { return divided(x); });
+            case IntegerRule::Quotient:
+                return each([&](Pair<V32s> x) {
+                    if (bytes_) x = toIntegerTruncated(toFloat(x) + splat<V32f>(offsetF_));
+                    return Pair<V32s>{quotient(toDouble(x.low)), quotient(toDouble(x.high))};
+                });
+        }
+    }
+
+    // The true quotient of whole numbers of at most 53 bits. Closer than 2^-31 to a tie or to an integer none
+    // of 32 bits lies, so the double next to it is rounded as it would be itself.
+    V32s quotient(V64f sums) const {
+        const V64f q =
+            clampTo(sums / splat<V64f>(divisor_), splat<V64f>(kMin<Tpx16s>), splat<V64f>(kMax<Tpx16s>));
+        if (mode_ == tpxRoundTowardZero) return toIntegerTruncated(q);
+        if (mode_ == tpxRoundNearestEven) return toInteger(roundNearest(q));
+        const V64f half =
+            bitsAs<V64f>(bitsAs<B64f>(splat<V64f>(0.5)) | (bitsAs<B64f>(q) & bitsAs<B64f>(splat<V64f>(-0.0))));
+        return toIntegerTruncated(q + half);
+    }
+
+ private:
+    enum class Shape { Line, General, Other };
+
+    // The truncated estimate is one too low at most, then what is left of an even divisor decides. Odd divisors
+    // have no ties: their estimate is rounded at once.
+    Pair<V32s> divided(Pair<V32s> x) const {
+        const V32f estimate = toFloat(x) * splat<V32f>(inverse_);
+        const bool odd = (divisor_ & 1) != 0;
+        if (odd && mode_ == tpxRoundNearestEven) return toInteger(estimate);
+        if (odd && mode_ == tpxRoundHalfAway) return toIntegerTruncated(estimate + splat<V32f>(0.5f));
+        const Pair<V32s> q = toIntegerTruncated(estimate);
+        return {putRight(x.low, q.low), putRight(x.high, q.high)};
+    }
+    V32s putRight(V32s x, V32s q) const {
+        const V32s d = splat<V32s>(divisor_), half = d >> 1, one = splat<V32s>(1);
+        q -= x == q * d + d;
+        if (mode_ == tpxRoundTowardZero) return q;
+        const V32s limit = q * d + half - (mode_ == tpxRoundNearestEven ? q & one : one);
+        return q - (x > limit);
+    }
+
+    bool bytes_;
+    IntegerRule rule_;
+    Rounding direction_;
+    TpxRoundMode mode_;
+    Tpx32s shift_, divisor_;
+    Tpx32f inverse_;
+    Tpx32s offset_;
+    Tpx32f offsetF_;
+};
+
+// Sums of floats, for integer samples.
+class FloatRules {
+ public:
+    FloatRules(const FilterBlock& b, int64_t regionWidth)
+        : offset_(b.offsetF), mode_(b.roundMode & 3), wide_(regionWidth >= kWideForFloats) {}
+
+    // Results before they saturate at T's smallest.
+    template <class T>
+    [[gnu::always_inline]] Pair<V32s> apply(V32f sum) const {
+        const V32f x = minOf(sum + splat<V32f>(offset_), splat<V32f>(kMax<T>));
+        if (wide_) return toInteger(x);
+        const V32f low = maxOf(x, splat<V32f>(kMin<T>));
+        if (mode_ == tpxRoundTowardZero) return toIntegerTruncated(low);
+        if (mode_ == tpxRoundNearestEven) return toInteger(roundNearest(low));
+        // Halves away from zero: the fraction is exact, as adding a half to the sample would not be.
+        const V32f whole = rounded<Rounding::TowardZero>(low), fraction = low - whole;
+        const V32f up = masked(fraction >= splat<V32f>(0.5f), splat<V32f>(1)),
+                   down = masked(fraction <= splat<V32f>(-0.5f), splat<V32f>(1));
+        return toIntegerTruncated(whole + up - down);
+    }
+
+ private:
+    Tpx32f offset_;
+    TpxRoundMode mode_;
+    bool wide_;
+};
+
+} // namespace tpx
