@@ -102,8 +102,10 @@ class IntegerRules {
                 return eachWithOffset([&](Pair<V32s> x) { return divided(x); });
             case IntegerRule::Quotient:
                 return each([&](Pair<V32s> x) {
-                    if (bytes_) x = toIntegerTruncated(toFloat(x) + splat<V32f>(offsetF_));
-                    return Pair<V32s>{quotient(toDouble(x.low)), quotient(toDouble(x.high))};
+                    Pair<V64f> sums = {toDouble(x.low), toDouble(x.high)};
+                    if (bytes_) // the offset is a float, with which the sum may leave 32 bits
+                        sums = widen(rounded<Rounding::TowardZero>(toFloat(x) + splat<V32f>(offsetF_)));
+                    return Pair<V32s>{quotient(sums.low), quotient(sums.high)};
                 });
         }
     }

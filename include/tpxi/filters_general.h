@@ -25,17 +25,17 @@ TPX_EXTERN_C_BEGIN
  * Rounding of the quotient: roundMode is tpxRoundTowardZero, tpxRoundNearestEven or tpxRoundHalfAway, with or
  * without tpxRoundExactFlag. "Region" below is the part that is worked on as one: the strips along the sides
  * that need a border (see there) are as narrow as the kernel's reach.
- * - Integer kernels at least 3 wide and 2 high, regions at least 16 wide, no coefficient outside
+ * - Kernels of integers at least 3 wide and 2 high, regions at least 16 wide, no coefficient outside
  *   -32767..32766: with mode 0 or 1 and no flag, a divisor that is a power of two rounds to nearest with ties
- *   to even, and any other multiplies by its float reciprocal and rounds as the mode says. With mode 2 or the
- *   flag, 8u divides exactly but for the last bit of large quotients, a power of two rounding down in mode 0;
- *   16s rounds the true quotient as the mode says. An offset is added to the quotient.
- * - Kernels one row high; and one column wide, at least 3 high, regions at least 16 wide: without the flag as
- *   above but, whatever the mode, in the direction of the thread's control register; with it the exact
- * division.
- * - All other integer kernels and regions round the true quotient as the mode says. An offset, times the
- *   divisor (or, a power of two, divided by it), is added to the sum and the fraction is cut off before.
- * - Float kernels: regions at least 8 wide round with the thread's control register, to nearest unless it has
+ *   to even; any other multiplies by its float reciprocal and rounds as the mode says. With mode 2 or the flag,
+ *   8u divides exactly but for the last bit of large quotients, a power of two rounding down in mode 0; 16s
+ *   rounds the true quotient as the mode says. An offset is added to the quotient.
+ * - Kernels one row high; also those one column wide and at least 3 high in regions at least 16 wide: without
+ *   the flag as above, but in the direction of the thread's control register whatever the mode; with it by the
+ *   exact division.
+ * - All other kernels of integers and regions round the true quotient as the mode says. An offset, times the
+ *   divisor (or divided by it, if that is a power of two), is added to the sum before, and a fraction cut off.
+ * - Kernels of floats: regions at least 8 wide round by the thread's control register, to nearest unless it has
  *   been changed; narrower ones as the mode says. An offset is added before. 32f is not rounded.
  * Results saturate.
  *
@@ -45,18 +45,18 @@ TPX_EXTERN_C_BEGIN
  * one; then what remains. Where the kernel is as wide or as high as the region, all of it is one region. Source
  * and destination are different images.
  *
- * Statuses, in order:
- *   GetSize   tpxErrSize (kernel or region below 1); tpxErrDataType (dataType not 8u, 16u, 16s, 32f; kernelType
- *             not 16s, 32f); tpxErrChannelIndex (not 1 to 4); tpxErrNullPointer; tpxErrSizeTooLarge (past 31
- *             bits; *pBufferSize is 0); tpxOk
- *   Init      tpxErrNullPointer; tpxErrSize; tpxErrDataType (Init_16s: 8u, 16u, 16s; Init_32f: also 32f);
- *             tpxErrChannelIndex; tpxErrRoundMode; tpxErrDivisor (zero); tpxWarnExactIgnored (the flag was
- * given for other than 8u or 16s of one channel, or a float kernel; the block is complete); tpxOk. Blocks of
- * two channels can be made; there is no call for them. SetMode   tpxErrNullPointer; tpxErrUnsupportedMode (an
- * offset for 16s or 32f); tpxOk. tpxHintAccurate sets the exact flag of integer kernels (8u, and 16s of one
- * channel), any other hint clears it. calls     tpxErrNullPointer (source, destination, block, buffer; then the
- * border's pixel); tpxErrSize (width or height below 1); tpxErrStep (srcStep below 1, or dstStep below width
- * samples: channels do not count); tpxErrBorder; tpxOk */
+ * Statuses of GetSize, in order: tpxErrSize (kernel or region below 1); tpxErrDataType (dataType not 8u, 16u,
+ * 16s, 32f; kernelType not 16s, 32f); tpxErrChannelIndex (not 1 to 4); tpxErrNullPointer; tpxErrSizeTooLarge
+ * (past 31 bits; *pBufferSize is 0); tpxOk.
+ * Of Init: tpxErrNullPointer; tpxErrSize; tpxErrDataType (Init_16s takes 8u, 16u, 16s, Init_32f also 32f);
+ * tpxErrChannelIndex (not 1 to 4; there is no call for two); tpxErrRoundMode; tpxErrDivisor (zero);
+ * tpxWarnExactIgnored (the block is complete, but the flag has no effect: it is taken for 8u, and for 16s of
+ * one channel, while the kernel stays one of integers); tpxOk.
+ * Of SetMode: tpxErrNullPointer; tpxErrUnsupportedMode (an offset for 16s or 32f); tpxOk. tpxHintAccurate sets
+ * the exact flag where it is taken, any other hint clears it.
+ * Of calls: tpxErrNullPointer (source, destination, block, buffer; then the border's pixel); tpxErrSize (width
+ * or height below 1); tpxErrStep (srcStep below 1, or dstStep below width samples: channels do not count);
+ * tpxErrBorder; tpxOk. */
 
 typedef struct TpxiFilterBorderBlock TpxiFilterBorderBlock;
 

@@ -127,6 +127,7 @@ struct IntegerModel {
     int mode;
     bool exact, pairsUsable;
     int64_t offset;
+    float inverse;
     int divisorClass, shift = 0;
     int64_t half = 0, lowMask = 0;
 
@@ -141,6 +142,7 @@ struct IntegerModel {
         pairsUsable = true;
         for (double w : s.weights)
             if (w < -32767 || w > 32766) pairsUsable = false;
+        inverse = 1.0f / float(d);
         divisorClass = d == 1 ? 0 : 2;
         for (int i = 1; i < 31; i++)
             if (d == int64_t(1) << i) {
@@ -150,8 +152,6 @@ struct IntegerModel {
                 lowMask = d - 1;
             }
     }
-    double inverse() const { return 1.0f / float(d); }
-
     // Sums in 32 bits wrap around.
     double result(int64_t sum, int width) const {
         const int32_t x = int32_t(sum);
@@ -174,14 +174,14 @@ struct IntegerModel {
         if (truncates) { // the direction holds for the conversion and the product too
             _MM_SET_ROUNDING_MODE(_MM_ROUND_TOWARD_ZERO);
             volatile int32_t in = x;
-            volatile float by = float(inverse()), product = float(in) * by;
+            volatile float product = float(in) * inverse;
             _MM_SET_ROUNDING_MODE(_MM_ROUND_NEAREST);
             return std::trunc(double(product)) + double(offset);
         }
-        return std::nearbyint(double(float(x) * float(inverse()))) + double(offset);
+        return std::nearbyint(double(float(x) * inverse)) + double(offset);
     }
     double exactly(int32_t x, int cls) const {
-        const float estimate = float(x) * float(inverse());
+        const float estimate = float(x) * inverse;
         int64_t q = int64_t(estimate);
         if (cls == 0) {
             q = x;
@@ -204,7 +204,7 @@ struct IntegerModel {
     }
 
     double small(int64_t x) const {
-        if (bytes) x = int64_t(float(x) + float(offset) * (divisorClass == 1 ? float(inverse()) : float(d)));
+        if (bytes) x = int64_t(float(x) + float(offset) * (divisorClass == 1 ? inverse : float(d)));
         if (divisorClass == 0) return double(x);
         if (divisorClass == 1) return double(smallShifted(x));
         const double q = double(x) / double(d);
