@@ -1,12 +1,19 @@
 // Correlation with kernels of floats. Two rows of results share the loads of the rows between them. Each sum
 // runs over the taps in raster order, from the first product on, whatever its place in the image.
 #include "filters/general.h"
+#include "frame/images/row_ring.h"
 
 namespace tpx {
 namespace {
 
 // ---- Sums
 // ----------------------------------------------------------------------------------------------------
+
+inline constexpr ptrdiff_t kRegister = kLanes<Tpx32f>;
+
+// Samples of any type in as many bytes as floats have.
+template <class T>
+inline constexpr ptrdiff_t kShortRoom = kRegister * ptrdiff_t(sizeof(Tpx32f) / sizeof(T));
 
 template <int Registers>
 struct TwoSums {
@@ -16,21 +23,25 @@ struct TwoSums {
 // A register of samples as floats; none but the first `count` samples are read if Short.
 template <bool Short, class T>
 [[gnu::always_inline]] inline V32f loadFloats(const T* p, ptrdiff_t count) {
-    T samples[kLanes<Tpx32f>] = {};
+    T samples[kShortRoom<T>] = {};
     if constexpr (Short) {
         copyShort(samples, p, count * ptrdiff_t(sizeof(T)));
         p = samples;
     }
+    V32f v;
     if constexpr (std::is_same_v<T, Tpx32f>)
-        return load(p);
+        v = load(p);
     else
-        return loadAs<Tpx32f>(p);
+        v = loadAs<Tpx32f>(p);
+    asm("" : "+x"(v)); // both products take it from here: compilers load it twice to save an instruction
+    return v;
 }
 
-// Each source row is one of both results' kernels' rows, but for the first and the last.
-template <class T, int N, bool Short, int Registers>
-[[gnu::always_inline]] inline TwoSums<Registers> sumsAt(const FilterBlock& b, const SourceRows<T>& rows,
-                                                        ptrdiff_t i, ptrdiff_t count) {
+// Each source row is one of both results' kernels' rows, but for the first and the last. Rows tells where a row
+// of the kernel over the upper result begins.
+template <int N, bool Short, int Registers, class Rows>
+[[gnu::always_inline]] inline TwoSums<Registers> sumsAt(const FilterBlock& b, const Rows& rows, ptrdiff_t i,
+                                                        ptrdiff_t count) {
     const ptrdiff_t width = b.kernelWidth, height = b.kernelHeight;
     TwoSums<Registers> sums;
     for (int k = 0; k < Registers; k++)
@@ -38,7 +49,7 @@ template <class T, int N, bool Short, int Registers>
     // Coefficients from the last to the first.
     const Tpx32f* const first = b.kernel32 + width * height - 1;
     const auto addRow = [&]<bool Upper, bool Lower>(ptrdiff_t r) {
-        const T* row = rows[r] + i;
+        auto row = rows[r] + i;
         const Tpx32f *forUpper = first - r * width, *forLower = forUpper + width;
         for (ptrdiff_t x = 0; x < width; x++, row += N, forUpper--, forLower--)
             for (int k = 0; k < Registers; k++) {
@@ -79,45 +90,119 @@ template <class T>
     }
 }
 
-template <class T, int N, bool Short, int Registers>
-[[gnu::always_inline]] inline void resultsAt(const FilterBlock& b, const RulesOf<T>& rules,
-                                             const SourceRows<T>& rows, T* upper, T* lower, ptrdiff_t i,
-                                             ptrdiff_t count) {
-    const TwoSums<Registers> sums = sumsAt<T, N, Short, Registers>(b, rows, i, count);
-    for (int k = 0; k < Registers; k++) storeResults(upper + i + k * 8, sums.upper[k], rules);
-    if (lower == nullptr) return;
-    for (int k = 0; k < Registers; k++) storeResults(lower + i + k * 8, sums.lower[k], rules);
+// Two rows of results; lower is null if there is one.
+template <class T>
+struct ResultRows {
+    T *upper, *lower;
+};
+
+template <class T, int N, bool Short, int Registers, class Rows>
+[[gnu::always_inline]] inline void resultsAt(const FilterBlock& b, const RulesOf<T>& rules, const Rows& rows,
+                                             ResultRows<T> dst, ptrdiff_t i, ptrdiff_t count) {
+    const TwoSums<Registers> sums = sumsAt<N, Short, Registers>(b, rows, i, count);
+    for (int k = 0; k < Registers; k++) storeResults(dst.upper + i + k * kRegister, sums.upper[k], rules);
+    if (dst.lower == nullptr) return;
+    for (int k = 0; k < Registers; k++) storeResults(dst.lower + i + k * kRegister, sums.lower[k], rules);
 }
 
-template <class T, int N>
-void rowsOf(const FilterBlock& b, const RulesOf<T>& rules, const SourceRows<T>& rows, T* upper, T* lower,
-            ptrdiff_t len, ptrdiff_t slack) {
-    constexpr ptrdiff_t L = kLanes<Tpx32f>;
-    if (len >= L) {
-        ptrdiff_t i = 0;
-        for (; i + 4 * L <= len; i += 4 * L) resultsAt<T, N, false, 4>(b, rules, rows, upper, lower, i, 0);
-        for (; i + L <= len; i += L) resultsAt<T, N, false, 1>(b, rules, rows, upper, lower, i, 0);
-        if (i < len) resultsAt<T, N, false, 1>(b, rules, rows, upper, lower, len - L, 0);
-        return;
-    }
-    T one[L], other[L];
-    if (slack >= L * ptrdiff_t(sizeof(T)))
-        resultsAt<T, N, false, 1>(b, rules, rows, one, other, 0, 0);
-    else
-        resultsAt<T, N, true, 1>(b, rules, rows, one, other, 0, len);
-    copyBlock(upper, one, len * ptrdiff_t(sizeof(T)));
-    if (lower != nullptr) copyBlock(lower, other, len * ptrdiff_t(sizeof(T)));
+template <class T, int N, class Rows>
+void longRows(const FilterBlock& b, const RulesOf<T>& rules, const Rows& rows, ResultRows<T> dst,
+              ptrdiff_t len) {
+    ptrdiff_t i = 0;
+    for (; i + 4 * kRegister <= len; i += 4 * kRegister) resultsAt<T, N, false, 4>(b, rules, rows, dst, i, 0);
+    for (; i + kRegister <= len; i += kRegister) resultsAt<T, N, false, 1>(b, rules, rows, dst, i, 0);
+    if (i < len) resultsAt<T, N, false, 1>(b, rules, rows, dst, len - kRegister, 0);
 }
+
+// Fewer samples than a register.
+template <class T, int N>
+void shortRows(const FilterBlock& b, const RulesOf<T>& rules, const SourceRows<T>& rows, ResultRows<T> dst,
+               ptrdiff_t len, ptrdiff_t slack) {
+    T upper[kShortRoom<T>], lower[kShortRoom<T>];
+    if (slack >= kRegister * ptrdiff_t(sizeof(T)))
+        resultsAt<T, N, false, 1>(b, rules, rows, {upper, lower}, 0, 0);
+    else
+        resultsAt<T, N, true, 1>(b, rules, rows, {upper, lower}, 0, len);
+    copyBlock(dst.upper, upper, len * ptrdiff_t(sizeof(T)));
+    if (dst.lower != nullptr) copyBlock(dst.lower, lower, len * ptrdiff_t(sizeof(T)));
+}
+
+// ---- Regions
+// -------------------------------------------------------------------------------------------------
+
+template <class T, int N>
+class FloatCorrelation {
+ public:
+    FloatCorrelation(const FilterBlock& block, const Region<T, T>& region)
+        : block_(block), region_(region), rules_(block, region.size.width), len_(region.size.width * N) {}
+
+    void run() const {
+        if constexpr (!std::is_same_v<T, Tpx32f>) {
+            const ptrdiff_t room = roomOfRow();
+            if (len_ >= kRegister && room >= 4 * kRegister) return throughFloats(room);
+        }
+        for (int64_t y = 0; y < region_.size.height; y += 2) {
+            const SourceRows<T> rows(region_, y, block_.kernelWidth, block_.kernelHeight, N);
+            if (len_ >= kRegister)
+                longRows<T, N>(block_, rules_, rows, results(y, 0), len_);
+            else
+                shortRows<T, N>(block_, rules_, rows, results(y, 0), len_, region_.slack);
+        }
+    }
+
+ private:
+    static constexpr ptrdiff_t kRoom = 6144; // of floats, for the rows that two rows of results read
+
+    ResultRows<T> results(int64_t y, ptrdiff_t from) const {
+        return {region_.dst.row(y) + from,
+                y + 1 < region_.size.height ? region_.dst.row(y + 1) + from : nullptr};
+    }
+    ptrdiff_t reach() const { return (block_.kernelWidth - 1) * N; }
+    // Results that a row of the ring has the samples for.
+    ptrdiff_t roomOfRow() const { return kRoom / (block_.kernelHeight + ptrdiff_t(1)) - reach(); }
+
+    // Integers are converted once, into a ring of rows, and the image is taken in bands of columns for which
+    // the ring is small. Kernels that are too large for it convert at every tap.
+    void throughFloats(ptrdiff_t room) const {
+        alignas(32) Tpx32f memory[kRoom];
+        const int64_t last = region_.size.height + block_.kernelHeight - 2;
+        const SourceRows<T> source(region_, 0, block_.kernelWidth, block_.kernelHeight, N);
+        const ptrdiff_t band = room & -4 * kRegister;
+        for (ptrdiff_t from = 0, len; from < len_; from += len) {
+            len = len_ - from < band ? len_ - from : band;
+            const ptrdiff_t rest = len_ - from - len; // no band is shorter than a register
+            if (rest > 0 && rest < kRegister) len -= kRegister;
+            RowRing<Tpx32f> ring(memory, len + reach(), block_.kernelHeight + 1);
+            for (int64_t y = 0; y < region_.size.height; y += 2) {
+                ring.moveTo(y, [&](int64_t row, Tpx32f* floats) {
+                    toFloats(source[row < last ? row : last] + from, floats, len + reach());
+                });
+                longRows<T, N>(block_, rules_, RingRows{ring}, results(y, from), len);
+            }
+        }
+    }
+    struct RingRows {
+        const RowRing<Tpx32f>& ring;
+        const Tpx32f* operator[](ptrdiff_t r) const { return ring.at(r); }
+    };
+    // At least a register; the last one may overlap the one before it.
+    static void toFloats(const T* src, Tpx32f* dst, ptrdiff_t len) {
+        ptrdiff_t i = 0;
+        for (; i + kRegister <= len; i += kRegister) store(dst + i, loadAs<Tpx32f>(src + i));
+        if (i < len) store(dst + len - kRegister, loadAs<Tpx32f>(src + len - kRegister));
+    }
+
+    const FilterBlock& block_;
+    const Region<T, T>& region_;
+    RulesOf<T> rules_;
+    ptrdiff_t len_;
+};
 
 } // namespace
 
 template <class T, int N>
 void correlateFloats(const FilterBlock& block, const Region<T, T>& region) {
-    const RulesOf<T> rules(block, region.size.width);
-    for (int64_t y = 0; y < region.size.height; y += 2)
-        rowsOf<T, N>(block, rules, SourceRows<T>(region, y, block.kernelWidth, block.kernelHeight, N),
-                     region.dst.row(y), y + 1 < region.size.height ? region.dst.row(y + 1) : nullptr,
-                     region.size.width * N, region.slack);
+    FloatCorrelation<T, N>(block, region).run();
 }
 
 #define TPX_FLOATS(T)                                                                            \

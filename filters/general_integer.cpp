@@ -12,11 +12,6 @@ namespace {
 // Samples that are worked on at once.
 inline constexpr ptrdiff_t kBlock = 16;
 
-// Of two rows of results, for 16 samples each.
-struct TwoSums {
-    Pair<V32s> upper[2], lower[2];
-};
-
 // Registers of samples from an address on; none but the first `count` samples are read if Short.
 template <bool Short, class T, int Registers>
 [[gnu::always_inline]] inline void loadBlock(const T* p, ptrdiff_t count, Vec<T> (&out)[Registers]) {
@@ -53,48 +48,56 @@ template <int N, class T, class Body>
     }
 }
 
-// In 32 bits.
+// One weight in every lane. Not from a register: as a load it costs nothing.
+[[gnu::always_inline]] inline V32s loadWeight(const Tpx32s* p) {
+    return V32s(_mm_castps_si128(_mm_broadcast_ss(reinterpret_cast<const float*>(p))));
+}
+
+// Sums of two rows of results in 32 bits, for 16 samples of the upper one and then of the lower one.
 template <class T, int N, bool Short>
 struct WordSums {
     static constexpr ptrdiff_t kSamples = kBlock;
+    static constexpr int kPairs = 4;
 
-    [[gnu::always_inline]] static void at(const FilterBlock& b, const SourceRows<T>& rows, ptrdiff_t i,
-                                          ptrdiff_t count, TwoSums (&out)[1]) {
-        V32s upper[4] = {}, lower[4] = {};
+    [[gnu::always_inline]] WordSums(const FilterBlock& b, const SourceRows<T>& rows, ptrdiff_t i,
+                                    ptrdiff_t count)
+        : upper{}, lower{} {
         forTaps<N>(b, rows, i, [&](const T* row, const T* next, const Tpx32s* weights) {
             Vec<T> first[kBlock / kLanes<T>], second[kBlock / kLanes<T>];
             loadBlock<Short>(row, count, first);
             loadBlock<Short>(next, count, second);
             V16s columns[4];
             interleaveRows(first, second, columns);
-            const V16s forUpper = V16s(splat<V32s>(weights[0])), forLower = V16s(splat<V32s>(weights[1]));
+            const V16s forUpper = V16s(loadWeight(weights)), forLower = V16s(loadWeight(weights + 1));
             for (int k = 0; k < 4; k++) {
                 upper[k] += multiplyAddPairs(columns[k], forUpper);
                 lower[k] += multiplyAddPairs(columns[k], forLower);
             }
         });
-        for (int k = 0; k < 2; k++) {
-            out[0].upper[k] = {upper[2 * k], upper[2 * k + 1]};
-            out[0].lower[k] = {lower[2 * k], lower[2 * k + 1]};
-        }
     }
+    [[gnu::always_inline]] Pair<V32s> pair(int k) const {
+        return k < 2 ? Pair<V32s>{upper[2 * k], upper[2 * k + 1]}
+                     : Pair<V32s>{lower[2 * k - 4], lower[2 * k - 3]};
+    }
+
+    V32s upper[4], lower[4];
 };
 
-// In 16 bits, as far above the least sum as they are; Blocks times 16 samples.
+// In 16 bits, as far above the least sum as they are; Blocks times 16 samples of either row.
 template <int N, bool Short, int Blocks>
 struct ByteSums {
     static constexpr ptrdiff_t kSamples = Blocks * kBlock;
+    static constexpr int kPairs = 4 * Blocks;
 
-    [[gnu::always_inline]] static void at(const FilterBlock& b, const SourceRows<Tpx8u>& rows, ptrdiff_t i,
-                                          ptrdiff_t count, TwoSums (&out)[Blocks]) {
-        const V16s bias = splat<V16s>(Tpx16s(b.sumBias));
-        V16s upper[2 * Blocks], lower[2 * Blocks];
-        for (int k = 0; k < 2 * Blocks; k++) upper[k] = lower[k] = bias;
+    [[gnu::always_inline]] ByteSums(const FilterBlock& b, const SourceRows<Tpx8u>& rows, ptrdiff_t i,
+                                    ptrdiff_t count)
+        : bias(splat<V32s>(b.sumBias)) {
+        for (int k = 0; k < 2 * Blocks; k++) upper[k] = lower[k] = splat<V16s>(Tpx16s(b.sumBias));
         forTaps<N>(b, rows, i, [&](const Tpx8u* row, const Tpx8u* next, const Tpx32s* weights) {
             V8u first[Blocks], second[Blocks];
             loadBlock<Short>(row, count, first);
             loadBlock<Short>(next, count, second);
-            const V8s forUpper = V8s(splat<V32s>(weights[0])), forLower = V8s(splat<V32s>(weights[1]));
+            const V8s forUpper = V8s(loadWeight(weights)), forLower = V8s(loadWeight(weights + 1));
             for (int k = 0; k < 2 * Blocks; k++) {
                 const V8u columns = k % 2 ? interleaveHigh(first[k / 2], second[k / 2])
                                           : interleaveLow(first[k / 2], second[k / 2]);
@@ -102,27 +105,25 @@ struct ByteSums {
                 lower[k] += multiplyAddPairs(columns, forLower);
             }
         });
-        const V32s bias32 = splat<V32s>(b.sumBias);
-        const auto exact = [&](V16s sums) {
-            const Pair<V32u> wide = widen(V16u(sums));
-            return Pair<V32s>{V32s(wide.low) - bias32, V32s(wide.high) - bias32};
-        };
-        for (int k = 0; k < 2 * Blocks; k++) {
-            out[k / 2].upper[k % 2] = exact(upper[k]);
-            out[k / 2].lower[k % 2] = exact(lower[k]);
-        }
     }
+    [[gnu::always_inline]] Pair<V32s> pair(int k) const {
+        const Pair<V32u> wide = widen(V16u(k < 2 * Blocks ? upper[k] : lower[k - 2 * Blocks]));
+        return {V32s(wide.low) - bias, V32s(wide.high) - bias};
+    }
+
+    V16s upper[2 * Blocks], lower[2 * Blocks];
+    V32s bias;
 };
 
 // ---- Rows of results
 // -----------------------------------------------------------------------------------------
 
-[[gnu::always_inline]] inline void storeBlock(Tpx8u* dst, const Pair<V32s> (&x)[2]) {
-    store(dst, narrow<Tpx8u>(Pair<V16s>{narrow<Tpx16s>(x[0]), narrow<Tpx16s>(x[1])}));
+[[gnu::always_inline]] inline void storeBlock(Tpx8u* dst, V16s first, V16s second) {
+    store(dst, narrow<Tpx8u>(Pair<V16s>{first, second}));
 }
-[[gnu::always_inline]] inline void storeBlock(Tpx16s* dst, const Pair<V32s> (&x)[2]) {
-    store(dst, narrow<Tpx16s>(x[0]));
-    store(dst + 8, narrow<Tpx16s>(x[1]));
+[[gnu::always_inline]] inline void storeBlock(Tpx16s* dst, V16s first, V16s second) {
+    store(dst, first);
+    store(dst + 8, second);
 }
 
 // Two rows of results, or one.
@@ -135,15 +136,15 @@ template <class Sums, class T>
 [[gnu::always_inline]] inline void blocksAt(const FilterBlock& b, const IntegerRules& rules,
                                             const SourceRows<T>& rows, ResultRows<T> dst, ptrdiff_t i,
                                             ptrdiff_t count) {
-    TwoSums sums[Sums::kSamples / kBlock];
-    Sums::at(b, rows, i, count, sums);
-    for (ptrdiff_t k = 0; k < Sums::kSamples / kBlock; k++) {
-        rules.apply(sums[k].upper);
-        storeBlock(dst.upper + i + k * kBlock, sums[k].upper);
-        if (dst.lower == nullptr) continue;
-        rules.apply(sums[k].lower);
-        storeBlock(dst.lower + i + k * kBlock, sums[k].lower);
-    }
+    const Sums sums(b, rows, i, count);
+    V16s results[Sums::kPairs];
+    rules.apply([&](auto k) { return sums.pair(k); }, results);
+    constexpr int kBlocks = Sums::kSamples / kBlock;
+    for (int k = 0; k < kBlocks; k++)
+        storeBlock(dst.upper + i + k * kBlock, results[2 * k], results[2 * k + 1]);
+    if (dst.lower == nullptr) return;
+    for (int k = 0; k < kBlocks; k++)
+        storeBlock(dst.lower + i + k * kBlock, results[2 * (kBlocks + k)], results[2 * (kBlocks + k) + 1]);
 }
 
 // Large steps first; the last block may overlap the one before it.

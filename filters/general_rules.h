@@ -5,6 +5,7 @@
 #pragma once
 
 #include "filters/general_block.h"
+#include "filters/stencil.h"
 #include "frame/simd/control.h"
 #include "frame/simd/simd.h"
 
@@ -62,13 +63,14 @@ class IntegerRules {
     Rounding direction() const { return direction_; }
     bool isQuotient() const { return rule_ == IntegerRule::Quotient; }
 
-    // Results before they saturate.
-    template <int Pairs>
-    [[gnu::always_inline]] void apply(Pair<V32s> (&sums)[Pairs]) const {
+    // out[k] is made of the sums that sumsOf(k) tells, saturated to 16 bits.
+    template <int K, class SumsOf>
+    [[gnu::always_inline]] void apply(SumsOf sumsOf, V16s (&out)[K]) const {
         const auto each = [&](auto rule) {
-            for (Pair<V32s>& x : sums) x = rule(x);
+            unroll<K>([&](auto k) { out[k] = narrow<Tpx16s>(rule(sumsOf(k))); });
         };
         const auto eachWithOffset = [&](auto rule) {
+            if (offset_ == 0) return each(rule);
             const V32s offset = splat<V32s>(offset_);
             each([&](Pair<V32s> x) {
                 const Pair<V32s> y = rule(x);
