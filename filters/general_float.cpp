@@ -13,7 +13,7 @@ inline constexpr ptrdiff_t kRegister = kLanes<Tpx32f>;
 
 // Samples of any type in as many bytes as floats have.
 template <class T>
-inline constexpr ptrdiff_t kShortRoom = kRegister * ptrdiff_t(sizeof(Tpx32f) / sizeof(T));
+inline constexpr ptrdiff_t kShortRoom = kRegister* ptrdiff_t(sizeof(Tpx32f) / sizeof(T));
 
 template <int Registers>
 struct TwoSums {

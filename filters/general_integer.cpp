@@ -59,9 +59,9 @@ struct WordSums {
     static constexpr ptrdiff_t kSamples = kBlock;
     static constexpr int kPairs = 4;
 
-    [[gnu::always_inline]] WordSums(const FilterBlock& b, const SourceRows<T>& rows, ptrdiff_t i,
-                                    ptrdiff_t count)
-        : upper{}, lower{} {
+    [[gnu::always_inline]] static WordSums at(const FilterBlock& b, const SourceRows<T>& rows, ptrdiff_t i,
+                                              ptrdiff_t count) {
+        V32s upper[4] = {}, lower[4] = {};
         forTaps<N>(b, rows, i, [&](const T* row, const T* next, const Tpx32s* weights) {
             Vec<T> first[kBlock / kLanes<T>], second[kBlock / kLanes<T>];
             loadBlock<Short>(row, count, first);
@@ -74,13 +74,11 @@ struct WordSums {
                 lower[k] += multiplyAddPairs(columns[k], forLower);
             }
         });
+        return {{{upper[0], upper[1]}, {upper[2], upper[3]}, {lower[0], lower[1]}, {lower[2], lower[3]}}};
     }
-    [[gnu::always_inline]] Pair<V32s> pair(int k) const {
-        return k < 2 ? Pair<V32s>{upper[2 * k], upper[2 * k + 1]}
-                     : Pair<V32s>{lower[2 * k - 4], lower[2 * k - 3]};
-    }
+    [[gnu::always_inline]] Pair<V32s> pair(int k) const { return pairs[k]; }
 
-    V32s upper[4], lower[4];
+    Pair<V32s> pairs[kPairs];
 };
 
 // In 16 bits, as far above the least sum as they are; Blocks times 16 samples of either row.
@@ -89,9 +87,9 @@ struct ByteSums {
     static constexpr ptrdiff_t kSamples = Blocks * kBlock;
     static constexpr int kPairs = 4 * Blocks;
 
-    [[gnu::always_inline]] ByteSums(const FilterBlock& b, const SourceRows<Tpx8u>& rows, ptrdiff_t i,
-                                    ptrdiff_t count)
-        : bias(splat<V32s>(b.sumBias)) {
+    [[gnu::always_inline]] static ByteSums at(const FilterBlock& b, const SourceRows<Tpx8u>& rows, ptrdiff_t i,
+                                              ptrdiff_t count) {
+        V16s upper[2 * Blocks], lower[2 * Blocks];
         for (int k = 0; k < 2 * Blocks; k++) upper[k] = lower[k] = splat<V16s>(Tpx16s(b.sumBias));
         forTaps<N>(b, rows, i, [&](const Tpx8u* row, const Tpx8u* next, const Tpx32s* weights) {
             V8u first[Blocks], second[Blocks];
@@ -105,13 +103,20 @@ struct ByteSums {
                 lower[k] += multiplyAddPairs(columns, forLower);
             }
         });
+        ByteSums sums;
+        sums.bias = splat<V32s>(b.sumBias);
+        unroll<2 * Blocks>([&](auto k) {
+            sums.biased[k] = upper[k];
+            sums.biased[2 * Blocks + k] = lower[k];
+        });
+        return sums;
     }
     [[gnu::always_inline]] Pair<V32s> pair(int k) const {
-        const Pair<V32u> wide = widen(V16u(k < 2 * Blocks ? upper[k] : lower[k - 2 * Blocks]));
+        const Pair<V32u> wide = widen(V16u(biased[k]));
         return {V32s(wide.low) - bias, V32s(wide.high) - bias};
     }
 
-    V16s upper[2 * Blocks], lower[2 * Blocks];
+    V16s biased[kPairs];
     V32s bias;
 };
 
@@ -136,7 +141,7 @@ template <class Sums, class T>
 [[gnu::always_inline]] inline void blocksAt(const FilterBlock& b, const IntegerRules& rules,
                                             const SourceRows<T>& rows, ResultRows<T> dst, ptrdiff_t i,
                                             ptrdiff_t count) {
-    const Sums sums(b, rows, i, count);
+    const Sums sums = Sums::at(b, rows, i, count);
     V16s results[Sums::kPairs];
     rules.apply([&](auto k) { return sums.pair(k); }, results);
     constexpr int kBlocks = Sums::kSamples / kBlock;
