@@ -57,9 +57,9 @@ constexpr int64_t stripPixels(TpxiSizeL roi, TpxiSizeL mask) {
 
 namespace border_model {
 
-// A side strip of a small mask is made in bands of rows on the stack, whose rows have room for a register
-// behind them.
-inline constexpr int64_t kBandRows = 32, kSlack = 32, kBandStep = 128, kLargestBandMask = 16;
+// A side strip of a small mask is made in bands of rows on the stack, as many as have room but at least so
+// many, whose rows have room for a register behind them.
+inline constexpr int64_t kFewestRows = 32, kBandBytes = 16384, kSlack = 32, kLargestBandMask = 16;
 
 template <int N, class S, class D, class Kernel>
 class Cut {
@@ -171,12 +171,14 @@ class Cut {
         if (call_.mask.width > kLargestBandMask || call_.mask.height > kLargestBandMask)
             return fromCopy(x, y, part, memory);
         constexpr int64_t kPixel = N * sizeof(S);
-        alignas(32) Tpx8u band[(kBandRows + kLargestBandMask) * (2 * kLargestBandMask * kPixel + kSlack)];
+        constexpr int64_t kLeast = (kFewestRows + kLargestBandMask) * (2 * kLargestBandMask * kPixel + kSlack);
+        alignas(32) Tpx8u band[kLeast > kBandBytes ? kLeast : kBandBytes];
         const int64_t width = part.width + call_.mask.width - 1;
         const ImageView<S> copy{reinterpret_cast<S*>(band),
                                 ptrdiff_t(roundUp(uint64_t(width * kPixel + kSlack), 16))};
-        for (int64_t done = 0; done < part.height; done += kBandRows) {
-            const int64_t rows = part.height - done < kBandRows ? part.height - done : kBandRows;
+        const int64_t bandRows = int64_t(sizeof band) / copy.step - (call_.mask.height - 1);
+        for (int64_t done = 0; done < part.height; done += bandRows) {
+            const int64_t rows = part.height - done < bandRows ? part.height - done : bandRows;
             makeCopy(x, y + done, {part.width, rows}, copy, width);
             run(copy.from(reach_.left * N, reach_.top), x, y + done, {part.width, rows}, kSlack);
         }

@@ -8,10 +8,10 @@ TPX_EXTERN_C_BEGIN
 
 /* ---- Mean over a mask: tpxiFilterBoxBorder ---------------------------------------------------------
  * The sum of the samples under the mask times 1 / (width x height). A mask of even side reaches one pixel
- * further to the right and below. Sums of integers are exact; the mean is their product with the reciprocal in
- * single precision, rounded to nearest with ties to even, and so the same wherever the pixel lies. Masks of
- * 32f are summed in single precision; what has left a mask leaves no rounding errors along the row, and down
- * the column none that last longer than the mask is high, or 16 rows.
+ * further to the right and below. Sums of integers are exact, as long as those of a column fit 31 bits; the
+ * mean is their product with the reciprocal in single precision, rounded to nearest with ties to even, and so
+ * the same wherever the pixel lies. Masks of 32f are summed in single precision; what has left a mask leaves no
+ * rounding errors along the row, and down the column none that last longer than the mask is high, or 16 rows.
  * AC4 keeps the destination's fourth channel.
  *
  * Sizes are in pixels, steps in bytes; steps are not compared with the rows. border: tpxBorderReplicate,
