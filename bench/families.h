@@ -16,6 +16,7 @@ void addHistograms();
 void addLookups();
 void addFixedMasks();
 void addBoxes();
+void addMedians();
 void addResizes();
 
 } // namespace bench

@@ -117,6 +117,7 @@ int run(int argc, char** argv) {
     addLookups();
     addFixedMasks();
     addBoxes();
+    addMedians();
     addResizes();
     Progress progress;
     benchmark::RunSpecifiedBenchmarks(&progress);

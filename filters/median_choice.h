@@ -12,13 +12,16 @@ constexpr bool isOdd(TpxiSizeL mask) {
 
 // Up to so many samples bisection is the faster one.
 template <class T>
-inline constexpr int64_t kMostBisected = sizeof(T) == 1 ? 45 : 100;
+inline constexpr int64_t kMostBisected = sizeof(T) == 1 ? 45 : 200;
+
+template <Layout L, class T>
+using MedianOfThree = std::conditional_t<std::is_integral_v<T>, SquareOfThree<L, T>, SquareMedian<L, 3, T>>;
 
 // run(kernel) with the region kernel for a mask of odd sides.
 template <Layout L, class T, class Run>
 void withMedianOf(TpxiSizeL mask, Run run) {
     const auto is = [mask](int width, int height) { return mask.width == width && mask.height == height; };
-    if (is(3, 3)) return run(SquareMedian<L, 3, T>());
+    if (is(3, 3)) return run(MedianOfThree<L, T>());
     if (is(5, 5)) return run(SquareMedian<L, 5, T>());
     if (is(7, 7)) return run(SquareMedian<L, 7, T>());
     if (is(9, 9)) return run(SquareMedian<L, 9, T>());

@@ -171,6 +171,79 @@ class SquareMedian {
     }
 };
 
+// The square of three. Columns are sorted once and stay in registers, from which the neighbours of a register's
+// columns are cut.
+template <Layout L, class T>
+class SquareOfThree {
+    static constexpr int N = channelsOf(L);
+    static constexpr ptrdiff_t kLane = kLanes<T>;
+    using V = Vec<T>;
+    static_assert(2 * N * sizeof(T) <= sizeof(V) && sizeof(V) == 16);
+
+    struct Sorted {
+        V low, middle, high;
+    };
+
+ public:
+    void operator()(const Region<T, T>& region) const {
+        const ptrdiff_t width = region.size.width * N;
+        for (ptrdiff_t y = 0; y < region.size.height; y++) {
+            const T* rows[3];
+            for (int r = 0; r < 3; r++) rows[r] = region.src.from(-N, y + r - 1).data;
+            T* const dst = region.dst.row(y);
+            ptrdiff_t done = 0;
+            if (width + 2 * N >= 2 * kLane) {
+                Sorted columns = sorted(rows, 0);
+                for (; done + 2 * kLane <= width + 2 * N; done += kLane) {
+                    const Sorted next = sorted(rows, done + kLane);
+                    writeRow<L>(dst + done, kLane, [&](ptrdiff_t) TPX_INLINED {
+                        return median(columns, cut<1>(columns, next), cut<2>(columns, next));
+                    });
+                    columns = next;
+                }
+            }
+            if (done < width) finish(rows, dst, done, width, region.slack);
+        }
+    }
+
+ private:
+    static Sorted sorted(const T* const* rows, ptrdiff_t i) {
+        return sorted(load(rows[0] + i), load(rows[1] + i), load(rows[2] + i));
+    }
+    static Sorted sorted(V a, V b, V c) {
+        putInOrder(a, b);
+        const V high = maxOf(b, c);
+        b = minOf(b, c);
+        return {minOf(a, b), maxOf(a, b), high};
+    }
+    // The columns so many pixels to the right.
+    template <int Pixels>
+    static Sorted cut(const Sorted& a, const Sorted& b) {
+        const auto rank = [](V x, V y) {
+            return V(_mm_alignr_epi8(__m128i(y), __m128i(x), Pixels * N * int(sizeof(T))));
+        };
+        return {rank(a.low, b.low), rank(a.middle, b.middle), rank(a.high, b.high)};
+    }
+    static V median(const Sorted& a, const Sorted& b, const Sorted& c) {
+        return medianOfThree(maxOf(maxOf(a.low, b.low), c.low), medianOfThree(a.middle, b.middle, c.middle),
+                             minOf(minOf(a.high, b.high), c.high));
+    }
+
+    // The last results of a row, fewer than two registers; the last register may overlap others.
+    static void finish(const T* const* rows, T* dst, ptrdiff_t done, ptrdiff_t width, ptrdiff_t slack) {
+        if (done > 0 && width - done < kLane) done = width - kLane;
+        writeRow<L>(dst + done, width - done, [&](ptrdiff_t i) {
+            const auto columns = [&](int pixels) {
+                const ptrdiff_t at = done + i + pixels * N, end = width + 2 * N;
+                return sorted(loadWithin(rows[0] + at, end - at, slack),
+                              loadWithin(rows[1] + at, end - at, slack),
+                              loadWithin(rows[2] + at, end - at, slack));
+            };
+            return median(columns(0), columns(1), columns(2));
+        });
+    }
+};
+
 // ---- Any mask: bisection ----------------------------------------------------------------------------------
 
 // Samples as keys, whose unsigned order is that of the samples, and the counting of samples in lanes.

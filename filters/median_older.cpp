@@ -79,7 +79,7 @@ TpxStatus weightedCentre(const Call<Tpx8u>& call, int weight) {
     };
     switch ((weight - 1) / 2) {
         case 0:
-            SquareMedian<Layout::C1, 3, Tpx8u>()(call.region());
+            SquareOfThree<Layout::C1, Tpx8u>()(call.region());
             break;
         case 1:
             run(std::integral_constant<int, 1>{});

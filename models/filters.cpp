@@ -1,5 +1,8 @@
 #include "filters.h"
 
+#include <algorithm>
+#include <vector>
+
 #include <limits>
 
 namespace tpx::model {
@@ -35,5 +38,24 @@ TPX_CORRELATE(16u, 16u)
 TPX_CORRELATE(16s, 16s)
 TPX_CORRELATE(32f, 32f)
 #undef TPX_CORRELATE
+
+template <typename T>
+void median(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, TpxiSize size, int channels,
+            TpxiSize mask) {
+    std::vector<T> samples(size_t(mask.width) * size_t(mask.height));
+    const auto middle = samples.begin() + ptrdiff_t(samples.size() / 2);
+    for (int y = 0; y < size.height; y++)
+        for (int i = 0; i < size.width * channels; i++) {
+            auto sample = samples.begin();
+            for (int r = 0; r < mask.height; r++)
+                for (int q = 0; q < mask.width; q++)
+                    *sample++ = src[(y + r - mask.height / 2) * srcStep + i + (q - mask.width / 2) * channels];
+            std::nth_element(samples.begin(), middle, samples.end());
+            dst[y * dstStep + i] = *middle;
+        }
+}
+template void median(const Tpx8u*, ptrdiff_t, Tpx8u*, ptrdiff_t, TpxiSize, int, TpxiSize);
+template void median(const Tpx16u*, ptrdiff_t, Tpx16u*, ptrdiff_t, TpxiSize, int, TpxiSize);
+template void median(const Tpx32f*, ptrdiff_t, Tpx32f*, ptrdiff_t, TpxiSize, int, TpxiSize);
 
 } // namespace tpx::model

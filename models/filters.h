@@ -15,4 +15,9 @@ template <typename S, typename D>
 void correlate(const S* src, ptrdiff_t srcStep, D* dst, ptrdiff_t dstStep, TpxiSize size, int channels,
                const int* weights, int side, float scale);
 
+// The middle one of the samples under the mask, which is centred and has odd sides.
+template <typename T>
+void median(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, TpxiSize size, int channels,
+            TpxiSize mask);
+
 } // namespace tpx::model

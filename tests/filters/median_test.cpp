@@ -119,7 +119,7 @@ void expectMedians(std::vector<FilterMask> masks) {
         });
 }
 
-const std::vector<FilterMask> kNetworks = {{3, 1}, {1, 3}, {5, 1}, {1, 5}, {3, 3}, {5, 5}, {7, 7}};
+const std::vector<FilterMask> kNetworks = {{3, 1}, {1, 3}, {5, 1}, {1, 5}, {3, 3}, {5, 5}, {7, 7}, {9, 9}};
 const std::vector<FilterMask> kOthers = {{7, 1}, {1, 9}, {3, 5}, {5, 3}, {9, 7}};
 
 TEST(Median, NetworksOf8u) { expectMedians<Tpx8u>(kNetworks); }
@@ -144,6 +144,7 @@ TEST(Median, LargeMasks) {
     for (FilterMask mask : {FilterMask{15, 15}, {17, 15}, {21, 13}, {3, 101}, {101, 3}, {25, 25}}) {
         visit(Tpx8u(), mask, 33, 29);
         visit(Tpx8u(), mask, 140, 5);
+        visit(Tpx8u(), mask, 400, 3);
         visit(Tpx16u(), mask, 33, 29);
         visit(Tpx16s(), mask, 41, 27);
         visit(Tpx32f(), mask, 33, 29);
