@@ -11,8 +11,7 @@ static_assert(offsetof(FilterBlock, scaleBase64) == 40 && offsetof(FilterBlock, 
                   offsetof(FilterBlock, numChannels) == 108 && sizeof(FilterBlock) <= kFilterHead,
               "the record is contract");
 
-// ---- Checks
-// --------------------------------------------------------------------------------------------------
+// ---- Checks -----------------------------------------------------------------------------------------------
 
 constexpr bool isInteger(TpxDataType type) {
     return type == tpxDataType8u || type == tpxDataType16u || type == tpxDataType16s;
@@ -34,8 +33,7 @@ TpxStatus checkKernel(bool isType, int channels, TpxRoundMode mode) {
     return isRoundMode(mode) ? tpxOk : tpxErrRoundMode;
 }
 
-// ---- Kernels of integers
-// -------------------------------------------------------------------------------------
+// ---- Kernels of integers ----------------------------------------------------------------------------------
 
 void setDivisor(FilterBlock& b, Tpx32s divisor) {
     const bool oneBit = divisor > 0 && (divisor & (divisor - 1)) == 0;
@@ -138,8 +136,7 @@ void initIntegers(FilterBlock& b, const Tpx16s* kernel, FilterKind kind, int div
     makeRowPairTable(b, kernel);
 }
 
-// ---- Kernels of floats
-// ---------------------------------------------------------------------------------------
+// ---- Kernels of floats ------------------------------------------------------------------------------------
 
 constexpr FilterKind floatKind(TpxDataType type) {
     return type == tpxDataType8u    ? FilterKind::Floats8u
@@ -240,8 +237,7 @@ TpxStatus sizes(TpxiSize kernel, TpxiSize roi, TpxDataType type, TpxDataType ker
 
 using namespace tpx;
 
-// ---- Entries
-// -------------------------------------------------------------------------------------------------
+// ---- Entries ----------------------------------------------------------------------------------------------
 
 TPX_ENTRY(tpxiFilterBorderGetSize)
 (TpxiSize kernelSize, TpxiSize roiSize, TpxDataType dataType, TpxDataType kernelType, int numChannels,

@@ -87,8 +87,7 @@ constexpr bool becomesFloat(TpxiSize kernel, TpxDataType type, int channels) {
                                       kernel.height == 1 || (channels == 1 && kernel.width < 3));
 }
 
-// ---- Sizes
-// ---------------------------------------------------------------------------------------------------
+// ---- Sizes ------------------------------------------------------------------------------------------------
 
 // a * b, or what is past any size.
 constexpr int64_t cappedProduct(int64_t a, int64_t b) {

@@ -6,8 +6,7 @@
 namespace tpx {
 namespace {
 
-// ---- Sums
-// ----------------------------------------------------------------------------------------------------
+// ---- Sums -------------------------------------------------------------------------------------------------
 
 inline constexpr ptrdiff_t kRegister = kLanes<Tpx32f>;
 
@@ -64,8 +63,7 @@ template <int N, bool Short, int Registers, class Rows>
     return sums;
 }
 
-// ---- Rows of results
-// -----------------------------------------------------------------------------------------
+// ---- Rows of results --------------------------------------------------------------------------------------
 
 struct NoRules {
     NoRules(const FilterBlock&, int64_t) {}
@@ -127,8 +125,7 @@ void shortRows(const FilterBlock& b, const RulesOf<T>& rules, const SourceRows<T
     if (dst.lower != nullptr) copyBlock(dst.lower, lower, len * ptrdiff_t(sizeof(T)));
 }
 
-// ---- Regions
-// -------------------------------------------------------------------------------------------------
+// ---- Regions ----------------------------------------------------------------------------------------------
 
 template <class T, int N>
 class FloatCorrelation {

@@ -1,127 +1,140 @@
 // Correlation with kernels of 16-bit integers. Two rows of results are worked on side by side: each pair of
 // source rows is interleaved, and one multiplication with addition of neighbours takes two taps of a column for
-// eight or four samples.
+// four or eight samples.
 #include "filters/general.h"
+#include "frame/images/row_ring.h"
 
 namespace tpx {
 namespace {
 
-// ---- Sums
-// ----------------------------------------------------------------------------------------------------
+// ---- Pairs of source rows ---------------------------------------------------------------------------------
 
-// Samples that are worked on at once.
+// The least that is worked on at once.
 inline constexpr ptrdiff_t kBlock = 16;
 
-// Registers of samples from an address on; none but the first `count` samples are read if Short.
-template <bool Short, class T, int Registers>
-[[gnu::always_inline]] inline void loadBlock(const T* p, ptrdiff_t count, Vec<T> (&out)[Registers]) {
-    constexpr ptrdiff_t L = kLanes<T>;
-    for (int k = 0; k < Registers; k++) {
-        if constexpr (Short) {
-            const ptrdiff_t left = count - k * L;
-            out[k] = left >= L ? load(p + k * L) : loadAtMost(p + k * L, left > 0 ? left : 0);
-        } else {
-            out[k] = load(p + k * L);
+// Samples of two rows one behind the other, in lanes of 16 bits or, if sums fit, in bytes.
+[[gnu::always_inline]] inline void interleave(V8u a, V8u b, V8u* out) {
+    out[0] = interleaveLow(a, b);
+    out[1] = interleaveHigh(a, b);
+}
+[[gnu::always_inline]] inline void interleave(V8u a, V8u b, V16s* out) {
+    const Pair<V16u> low = widen(interleaveLow(a, b)), high = widen(interleaveHigh(a, b));
+    out[0] = V16s(low.low);
+    out[1] = V16s(low.high);
+    out[2] = V16s(high.low);
+    out[3] = V16s(high.high);
+}
+[[gnu::always_inline]] inline void interleave(V16s a, V16s b, V16s* out) {
+    out[0] = interleaveLow(a, b);
+    out[1] = interleaveHigh(a, b);
+}
+// Registers that a register of samples becomes.
+template <class T, class Lane>
+inline constexpr int kSpread = 2 * int(sizeof(Lane) / sizeof(T));
+
+// Pairs that are interleaved at every tap; none but the first `count` samples from a tap on are read if Short.
+template <class T, bool Short>
+struct PairsAtTaps {
+    const SourceRows<T>& rows;
+    ptrdiff_t count;
+
+    struct Place {
+        const T *row, *next;
+        ptrdiff_t count;
+
+        template <class V, int Registers>
+        [[gnu::always_inline]] void load(V (&out)[Registers]) const {
+            constexpr int kSpreads = kSpread<T, LaneOf<V>>;
+            for (int k = 0; k < Registers / kSpreads; k++)
+                interleave(samples(row, k * kLanes<T>), samples(next, k * kLanes<T>), out + k * kSpreads);
         }
-    }
-}
+        [[gnu::always_inline]] Vec<T> samples(const T* p, ptrdiff_t at) const {
+            if constexpr (!Short) return tpx::load(p + at);
+            if (count - at >= kLanes<T>) return tpx::load(p + at);
+            return loadAtMost(p + at, count > at ? count - at : 0);
+        }
+        void advance(ptrdiff_t n) { row += n, next += n; }
+    };
+    Place at(ptrdiff_t pair, ptrdiff_t i) const { return {rows[2 * pair] + i, rows[2 * pair + 1] + i, count}; }
+};
 
-// Columns of two rows one behind the other, as registers of 16 bits.
-[[gnu::always_inline]] inline void interleaveRows(const V8u (&a)[1], const V8u (&b)[1], V16s (&out)[4]) {
-    const Pair<V16u> low = widen(interleaveLow(a[0], b[0])), high = widen(interleaveHigh(a[0], b[0]));
-    out[0] = V16s(low.low), out[1] = V16s(low.high), out[2] = V16s(high.low), out[3] = V16s(high.high);
-}
-[[gnu::always_inline]] inline void interleaveRows(const V16s (&a)[2], const V16s (&b)[2], V16s (&out)[4]) {
-    out[0] = interleaveLow(a[0], b[0]), out[1] = interleaveHigh(a[0], b[0]);
-    out[2] = interleaveLow(a[1], b[1]), out[3] = interleaveHigh(a[1], b[1]);
-}
+// Pairs that have been interleaved.
+template <class Lane>
+struct PairsInRing {
+    const RowRing<Lane>& ring;
 
-// body(row, next row, weights) for each pair of source rows and each column, all three moved to it.
-template <int N, class T, class Body>
-[[gnu::always_inline]] inline void forTaps(const FilterBlock& b, const SourceRows<T>& rows, ptrdiff_t i,
-                                           Body body) {
-    const Tpx32s* weights = rowPairTable(b);
-    const ptrdiff_t pairs = rowPairsOf(b.kernelHeight), width = b.kernelWidth;
-    for (ptrdiff_t pair = 0; pair < pairs; pair++) {
-        const T *row = rows[2 * pair] + i, *next = rows[2 * pair + 1] + i;
-        for (ptrdiff_t x = 0; x < width; x++, row += N, next += N, weights += 2) body(row, next, weights);
-    }
-}
+    struct Place {
+        const Lane* p;
+
+        template <int Registers>
+        [[gnu::always_inline]] void load(Vec<Lane> (&out)[Registers]) const {
+            for (int k = 0; k < Registers; k++) out[k] = tpx::load(p + k * kLanes<Lane>);
+        }
+        void advance(ptrdiff_t n) { p += 2 * n; }
+    };
+    Place at(ptrdiff_t pair, ptrdiff_t i) const { return {ring.at(pair) + 2 * i}; }
+};
+
+// ---- Sums -------------------------------------------------------------------------------------------------
 
 // One weight in every lane. Not from a register: as a load it costs nothing.
 [[gnu::always_inline]] inline V32s loadWeight(const Tpx32s* p) {
     return V32s(_mm_castps_si128(_mm_broadcast_ss(reinterpret_cast<const float*>(p))));
 }
 
-// Sums of two rows of results in 32 bits, for 16 samples of the upper one and then of the lower one.
-template <class T, int N, bool Short>
-struct WordSums {
-    static constexpr ptrdiff_t kSamples = kBlock;
-    static constexpr int kPairs = 4;
+// Of the upper row of results and then of the lower one: in 32 bits, or, of bytes, in 16 bits and as far above
+// the least sum as they are.
+template <class Lane, int N, int Registers>
+struct TwoSums {
+    static constexpr bool kBytes = sizeof(Lane) == 1;
+    static constexpr ptrdiff_t kSamples = Registers * kLanes<Lane> / 2;
+    static constexpr int kPairs = int(2 * kSamples / 8);
 
-    [[gnu::always_inline]] static WordSums at(const FilterBlock& b, const SourceRows<T>& rows, ptrdiff_t i,
-                                              ptrdiff_t count) {
-        V32s upper[4] = {}, lower[4] = {};
-        forTaps<N>(b, rows, i, [&](const T* row, const T* next, const Tpx32s* weights) {
-            Vec<T> first[kBlock / kLanes<T>], second[kBlock / kLanes<T>];
-            loadBlock<Short>(row, count, first);
-            loadBlock<Short>(next, count, second);
-            V16s columns[4];
-            interleaveRows(first, second, columns);
-            const V16s forUpper = V16s(loadWeight(weights)), forLower = V16s(loadWeight(weights + 1));
-            for (int k = 0; k < 4; k++) {
-                upper[k] += multiplyAddPairs(columns[k], forUpper);
-                lower[k] += multiplyAddPairs(columns[k], forLower);
+    using Sum = std::conditional_t<kBytes, V16s, V32s>;
+    using Weights = std::conditional_t<kBytes, V8s, V16s>;
+
+    template <class Pairs>
+    [[gnu::always_inline]] static TwoSums at(const FilterBlock& b, const Pairs& source, ptrdiff_t i) {
+        Sum upper[Registers], lower[Registers];
+        const Sum start = splat<Sum>(LaneOf<Sum>(kBytes ? b.sumBias : 0));
+        for (int k = 0; k < Registers; k++) upper[k] = lower[k] = start;
+        const Tpx32s* weights = rowPairTable(b);
+        const ptrdiff_t pairs = rowPairsOf(b.kernelHeight), width = b.kernelWidth;
+        for (ptrdiff_t pair = 0; pair < pairs; pair++) {
+            auto place = source.at(pair, i);
+            for (ptrdiff_t x = 0; x < width; x++, place.advance(N), weights += 2) {
+                Vec<Lane> columns[Registers];
+                place.load(columns);
+                const Weights forUpper = Weights(loadWeight(weights)),
+                              forLower = Weights(loadWeight(weights + 1));
+                for (int k = 0; k < Registers; k++) {
+                    upper[k] += multiplyAddPairs(columns[k], forUpper);
+                    lower[k] += multiplyAddPairs(columns[k], forLower);
+                }
             }
-        });
-        return {{{upper[0], upper[1]}, {upper[2], upper[3]}, {lower[0], lower[1]}, {lower[2], lower[3]}}};
-    }
-    [[gnu::always_inline]] Pair<V32s> pair(int k) const { return pairs[k]; }
-
-    Pair<V32s> pairs[kPairs];
-};
-
-// In 16 bits, as far above the least sum as they are; Blocks times 16 samples of either row.
-template <int N, bool Short, int Blocks>
-struct ByteSums {
-    static constexpr ptrdiff_t kSamples = Blocks * kBlock;
-    static constexpr int kPairs = 4 * Blocks;
-
-    [[gnu::always_inline]] static ByteSums at(const FilterBlock& b, const SourceRows<Tpx8u>& rows, ptrdiff_t i,
-                                              ptrdiff_t count) {
-        V16s upper[2 * Blocks], lower[2 * Blocks];
-        for (int k = 0; k < 2 * Blocks; k++) upper[k] = lower[k] = splat<V16s>(Tpx16s(b.sumBias));
-        forTaps<N>(b, rows, i, [&](const Tpx8u* row, const Tpx8u* next, const Tpx32s* weights) {
-            V8u first[Blocks], second[Blocks];
-            loadBlock<Short>(row, count, first);
-            loadBlock<Short>(next, count, second);
-            const V8s forUpper = V8s(loadWeight(weights)), forLower = V8s(loadWeight(weights + 1));
-            for (int k = 0; k < 2 * Blocks; k++) {
-                const V8u columns = k % 2 ? interleaveHigh(first[k / 2], second[k / 2])
-                                          : interleaveLow(first[k / 2], second[k / 2]);
-                upper[k] += multiplyAddPairs(columns, forUpper);
-                lower[k] += multiplyAddPairs(columns, forLower);
-            }
-        });
-        ByteSums sums;
+        }
+        TwoSums sums;
         sums.bias = splat<V32s>(b.sumBias);
-        unroll<2 * Blocks>([&](auto k) {
-            sums.biased[k] = upper[k];
-            sums.biased[2 * Blocks + k] = lower[k];
+        unroll<Registers>([&](auto k) {
+            sums.sums[k] = upper[k];
+            sums.sums[Registers + k] = lower[k];
         });
         return sums;
     }
     [[gnu::always_inline]] Pair<V32s> pair(int k) const {
-        const Pair<V32u> wide = widen(V16u(biased[k]));
-        return {V32s(wide.low) - bias, V32s(wide.high) - bias};
+        if constexpr (kBytes) {
+            const Pair<V32u> wide = widen(V16u(sums[k]));
+            return {V32s(wide.low) - bias, V32s(wide.high) - bias};
+        } else {
+            return {sums[2 * k], sums[2 * k + 1]};
+        }
     }
 
-    V16s biased[kPairs];
+    Sum sums[2 * Registers];
     V32s bias;
 };
 
-// ---- Rows of results
-// -----------------------------------------------------------------------------------------
+// ---- Rows of results --------------------------------------------------------------------------------------
 
 [[gnu::always_inline]] inline void storeBlock(Tpx8u* dst, V16s first, V16s second) {
     store(dst, narrow<Tpx8u>(Pair<V16s>{first, second}));
@@ -131,17 +144,16 @@ struct ByteSums {
     store(dst + 8, second);
 }
 
-// Two rows of results, or one.
+// Two rows of results; lower is null if there is one.
 template <class T>
 struct ResultRows {
-    T *upper, *lower; // lower is null if there is one
+    T *upper, *lower;
 };
 
-template <class Sums, class T>
-[[gnu::always_inline]] inline void blocksAt(const FilterBlock& b, const IntegerRules& rules,
-                                            const SourceRows<T>& rows, ResultRows<T> dst, ptrdiff_t i,
-                                            ptrdiff_t count) {
-    const Sums sums = Sums::at(b, rows, i, count);
+template <class Sums, class T, class Pairs>
+[[gnu::always_inline]] inline void resultsAt(const FilterBlock& b, const IntegerRules& rules,
+                                             const Pairs& source, ResultRows<T> dst, ptrdiff_t i) {
+    const Sums sums = Sums::at(b, source, i);
     V16s results[Sums::kPairs];
     rules.apply([&](auto k) { return sums.pair(k); }, results);
     constexpr int kBlocks = Sums::kSamples / kBlock;
@@ -152,82 +164,150 @@ template <class Sums, class T>
         storeBlock(dst.lower + i + k * kBlock, results[2 * (kBlocks + k)], results[2 * (kBlocks + k) + 1]);
 }
 
-// Large steps first; the last block may overlap the one before it.
-template <class Large, class Small, class T>
-void longRows(const FilterBlock& b, const IntegerRules& rules, const SourceRows<T>& rows, ResultRows<T> dst,
-              ptrdiff_t len) {
-    ptrdiff_t i = 0;
-    for (; i + Large::kSamples <= len; i += Large::kSamples) blocksAt<Large>(b, rules, rows, dst, i, 0);
-    for (; i + kBlock <= len; i += kBlock) blocksAt<Small>(b, rules, rows, dst, i, 0);
-    if (i < len) blocksAt<Small>(b, rules, rows, dst, len - kBlock, 0);
+// Fewer samples than a block. Up to a register of them, half of the sums are of no use and are not divided.
+template <class Sums, class T, class Pairs>
+[[gnu::always_inline]] inline void shortRows(const FilterBlock& b, const IntegerRules& rules,
+                                             const Pairs& source, ResultRows<T> dst, ptrdiff_t len) {
+    const Sums sums = Sums::at(b, source, 0);
+    V16s results[4] = {};
+    if (len <= 8) {
+        V16s firsts[2];
+        rules.apply([&](auto k) { return sums.pair(2 * k); }, firsts);
+        results[0] = firsts[0];
+        results[2] = firsts[1];
+    } else {
+        rules.apply([&](auto k) { return sums.pair(k); }, results);
+    }
+    T block[kBlock];
+    storeBlock(block, results[0], results[1]);
+    copyBlock(dst.upper, block, len * ptrdiff_t(sizeof(T)));
+    if (dst.lower == nullptr) return;
+    storeBlock(block, results[2], results[3]);
+    copyBlock(dst.lower, block, len * ptrdiff_t(sizeof(T)));
 }
 
-// Fewer samples than a block.
-template <class Sums, class T>
-void shortRows(const FilterBlock& b, const IntegerRules& rules, const SourceRows<T>& rows, ResultRows<T> dst,
-               ptrdiff_t len) {
-    T upper[kBlock], lower[kBlock];
-    blocksAt<Sums>(b, rules, rows, ResultRows<T>{upper, lower}, 0, len);
-    copyBlock(dst.upper, upper, len * ptrdiff_t(sizeof(T)));
-    if (dst.lower != nullptr) copyBlock(dst.lower, lower, len * ptrdiff_t(sizeof(T)));
-}
+// ---- Regions ----------------------------------------------------------------------------------------------
 
 template <class T, int N>
-void rowsOf(const FilterBlock& b, const IntegerRules& rules, const SourceRows<T>& rows, ResultRows<T> dst,
-            ptrdiff_t len, ptrdiff_t slack) {
-    constexpr ptrdiff_t kBlockBytes = kBlock * ptrdiff_t(sizeof(T));
-    if constexpr (sizeof(T) == 1) {
-        if (b.sumWidth == SumWidth::Bits16) {
-            if (len >= kBlock)
-                return longRows<ByteSums<N, false, 2>, ByteSums<N, false, 1>>(b, rules, rows, dst, len);
-            if (slack >= kBlockBytes) return shortRows<ByteSums<N, false, 1>>(b, rules, rows, dst, len);
-            return shortRows<ByteSums<N, true, 1>>(b, rules, rows, dst, len);
-        }
-    }
-    if (len >= kBlock) return longRows<WordSums<T, N, false>, WordSums<T, N, false>>(b, rules, rows, dst, len);
-    if (slack >= kBlockBytes) return shortRows<WordSums<T, N, false>>(b, rules, rows, dst, len);
-    return shortRows<WordSums<T, N, true>>(b, rules, rows, dst, len);
-}
+class IntegerCorrelation {
+ public:
+    IntegerCorrelation(const FilterBlock& block, const Region<T, T>& region)
+        : block_(block), region_(region), rules_(block, region.size.width), len_(region.size.width * N) {}
 
-// Sums that need 64 bits, one by one: seldom, and never but under the true quotient.
-template <class T, int N>
-void largeSums(const FilterBlock& b, const IntegerRules& rules, const SourceRows<T>& rows, T* dst,
-               ptrdiff_t len) {
-    for (ptrdiff_t i = 0; i < len; i++) {
-        Tpx64s sum = 0;
-        const Tpx16s* weight = b.kernel16 + int64_t(b.kernelWidth) * b.kernelHeight;
-        for (int y = 0; y < b.kernelHeight; y++) {
-            const T* row = rows[y] + i;
-            for (int x = 0; x < b.kernelWidth; x++, row += N) sum += Tpx64s(*--weight) * peek(row);
+    void run() const {
+        const FloatControl control(roundingAs(rules_.direction()));
+        if constexpr (sizeof(T) == 2) {
+            if (block_.sumWidth == SumWidth::Bits64 && rules_.isQuotient()) return largeSums();
+        } else {
+            if (block_.sumWidth == SumWidth::Bits16) return inLanesOf<Tpx8u>();
         }
-        poke(dst + i, T(rules.quotient(splat<V64f>(Tpx64f(sum)))[0]));
+        inLanesOf<Tpx16s>();
     }
-}
+
+ private:
+    static constexpr ptrdiff_t kRoomBytes = 24576; // for the pairs of rows that two rows of results read
+
+    SourceRows<T> source(int64_t y) const {
+        return SourceRows<T>(region_, y, block_.kernelWidth, block_.kernelHeight, N);
+    }
+    ResultRows<T> results(int64_t y, ptrdiff_t from) const {
+        return {region_.dst.row(y) + from,
+                y + 1 < region_.size.height ? region_.dst.row(y + 1) + from : nullptr};
+    }
+    ptrdiff_t reach() const { return (block_.kernelWidth - 1) * N; }
+
+    template <class Lane>
+    void inLanesOf() const {
+        using Small = TwoSums<Lane, N, sizeof(Lane) == 1 ? 2 : 4>;
+        const ptrdiff_t room =
+            kRoomBytes / (2 * ptrdiff_t(sizeof(Lane)) * rowPairsOf(block_.kernelHeight)) - reach();
+        if (len_ >= kBlock && room >= 4 * kBlock) return throughRing<Lane>(room);
+        for (int64_t y = 0; y < region_.size.height; y += 2) {
+            const SourceRows<T> rows = source(y);
+            if (len_ >= kBlock)
+                longRows<Lane>(PairsAtTaps<T, false>{rows, 0}, results(y, 0), len_);
+            else if (region_.slack >= kBlock * ptrdiff_t(sizeof(T)))
+                shortRows<Small>(block_, rules_, PairsAtTaps<T, false>{rows, 0}, results(y, 0), len_);
+            else
+                shortRows<Small>(block_, rules_, PairsAtTaps<T, true>{rows, len_}, results(y, 0), len_);
+        }
+    }
+
+    // Large steps first; the last block may overlap the one before it.
+    template <class Lane, class Pairs>
+    void longRows(const Pairs& pairs, ResultRows<T> dst, ptrdiff_t len) const {
+        using Large = TwoSums<Lane, N, 4>;
+        using Small = TwoSums<Lane, N, sizeof(Lane) == 1 ? 2 : 4>;
+        ptrdiff_t i = 0;
+        for (; i + Large::kSamples <= len; i += Large::kSamples)
+            resultsAt<Large>(block_, rules_, pairs, dst, i);
+        if (sizeof(Lane) == 1 && i + kBlock <= len) {
+            resultsAt<Small>(block_, rules_, pairs, dst, i);
+            i += kBlock;
+        }
+        if (i < len) resultsAt<Small>(block_, rules_, pairs, dst, len - kBlock);
+    }
+
+    // Pairs are interleaved once, into a ring, and the image is taken in bands of columns for which the ring is
+    // small. Kernels that are too large for it interleave at every tap.
+    template <class Lane>
+    void throughRing(ptrdiff_t room) const {
+        alignas(32) Lane memory[kRoomBytes / sizeof(Lane)];
+        const SourceRows<T> rows = source(0);
+        const ptrdiff_t band = room & -2 * kBlock;
+        for (ptrdiff_t from = 0, len; from < len_; from += len) {
+            len = len_ - from < band ? len_ - from : band;
+            const ptrdiff_t rest = len_ - from - len; // no band is shorter than a block
+            if (rest > 0 && rest < kBlock) len -= kBlock;
+            RowRing<Lane> ring(memory, 2 * (len + reach()), rowPairsOf(block_.kernelHeight));
+            for (int64_t y = 0; y < region_.size.height; y += 2) {
+                ring.moveTo(y / 2, [&](int64_t pair, Lane* lanes) {
+                    interleaveRun(rows[2 * pair] + from, rows[2 * pair + 1] + from, lanes, len + reach());
+                });
+                longRows<Lane>(PairsInRing<Lane>{ring}, results(y, from), len);
+            }
+        }
+    }
+    template <class Lane>
+    static void interleaveRun(const T* row, const T* next, Lane* dst, ptrdiff_t len) {
+        const auto at = [&](ptrdiff_t i) {
+            Vec<Lane> out[kSpread<T, Lane>];
+            interleave(load(row + i), load(next + i), out);
+            for (int k = 0; k < kSpread<T, Lane>; k++) store(dst + 2 * i + k * kLanes<Lane>, out[k]);
+        };
+        ptrdiff_t i = 0;
+        for (; i + kLanes<T> <= len; i += kLanes<T>) at(i);
+        if (i < len) at(len - kLanes<T>);
+    }
+
+    // Sums that need 64 bits, one by one: seldom, and never but under the true quotient.
+    void largeSums() const {
+        for (int64_t y = 0; y < region_.size.height; y++) {
+            const SourceRows<T> rows = source(y);
+            T* const dst = region_.dst.row(y);
+            for (ptrdiff_t i = 0; i < len_; i++) {
+                Tpx64s sum = 0;
+                const Tpx16s* weight = block_.kernel16 + int64_t(block_.kernelWidth) * block_.kernelHeight;
+                for (int r = 0; r < block_.kernelHeight; r++) {
+                    const T* row = rows[r] + i;
+                    for (int x = 0; x < block_.kernelWidth; x++, row += N) sum += Tpx64s(*--weight) * peek(row);
+                }
+                poke(dst + i, T(rules_.quotient(splat<V64f>(Tpx64f(sum)))[0]));
+            }
+        }
+    }
+
+    const FilterBlock& block_;
+    const Region<T, T>& region_;
+    IntegerRules rules_;
+    ptrdiff_t len_;
+};
 
 } // namespace
 
 template <class T, int N>
 void correlateIntegers(const FilterBlock& block, const Region<T, T>& region) {
-    const IntegerRules rules(block, region.size.width);
-    const FloatControl control(roundingAs(rules.direction()));
-    const ptrdiff_t len = region.size.width * N;
-    const bool large = block.sumWidth == SumWidth::Bits64 && rules.isQuotient();
-    for (int64_t y = 0; y < region.size.height; y += 2) {
-        const SourceRows<T> rows(region, y, block.kernelWidth, block.kernelHeight, N);
-        T *const upper = region.dst.row(y), *const lower =
-                                                y + 1 < region.size.height ? region.dst.row(y + 1) : nullptr;
-        if constexpr (sizeof(T) == 2) {
-            if (large) {
-                largeSums<T, N>(block, rules, rows, upper, len);
-                if (lower != nullptr)
-                    largeSums<T, N>(block, rules,
-                                    SourceRows<T>(region, y + 1, block.kernelWidth, block.kernelHeight, N),
-                                    lower, len);
-                continue;
-            }
-        }
-        rowsOf<T, N>(block, rules, rows, {upper, lower}, len, region.slack);
-    }
+    IntegerCorrelation<T, N>(block, region).run();
 }
 template void correlateIntegers<Tpx8u, 1>(const FilterBlock&, const Region<Tpx8u, Tpx8u>&);
 template void correlateIntegers<Tpx8u, 3>(const FilterBlock&, const Region<Tpx8u, Tpx8u>&);

@@ -12,8 +12,7 @@
 namespace tpx::test {
 namespace {
 
-// ---- The caller's side
-// ---------------------------------------------------------------------------------------
+// ---- The caller's side ------------------------------------------------------------------------------------
 
 template <class T>
 constexpr TpxDataType typeOf() {
@@ -96,8 +95,7 @@ TPX_FILTERS(16u)
 TPX_FILTERS(16s)
 TPX_FILTERS(32f)
 
-// ---- The model
-// -----------------------------------------------------------------------------------------------
+// ---- The model --------------------------------------------------------------------------------------------
 
 // The width of the region that (x, y) is worked on in: all of it, a strip at a side, or what they leave.
 int regionWidth(TpxiSize roi, FilterMask m, unsigned border, int x, int y) {
@@ -277,8 +275,7 @@ class Model {
     bool isFloat_;
 };
 
-// ---- Sweeps
-// --------------------------------------------------------------------------------------------------
+// ---- Sweeps -----------------------------------------------------------------------------------------------
 
 const TpxiSize kKernels[] = {{3, 3}, {5, 5}, {3, 2}, {1, 1}, {1, 3}, {3, 1}, {7, 7}, {2, 2}, {4, 4},  {5, 3},
                              {1, 2}, {2, 1}, {1, 7}, {9, 1}, {2, 5}, {8, 3}, {3, 8}, {6, 1}, {11, 2}, {4, 3}};
@@ -423,8 +420,7 @@ TEST(General, LargeKernels) {
     }
 }
 
-// ---- The thread's direction of rounding
-// ----------------------------------------------------------------------
+// ---- The thread's direction of rounding -------------------------------------------------------------------
 
 TEST(General, DirectionOfTheControlRegister) {
     GuardedImage<Tpx8u> src(32, 4, 1), dst(32, 4, 1);
@@ -456,8 +452,7 @@ TEST(General, DirectionOfTheControlRegister) {
     }
 }
 
-// ---- Sizes, blocks, statuses
-// ---------------------------------------------------------------------------------
+// ---- Sizes, blocks, statuses ------------------------------------------------------------------------------
 
 TEST(General, SizesOfBlockAndBuffer) {
     struct Sizes {
