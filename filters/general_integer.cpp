@@ -45,8 +45,12 @@ struct PairsAtTaps {
         template <class V, int Registers>
         [[gnu::always_inline]] void load(V (&out)[Registers]) const {
             constexpr int kSpreads = kSpread<T, LaneOf<V>>;
-            for (int k = 0; k < Registers / kSpreads; k++)
-                interleave(samples(row, k * kLanes<T>), samples(next, k * kLanes<T>), out + k * kSpreads);
+            for (int k = 0; k < Registers; k += kSpreads) {
+                V spread[kSpreads];
+                const ptrdiff_t from = k / kSpreads * kLanes<T>;
+                interleave(samples(row, from), samples(next, from), spread);
+                for (int j = 0; j < kSpreads && k + j < Registers; j++) out[k + j] = spread[j];
+            }
         }
         [[gnu::always_inline]] Vec<T> samples(const T* p, ptrdiff_t at) const {
             if constexpr (!Short) return tpx::load(p + at);
@@ -164,25 +168,18 @@ template <class Sums, class T, class Pairs>
         storeBlock(dst.lower + i + k * kBlock, results[2 * (kBlocks + k)], results[2 * (kBlocks + k) + 1]);
 }
 
-// Fewer samples than a block. Up to a register of them, half of the sums are of no use and are not divided.
+// Fewer samples than a block, in sums for a block or for half of one.
 template <class Sums, class T, class Pairs>
 [[gnu::always_inline]] inline void shortRows(const FilterBlock& b, const IntegerRules& rules,
                                              const Pairs& source, ResultRows<T> dst, ptrdiff_t len) {
     const Sums sums = Sums::at(b, source, 0);
-    V16s results[4] = {};
-    if (len <= 8) {
-        V16s firsts[2];
-        rules.apply([&](auto k) { return sums.pair(2 * k); }, firsts);
-        results[0] = firsts[0];
-        results[2] = firsts[1];
-    } else {
-        rules.apply([&](auto k) { return sums.pair(k); }, results);
-    }
+    V16s results[Sums::kPairs] = {};
+    rules.apply([&](auto k) { return sums.pair(k); }, results);
     T block[kBlock];
-    storeBlock(block, results[0], results[1]);
+    storeBlock(block, results[0], results[Sums::kPairs / 2 - 1]);
     copyBlock(dst.upper, block, len * ptrdiff_t(sizeof(T)));
     if (dst.lower == nullptr) return;
-    storeBlock(block, results[2], results[3]);
+    storeBlock(block, results[Sums::kPairs / 2], results[Sums::kPairs - 1]);
     copyBlock(dst.lower, block, len * ptrdiff_t(sizeof(T)));
 }
 
@@ -218,26 +215,38 @@ class IntegerCorrelation {
 
     template <class Lane>
     void inLanesOf() const {
-        using Small = TwoSums<Lane, N, sizeof(Lane) == 1 ? 2 : 4>;
         const ptrdiff_t room =
             kRoomBytes / (2 * ptrdiff_t(sizeof(Lane)) * rowPairsOf(block_.kernelHeight)) - reach();
-        if (len_ >= kBlock && room >= 4 * kBlock) return throughRing<Lane>(room);
+        // Narrow kernels would not gain by it.
+        if (len_ >= kBlock && room >= 4 * kBlock && block_.kernelWidth >= 3) return throughRing<Lane>(room);
         for (int64_t y = 0; y < region_.size.height; y += 2) {
             const SourceRows<T> rows = source(y);
             if (len_ >= kBlock)
                 longRows<Lane>(PairsAtTaps<T, false>{rows, 0}, results(y, 0), len_);
             else if (region_.slack >= kBlock * ptrdiff_t(sizeof(T)))
-                shortRows<Small>(block_, rules_, PairsAtTaps<T, false>{rows, 0}, results(y, 0), len_);
+                shortRows<Lane>(PairsAtTaps<T, false>{rows, 0}, results(y, 0));
             else
-                shortRows<Small>(block_, rules_, PairsAtTaps<T, true>{rows, len_}, results(y, 0), len_);
+                shortRows<Lane>(PairsAtTaps<T, true>{rows, len_}, results(y, 0));
         }
+    }
+
+    // Registers of lanes that a block takes.
+    template <class Lane>
+    static constexpr int kBlockRegisters = 2 * int(kBlock) / kLanes<Lane>;
+
+    template <class Lane, class Pairs>
+    void shortRows(const Pairs& pairs, ResultRows<T> dst) const {
+        if (len_ <= kBlock / 2)
+            tpx::shortRows<TwoSums<Lane, N, kBlockRegisters<Lane> / 2>>(block_, rules_, pairs, dst, len_);
+        else
+            tpx::shortRows<TwoSums<Lane, N, kBlockRegisters<Lane>>>(block_, rules_, pairs, dst, len_);
     }
 
     // Large steps first; the last block may overlap the one before it.
     template <class Lane, class Pairs>
     void longRows(const Pairs& pairs, ResultRows<T> dst, ptrdiff_t len) const {
         using Large = TwoSums<Lane, N, 4>;
-        using Small = TwoSums<Lane, N, sizeof(Lane) == 1 ? 2 : 4>;
+        using Small = TwoSums<Lane, N, kBlockRegisters<Lane>>;
         ptrdiff_t i = 0;
         for (; i + Large::kSamples <= len; i += Large::kSamples)
             resultsAt<Large>(block_, rules_, pairs, dst, i);
