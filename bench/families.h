@@ -17,6 +17,7 @@ void addLookups();
 void addFixedMasks();
 void addBoxes();
 void addMedians();
+void addGeneralFilters();
 void addResizes();
 
 } // namespace bench

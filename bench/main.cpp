@@ -118,6 +118,7 @@ int run(int argc, char** argv) {
     addFixedMasks();
     addBoxes();
     addMedians();
+    addGeneralFilters();
     addResizes();
     Progress progress;
     benchmark::RunSpecifiedBenchmarks(&progress);
