@@ -60,7 +60,9 @@ inline constexpr TapsOf<mask> kTaps;
 // body(std::integral_constant<int, 0>), ... for N numbers.
 template <int N, class Body>
 [[gnu::always_inline]] inline void unroll(Body body) {
-    [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline)) { (body(std::integral_constant<int, I>{}), ...); }
+    [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline)) {
+        (body(std::integral_constant<int, I>{}), ...);
+    }
     (std::make_integer_sequence<int, N>{});
 }
 
