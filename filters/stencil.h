@@ -70,11 +70,10 @@ template <int N, class Body>
 // column of the mask; columns are N samples apart.
 template <const auto& mask, int N>
 [[gnu::always_inline]] inline Pair<V16s> maskSums(const Tpx8u* const* rows, ptrdiff_t i) {
-    constexpr auto& taps = kTaps<mask>;
-    static_assert(taps.largestSum() <= 32767);
+    static_assert(kTaps<mask>.largestSum() <= 32767);
     Pair<V16s> sums{};
-    unroll<taps.count / 2>([&](auto pair) {
-        constexpr Tap a = taps.at[2 * pair], b = taps.at[2 * pair + 1];
+    unroll<kTaps<mask>.count / 2>([&](auto pair) {
+        constexpr Tap a = kTaps<mask>.at[2 * pair], b = kTaps<mask>.at[2 * pair + 1];
         const V8u x = load(rows[a.row] + i + a.column * N), y = load(rows[b.row] + i + b.column * N);
         const V8s weights = V8s(splat<V16s>(Tpx16s((a.weight & 0xFF) | b.weight * 256)));
         sums.low += multiplyAddPairs(interleaveLow(x, y), weights);
@@ -84,10 +83,9 @@ template <const auto& mask, int N>
 }
 template <const auto& mask, int N>
 [[gnu::always_inline]] inline Pair<V32s> maskSums(const Tpx16s* const* rows, ptrdiff_t i) {
-    constexpr auto& taps = kTaps<mask>;
     Pair<V32s> sums{};
-    unroll<taps.count / 2>([&](auto pair) {
-        constexpr Tap a = taps.at[2 * pair], b = taps.at[2 * pair + 1];
+    unroll<kTaps<mask>.count / 2>([&](auto pair) {
+        constexpr Tap a = kTaps<mask>.at[2 * pair], b = kTaps<mask>.at[2 * pair + 1];
         const V16s x = load(rows[a.row] + i + a.column * N), y = load(rows[b.row] + i + b.column * N);
         const V16s weights = V16s(splat<V32s>((a.weight & 0xFFFF) | b.weight * 65536));
         sums.low += multiplyAddPairs(interleaveLow(x, y), weights);
@@ -98,10 +96,9 @@ template <const auto& mask, int N>
 // In the order of the taps, each product and sum rounded.
 template <const auto& mask, int N>
 [[gnu::always_inline]] inline V32f maskSums(const Tpx32f* const* rows, ptrdiff_t i) {
-    constexpr auto& taps = kTaps<mask>;
     V32f sum{};
-    unroll<taps.count>([&](auto k) {
-        constexpr Tap tap = taps.at[k];
+    unroll<kTaps<mask>.count>([&](auto k) {
+        constexpr Tap tap = kTaps<mask>.at[k];
         if constexpr (tap.weight != 0) {
             const V32f x = load(rows[tap.row] + i + tap.column * N);
             if constexpr (k == 0)
