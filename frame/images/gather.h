@@ -78,10 +78,10 @@ inline Pair<RealVec<T>> loadPairs(At at) {
 template <class At, class T = SampleAt<At>>
 inline Several<RealVec<T>, 4> loadQuads(At at) {
     if constexpr (sizeof(T) == 8) {
-        return transpose({load(at(0)), load(at(1)), load(at(2)), load(at(3))});
+        return transpose(Several<V64f, 4>{{load(at(0)), load(at(1)), load(at(2)), load(at(3))}});
     } else {
         const auto two = [&](int k) { return joinHalves<V32f>(loadFour(at(k)), loadFour(at(k + 4))); };
-        return transpose({two(0), two(1), two(2), two(3)});
+        return transpose(Several<V32f, 4>{{two(0), two(1), two(2), two(3)}});
     }
 }
 

@@ -114,9 +114,11 @@ TEST(WindowSums, MeansOf64f) {
     unsigned seed = 0;
     for (const TpxiSize mask : {TpxiSize{1, 1}, {3, 3}, {5, 5}, {2, 1}, {1, 4}, {6, 7}, {15, 15}, {3, 20}})
         for (int width : {1, 2, 3, 4, 5, 7, 8, 9, 31, 64})
-            for (int height : {1, 2, 41})
+            for (int height : {1, 2, 41}) {
                 expectMeans64f({width, height}, mask, {int(seed) % mask.width, int(seed / 3) % mask.height},
-                               ++seed);
+                               seed + 1);
+                seed++;
+            }
     expectMeans64f({2100, 3}, {4, 3}, {0, 0}, 1);
     expectMeans64f({5, 3}, {1300, 2}, {700, 1}, 2);
     expectMeans64f({3, 3}, {3, 3}, {5, -4}, 3); // the anchor need not lie on the mask
