@@ -12,7 +12,8 @@ namespace {
 // Products of two sides may go past 64 bits.
 __extension__ typedef __int128 Bytes;
 
-constexpr Bytes roundedUp(Bytes n, int unit) { return (n + unit - 1) / unit * unit; }
+// The unit is a power of two, since a division of 128 bits would be a call of the compiler's library.
+constexpr Bytes roundedUp(Bytes n, int unit) { return (n + unit - 1) & -Bytes(unit); }
 constexpr Bytes larger(Bytes a, Bytes b) { return a > b ? a : b; }
 
 Bytes workBytes(TpxiSizeL mask, TpxDataType type, int sampleBytes) {
