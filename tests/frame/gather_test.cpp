@@ -23,7 +23,7 @@ struct Row {
 
     Row(int channels, Edge edge)
         : image(kPixels, 1, channels, {0, edge, edge == Edge::End ? 0 : 1}), channels(channels) {
-        for (int i = 0; i < kPixels * channels; i++) image.data()[i] = T(i * 677 - 30000);
+        for (int i = 0; i < kPixels * channels; i++) poke(image.data() + i, T(i * 677 - 30000));
     }
     const T* data() { return image.data(); }
 
@@ -49,13 +49,13 @@ void checkNeighbours() {
             row.positions(at, 2, random);
             const auto pairs = loadPairs(InRow<T>{samples, at});
             for (int i = 0; i < L; i++) {
-                ASSERT_EQ(pairs.low[i], F(samples[at[i]])) << at[i];
-                ASSERT_EQ(pairs.high[i], F(samples[at[i] + 1])) << at[i];
+                ASSERT_EQ(pairs.low[i], F(peek(samples + at[i]))) << at[i];
+                ASSERT_EQ(pairs.high[i], F(peek(samples + at[i] + 1))) << at[i];
             }
             row.positions(at, 4, random);
             const auto quads = loadQuads(InRow<T>{samples, at});
             for (int i = 0; i < L; i++)
-                for (int k = 0; k < 4; k++) ASSERT_EQ(quads.at[k][i], F(samples[at[i] + k])) << at[i];
+                for (int k = 0; k < 4; k++) ASSERT_EQ(quads.at[k][i], F(peek(samples + at[i] + k))) << at[i];
         }
     }
 }
@@ -68,7 +68,7 @@ void checkPixels() {
             const T* const first = row.data() + x * N;
             const auto pixels = loadPixels<N, Count>(first);
             for (int k = 0; k < Count; k++)
-                for (int c = 0; c < N; c++) ASSERT_EQ(pixels.at[k][c], RealOf<T>(first[k * N + c])) << x;
+                for (int c = 0; c < N; c++) ASSERT_EQ(pixels.at[k][c], RealOf<T>(peek(first + k * N + c))) << x;
         }
     }
 }
