@@ -120,7 +120,4 @@ inline F powerOfTwo(int n) {
         return __builtin_bit_cast(F, (Tpx32u(n) + 127) << 23);
 }
 
-// 1 / x to about 12 bits; processors differ in the rest.
-inline float reciprocalEstimate(float x) { return _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(x))); }
-
 } // namespace tpx

@@ -1,5 +1,4 @@
 #include "geometry/resize/weights.h"
-#include "frame/simd/real.h"
 
 namespace tpx {
 
@@ -80,7 +79,7 @@ void buildCubic(const Tpx32f* fractions, int64_t count, Tpx32f valueB, Tpx32f va
 
 namespace {
 
-// sin(pi * n / d) for n >= 0. The reduction is exact, so whole multiples of pi give exactly 0.
+// sin(pi * n / d) for n >= 0. The reduction is exact, so whole multiples of pi give exactly 0, and no -0.
 constexpr double sinPi(int n, int d) {
     n %= 2 * d;
     const bool negative = n >= d;
@@ -92,7 +91,7 @@ constexpr double sinPi(int n, int d) {
         term *= -x * x / (k * (k + 1));
         sum += term;
     }
-    return negative ? -sum : sum;
+    return negative ? 0 - sum : sum;
 }
 
 constexpr double sinc(int n, int d) { return n == 0 ? 1 : sinPi(n, d) / (3.14159265358979323846 * n / d); }
@@ -125,9 +124,9 @@ void fillLanczos(const Tpx32f* fractions, int64_t count, const Table& table, Tpx
             weights[k] = weight;
             sum += weight;
         }
-        const Tpx32f r = reciprocalEstimate(sum);
-        const Tpx32f reciprocal = 2 * r - sum * r * r;
-        for (int k = 0; k < 2 * Lobes; k++) weights[k] *= reciprocal;
+        // Each is divided, not multiplied by an estimate of 1 / sum, which processors make differently: plans
+        // are the same bytes everywhere, and where the sum is 1 the weights stay as they are.
+        for (int k = 0; k < 2 * Lobes; k++) weights[k] /= sum;
     }
 }
 
