@@ -212,25 +212,25 @@ inline void mapPixelRun(ptrdiff_t pixels, Rule rule, Dst dst, Src... src) {
 // are fetched ahead. One line of each channel at a time is enough. Not in place. The caller fences once.
 template <class Rule, class Dst, class... Src>
 inline void mapPixelRunStreaming(ptrdiff_t pixels, Rule rule, Dst dst, Src... src) {
-    constexpr ptrdiff_t P = Dst::kPixels, kTurn = kLineBytes / kBlockBytes * P;
+    constexpr ptrdiff_t P = Dst::kPixels, kIteration = kLineBytes / kBlockBytes * P;
     constexpr ptrdiff_t kPage = 4096 / kBlockBytes * P;
-    const auto turns = [&]<int Places>(std::integral_constant<int, Places>, ptrdiff_t at, ptrdiff_t apart) {
+    const auto iterate = [&]<int Places>(std::integral_constant<int, Places>, ptrdiff_t at, ptrdiff_t apart) {
         alignas(kLineBytes) Tpx8u lines[Places][Dst::kRegisters * kLineBytes];
-        for (int place = 0; place < Places; place++) (..., src.fetch(at + place * apart, kTurn));
+        for (int place = 0; place < Places; place++) (..., src.fetch(at + place * apart, kIteration));
         for (int place = 0; place < Places; place++)
-            for (ptrdiff_t i = 0; i < kTurn; i += P)
+            for (ptrdiff_t i = 0; i < kIteration; i += P)
                 Dst::over(lines[place], kLineBytes).store(i, rule(src.load(at + place * apart + i)...));
         for (int place = 0; place < Places; place++) dst.stream(at + place * apart, lines[place], kLineBytes);
     };
 
     const ptrdiff_t head = dst.pixelsToLine();
-    if (head == kLineBytes || pixels < head + kTurn) return mapPixelRun(pixels, rule, dst, src...);
+    if (head == kLineBytes || pixels < head + kIteration) return mapPixelRun(pixels, rule, dst, src...);
     if (head) mapPixelRun(head, rule, dst, src...);
     ptrdiff_t x = head;
-    x += walkFourStreams(pixels - head, kTurn, kPage, 16 * kPage, [&](ptrdiff_t at, ptrdiff_t apart) {
-        turns(std::integral_constant<int, 4>{}, head + at, apart);
+    x += walkFourStreams(pixels - head, kIteration, kPage, 16 * kPage, [&](ptrdiff_t at, ptrdiff_t apart) {
+        iterate(std::integral_constant<int, 4>{}, head + at, apart);
     });
-    for (; x + kTurn <= pixels; x += kTurn) turns(std::integral_constant<int, 1>{}, x, 0);
+    for (; x + kIteration <= pixels; x += kIteration) iterate(std::integral_constant<int, 1>{}, x, 0);
     if (x < pixels) mapPixelRun(pixels - x, rule, dst.from(x), src.from(x)...);
 }
 

@@ -47,28 +47,29 @@ inline void copyEnds(char* d, const char* s, int64_t bytes) {
     last.storeTo(d + bytes - N * kBlock);
 }
 
-constexpr int64_t kTurn = 4 * kBlock;
+constexpr int64_t kIteration = 4 * kBlock;
 
 template <bool Backward>
 inline void copyBlocks(char* d, const char* s, int64_t bytes) {
     if (bytes < kBlock) return copyShort(d, s, bytes);
     if (bytes <= 2 * kBlock) return copyEnds<1>(d, s, bytes);
-    if (bytes <= kTurn) return copyEnds<2>(d, s, bytes);
-    // The turns store on the boundaries of registers. What they leave is less than a turn.
+    if (bytes <= kIteration) return copyEnds<2>(d, s, bytes);
+    // Iterations store on the boundaries of registers. What they leave is less than one.
     const auto address = reinterpret_cast<uintptr_t>(d);
     if constexpr (Backward) {
         const Blocks<4> first(s);
         const Block last = loadBlock(s + bytes - kBlock);
-        for (int64_t i = bytes - ((address + uintptr_t(bytes)) & (kBlock - 1)) - kTurn; i > 0; i -= kTurn)
+        for (int64_t i = bytes - ((address + uintptr_t(bytes)) & (kBlock - 1)) - kIteration; i > 0;
+             i -= kIteration)
             Blocks<4>(s + i).storeTo(d + i);
         storeBlock(d + bytes - kBlock, last);
         first.storeTo(d);
     } else {
         const Block first = loadBlock(s);
-        const Blocks<4> last(s + bytes - kTurn);
-        for (int64_t i = -address & (kBlock - 1); i < bytes - kTurn; i += kTurn)
+        const Blocks<4> last(s + bytes - kIteration);
+        for (int64_t i = -address & (kBlock - 1); i < bytes - kIteration; i += kIteration)
             Blocks<4>(s + i).storeTo(d + i);
-        last.storeTo(d + bytes - kTurn);
+        last.storeTo(d + bytes - kIteration);
         storeBlock(d, first);
     }
 }
@@ -100,7 +101,8 @@ struct PhasedPattern {
     }
 };
 
-// Three blocks, and so three lines, are a whole number of periods: a turn stores the same three registers.
+// Three blocks, and so three lines, are a whole number of periods: an iteration stores the same three
+// registers.
 static_assert(3 * kBlock % Pattern::kPeriod == 0);
 
 void fillRow(void* dst, int64_t bytes, const Pattern& pattern) {

@@ -27,30 +27,31 @@ void copyRowStreaming(void* dst, const void* src, int64_t bytes);
 // their sources are fetched ahead.
 template <int G = 1, class D, class At, class Fetch, class Plain>
 inline void writeRunStreaming(D* dst, ptrdiff_t len, At at, Fetch fetch, Plain plain) {
-    constexpr ptrdiff_t L = kLanes<D>, kTurn = G * 128 / sizeof(D);
+    constexpr ptrdiff_t L = kLanes<D>, kIteration = G * 128 / sizeof(D);
     constexpr ptrdiff_t kPage = G * 4096 / sizeof(D), kLongest = 16 * kPage;
-    const auto turns = [&]<int Places>(std::integral_constant<int, Places>, ptrdiff_t begin, ptrdiff_t apart) {
-        alignas(kLineBytes) D block[Places * kTurn];
-        for (int place = 0; place < Places; place++) fetch(begin + place * apart, kTurn);
+    const auto iterate = [&]<int Places>(std::integral_constant<int, Places>, ptrdiff_t begin,
+                                         ptrdiff_t apart) {
+        alignas(kLineBytes) D block[Places * kIteration];
+        for (int place = 0; place < Places; place++) fetch(begin + place * apart, kIteration);
         for (int place = 0; place < Places; place++)
-            for (int k = 0; k < kTurn / L; k++)
-                store(block + place * kTurn + k * L, at(begin + place * apart + k * L, k % G));
+            for (int k = 0; k < kIteration / L; k++)
+                store(block + place * kIteration + k * L, at(begin + place * apart + k * L, k % G));
         for (int place = 0; place < Places; place++)
-            for (int i = 0; i < kTurn; i += L)
-                streamStore(dst + begin + place * apart + i, load(block + place * kTurn + i));
+            for (int i = 0; i < kIteration; i += L)
+                streamStore(dst + begin + place * apart + i, load(block + place * kIteration + i));
     };
 
     // The bulk begins on a line of the destination and with a group: a line's samples and G have no common
     // divisor.
     ptrdiff_t head = bytesToLine(dst) / ptrdiff_t(sizeof(D));
     while (head % G) head += kLineBytes / ptrdiff_t(sizeof(D));
-    if (len < head + kTurn || bytesToLine(dst + head) != 0) return plain(0, len);
+    if (len < head + kIteration || bytesToLine(dst + head) != 0) return plain(0, len);
     if (head) plain(0, head);
     ptrdiff_t i = head;
-    i += walkFourStreams(len - head, kTurn, kPage, kLongest, [&](ptrdiff_t at, ptrdiff_t apart) {
-        turns(std::integral_constant<int, 4>{}, head + at, apart);
+    i += walkFourStreams(len - head, kIteration, kPage, kLongest, [&](ptrdiff_t at, ptrdiff_t apart) {
+        iterate(std::integral_constant<int, 4>{}, head + at, apart);
     });
-    for (; i + kTurn <= len; i += kTurn) turns(std::integral_constant<int, 1>{}, i, 0);
+    for (; i + kIteration <= len; i += kIteration) iterate(std::integral_constant<int, 1>{}, i, 0);
     if (i < len) plain(i, len - i);
 }
 

@@ -71,18 +71,18 @@ inline void streamLines(Tpx8u* dst, const Tpx8u* lines, ptrdiff_t bytes) {
     }
 }
 
-// Memory serves several streams faster than one: turn(i, apart) works at the four places i, i + apart, ... so
-// that most of a long run is covered, and the number of samples that have been is returned. A stream goes on
+// Memory serves several streams faster than one: iterate(i, apart) works at the four places i, i + apart, ...
+// so that most of a long run is covered, and the number of samples that have been is returned. A stream goes on
 // for many pages, since the processor has to find out anew what one that begins will read. Lengths are in
-// samples: `page` of one page, `longest` of one stream, both whole turns.
-template <class Turn>
-inline ptrdiff_t walkFourStreams(ptrdiff_t len, ptrdiff_t turnLength, ptrdiff_t page, ptrdiff_t longest,
-                                 Turn turn) {
+// samples: `page` of one page, `longest` of one stream, both whole iterations.
+template <class Iterate>
+inline ptrdiff_t walkFourStreams(ptrdiff_t len, ptrdiff_t iteration, ptrdiff_t page, ptrdiff_t longest,
+                                 Iterate iterate) {
     ptrdiff_t i = 0;
     while (len - i >= 4 * page) {
-        const ptrdiff_t quarter = (len - i) / 4 / turnLength * turnLength;
+        const ptrdiff_t quarter = (len - i) / 4 / iteration * iteration;
         const ptrdiff_t apart = quarter < longest ? quarter : longest;
-        for (ptrdiff_t j = 0; j < apart; j += turnLength) turn(i + j, apart);
+        for (ptrdiff_t j = 0; j < apart; j += iteration) iterate(i + j, apart);
         i += 4 * apart;
     }
     return i;
