@@ -145,12 +145,6 @@ struct WindowTile {
     }
 };
 
-// The lanes K places higher, zeros below.
-template <int K, class V>
-inline V lanesUp(V a) {
-    return V(_mm_slli_si128(__m128i(a), K * int(sizeof(LaneOf<V>))));
-}
-
 // Exact sums of integers along a row of `count` entries N apart: what enters and what leaves the window are
 // gathered from the row's start on, for any count. Up to 16 bytes behind the last entry are read, and left
 // alone.

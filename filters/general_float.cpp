@@ -32,8 +32,7 @@ template <bool Short, class T>
         v = load(p);
     else
         v = loadAs<Tpx32f>(p);
-    asm("" : "+x"(v)); // both products take it from here: compilers load it twice to save an instruction
-    return v;
+    return inRegister(v); // from which both products take it
 }
 
 // Each source row is one of both results' kernels' rows, but for the first and the last. Rows tells where a row

@@ -81,11 +81,6 @@ struct PairsInRing {
 
 // ---- Sums -------------------------------------------------------------------------------------------------
 
-// One weight in every lane. Not from a register: as a load it costs nothing.
-[[gnu::always_inline]] inline V32s loadWeight(const Tpx32s* p) {
-    return V32s(_mm_castps_si128(_mm_broadcast_ss(reinterpret_cast<const float*>(p))));
-}
-
 // Of the upper row of results and then of the lower one: in 32 bits, or, of bytes, in 16 bits and as far above
 // the least sum as they are.
 template <class Lane, int N, int Registers>
@@ -109,8 +104,8 @@ struct TwoSums {
             for (ptrdiff_t x = 0; x < width; x++, place.advance(N), weights += 2) {
                 Vec<Lane> columns[Registers];
                 place.load(columns);
-                const Weights forUpper = Weights(loadWeight(weights)),
-                              forLower = Weights(loadWeight(weights + 1));
+                const Weights forUpper = Weights(loadSplat(weights)),
+                              forLower = Weights(loadSplat(weights + 1));
                 for (int k = 0; k < Registers; k++) {
                     upper[k] += multiplyAddPairs(columns[k], forUpper);
                     lower[k] += multiplyAddPairs(columns[k], forLower);

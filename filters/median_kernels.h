@@ -219,10 +219,8 @@ class SquareOfThree {
     // The columns so many pixels to the right.
     template <int Pixels>
     static Sorted cut(const Sorted& a, const Sorted& b) {
-        const auto rank = [](V x, V y) {
-            return V(_mm_alignr_epi8(__m128i(y), __m128i(x), Pixels * N * int(sizeof(T))));
-        };
-        return {rank(a.low, b.low), rank(a.middle, b.middle), rank(a.high, b.high)};
+        return {lanesBehind<Pixels * N>(a.low, b.low), lanesBehind<Pixels * N>(a.middle, b.middle),
+                lanesBehind<Pixels * N>(a.high, b.high)};
     }
     static V median(const Sorted& a, const Sorted& b, const Sorted& c) {
         return medianOfThree(maxOf(maxOf(a.low, b.low), c.low), medianOfThree(a.middle, b.middle, c.middle),

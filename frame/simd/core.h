@@ -180,6 +180,19 @@ inline V64f splat<V64f>(double value) {
     return _mm256_set1_pd(value);
 }
 
+// One value in memory in every lane. It costs no more than the load of a register; splat<V32s>(*p) goes by way
+// of a register, and takes a shuffle more.
+inline V32s loadSplat(const Tpx32s* p) {
+    return V32s(_mm_castps_si128(_mm_broadcast_ss(reinterpret_cast<const float*>(p))));
+}
+
+// The value as it is, from here on in a register: compilers may load it again at every use to save one.
+template <class V>
+inline V inRegister(V v) {
+    asm("" : "+x"(v));
+    return v;
+}
+
 // ---- Choosing ------------------------------------------------------------------------------------------
 
 // a < b ? a : b, of registers and of single numbers, so `b` where one of them is NaN or both are zeros; the

@@ -68,7 +68,8 @@ struct RoundedShift {
 };
 
 // The same for signed lanes that have the room, which need not be taken apart; n up to a lane's width less 1.
-// Taking 1 off the negative ones makes their halves go down, away from zero.
+// Taking 1 off the negative ones makes their halves go down, away from zero. Lanes of 16 bits may have any
+// value: the smallest, from which nothing can be taken, has a whole quotient.
 template <TpxRoundMode Mode, class V>
 requires(Mode != tpxRoundTowardZero &&
          std::is_signed_v<LaneOf<V>>) struct RoundedShift<Mode, V, Headroom::Half> {
@@ -77,10 +78,11 @@ requires(Mode != tpxRoundTowardZero &&
 
     explicit RoundedShift(int n) : halvesUp(n), resultBit(splat<V>(LaneOf<V>(1u << n))) {}
     V operator()(V x) const {
-        if constexpr (Mode == tpxRoundNearestEven)
-            return halvesUp(x + V((x & resultBit) == V{}));
+        const V less = Mode == tpxRoundNearestEven ? V((x & resultBit) == V{}) : V(x < V{});
+        if constexpr (sizeof(LaneOf<V>) == 2)
+            return halvesUp(addSat(x, less));
         else
-            return halvesUp(x + V(x < V{}));
+            return halvesUp(x + less);
     }
 };
 

@@ -10,6 +10,19 @@ namespace tpx {
 // Byte i becomes byte control[i], or 0 where the control's top bit is set.
 inline V8u shuffleBytes(V8u a, V8u control) { return V8u(_mm_shuffle_epi8(__m128i(a), __m128i(control))); }
 
+// The lanes so many places higher, zeros below.
+template <int Places, class V>
+inline V lanesUp(V a) {
+    static_assert(sizeof(V) == 16);
+    return bitsAs<V>(_mm_slli_si128(bitsAs<__m128i>(a), Places * int(sizeof(LaneOf<V>))));
+}
+// A register of the lanes of `a` and then of `b`, as they would lie in memory, without the first so many.
+template <int Places, class V>
+inline V lanesBehind(V a, V b) {
+    static_assert(sizeof(V) == 16);
+    return bitsAs<V>(_mm_alignr_epi8(bitsAs<__m128i>(b), bitsAs<__m128i>(a), Places * int(sizeof(LaneOf<V>))));
+}
+
 // Units of so many bytes of `a` and `b` in turn, from the lower half of both or from the upper.
 template <int Bytes, bool High>
 inline V8u interleaveUnits(V8u a8, V8u b8) {

@@ -27,10 +27,10 @@ void checkRoundedShift(int n) {
         for (int64_t quotient : {0, 1, 2, 3, 1000, 1001})
             for (int64_t x = (quotient << n) + (int64_t{1} << n >> 1) - 2, end = x + 5; x < end; x++)
                 if (x == int64_t{T(x)}) values.insert(values.end(), {T(x), T(-x)});
-    if (H == Headroom::Half)
+    if (H == Headroom::Half && sizeof(T) == 4)
         std::erase_if(values, [&](T x) {
             const int64_t half = int64_t{1} << (n - 1);
-            return sizeof(T) == 2 ? x == kMin<T> : x - half < kMin<T> || x + half > kMax<T>;
+            return x - half < kMin<T> || x + half > kMax<T>;
         });
     const RoundedShift<Mode, Vec<T>, H> shift(n);
     eachRegister(values, [&](Vec<T> x) {

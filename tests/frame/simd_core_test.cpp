@@ -113,6 +113,15 @@ TEST(Simd, SingleNumbers) {
     static_assert(kMin<Tpx32s> == INT32_MIN && kMax<Tpx32s> == INT32_MAX && kMax<Tpx32u> == UINT32_MAX);
 }
 
+TEST(Simd, OneValueInEveryLane) {
+    const Tpx32s numbers[3] = {1, INT32_MIN + 2, 3};
+    const V32s all = loadSplat(numbers + 1), same = inRegister(all);
+    for (int i = 0; i < 4; i++) {
+        EXPECT_EQ(all[i], INT32_MIN + 2);
+        EXPECT_EQ(same[i], INT32_MIN + 2);
+    }
+}
+
 TEST(Simd, StoresPastTheCaches) {
     alignas(64) Tpx8u bytes[96], floats[96];
     std::memset(bytes, 0xEE, sizeof bytes);

@@ -69,6 +69,22 @@ void checkMoves(V32f (*operation)(V32f, V32f), const int (&where)[8]) {
     for (int i = 0; i < 8; i++) ASSERT_EQ(r[i], where[i]) << "lane " << i;
 }
 
+template <class T, int... Places>
+void checkPlaces(std::integer_sequence<int, Places...>) {
+    constexpr int L = kLanes<T>;
+    T lanes[2 * L];
+    for (int i = 0; i < 2 * L; i++) lanes[i] = T(i + 1);
+    const Vec<T> a = load(lanes), b = load(lanes + L);
+    const auto check = [&]<int P>(std::integral_constant<int, P>) {
+        const Vec<T> up = lanesUp<P>(a), behind = lanesBehind<P>(a, b);
+        for (int i = 0; i < L; i++) {
+            ASSERT_EQ(up[i], i < P ? T(0) : lanes[i - P]) << "up by " << P << ", lane " << i;
+            ASSERT_EQ(behind[i], lanes[i + P]) << "behind " << P << ", lane " << i;
+        }
+    };
+    (check(std::integral_constant<int, Places>{}), ...);
+}
+
 } // namespace
 
 TEST(Simd, Reversal) {
@@ -135,6 +151,12 @@ TEST(Simd, MovesOfFloats) {
         {3, 0, 1, 1, 6, 6, 4, 7});
     const V32f joined = joinHalves<V32f>(Four<float>{1, 2, 3, 4}, Four<float>{5, 6, 7, 8});
     for (int i = 0; i < 8; i++) EXPECT_EQ(joined[i], i + 1);
+}
+
+TEST(Simd, PlacesOfIntegers) {
+    checkPlaces<Tpx8u>(std::make_integer_sequence<int, 17>{});
+    checkPlaces<Tpx16s>(std::make_integer_sequence<int, 9>{});
+    checkPlaces<Tpx32s>(std::make_integer_sequence<int, 5>{});
 }
 
 TEST(Simd, Gathering) {
