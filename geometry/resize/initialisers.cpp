@@ -15,25 +15,30 @@ struct Request {
     TpxiSizeL src, dst;
     TpxDataType dataType;
     TpxiResizeSpec* spec;
+    bool antialiasing = false;
 };
 
+// Begins the plan of a kernel that reaches so many pixels to either side.
 TpxiResizeSpec& begin(const Request& request, TpxInterpolationType interpolation, int lobes) {
     TpxiResizeSpec& plan = *planIn(request.spec);
     plan = {};
     plan.tag = Tpx32u(request.form);
     plan.dataType = request.dataType == tpxDataType64f ? tpxDataType64f : tpxDataType32f;
     plan.interpolation = interpolation;
-    plan.lobesX = plan.lobesY = lobes;
-    plan.border = {lobes, lobes, lobes, lobes};
+    plan.antialiasing = request.antialiasing;
     plan.axisY = axisOf(request.src.height, request.dst.height);
     plan.axisX = axisOf(request.src.width, request.dst.width);
+    plan.lobesX = request.antialiasing ? stretchOf(plan.axisX, lobes).lobes : lobes;
+    plan.lobesY = request.antialiasing ? stretchOf(plan.axisY, lobes).lobes : lobes;
+    plan.border = {plan.lobesX, plan.lobesY, plan.lobesX, plan.lobesY};
     return plan;
 }
 
 TpxiResizeSpec& beginWithTables(const Request& request, TpxInterpolationType interpolation, int lobes) {
     TpxiResizeSpec& plan = begin(request, interpolation, lobes);
     BlockLayout block(&plan);
-    takeTables(plan, weightsFor(request.dataType, interpolation), block);
+    takeTables(plan, request.antialiasing ? Weights::Single : weightsFor(request.dataType, interpolation),
+               block);
     return plan;
 }
 
@@ -52,37 +57,48 @@ void initLinear(const Request& request) {
             buildLinearQ14(x, true);
             break;
         case Weights::Single:
-            buildFractions(y, kTwoTaps, y.pCoef32f);
-            buildFractions(x, kTwoTaps, x.pCoef32f);
+            buildFractions(y, 1, y.pCoef32f);
+            buildFractions(x, 1, x.pCoef32f);
             break;
         case Weights::Double:
-            buildFractions(y, kTwoTaps, y.pCoef64f);
-            buildFractions(x, kTwoTaps, x.pCoef64f);
+            buildFractions(y, 1, y.pCoef64f);
+            buildFractions(x, 1, x.pCoef64f);
             break;
     }
 }
 
-// Cubic and Lanczos keep the fractions in the caller's temporary buffer and turn them into the weights of each
-// position's taps: weigh(fractions, count, weights).
-template <class Weigh>
+// Kernels of several taps keep the fractions in the caller's temporary buffer and turn them into the weights of
+// each position's taps: weigh(fractions, axis).
+template <class Fraction, class Weigh>
 void initTaps(const Request& request, TpxInterpolationType interpolation, int lobes, Tpx8u* pInitBuf,
               Weigh weigh) {
     TpxiResizeSpec& plan = beginWithTables(request, interpolation, lobes);
     BlockLayout block(alignUp(pInitBuf));
     const FloatControl control(kFlushingToZero);
-    TpxiResizeAxis* const axes[] = {&plan.axisY, &plan.axisX};
-    for (TpxiResizeAxis* axis : axes) {
-        Tpx32f* const fractions = block.take<Tpx32f>(axis->dstLen);
-        buildFractions(*axis, footprintOf(lobes), fractions);
-        weigh(fractions, axis->dstLen, axis->pCoef32f);
-    }
+    const auto build = [&](TpxiResizeAxis& axis, int reach) {
+        Fraction* const fractions = block.take<Fraction>(axis.dstLen);
+        buildFractions(axis, reach, fractions);
+        weigh(fractions, axis);
+    };
+    build(plan.axisY, plan.lobesY);
+    build(plan.axisX, plan.lobesX);
+}
+
+void initStretchedLinear(const Request& request, Tpx8u* pInitBuf) {
+    initTaps<Tpx64f>(request, tpxInterpolationLinear, 1, pInitBuf, buildStretchedLinear);
 }
 
 void initCubic(const Request& request, Tpx32f valueB, Tpx32f valueC, Tpx8u* pInitBuf) {
-    initTaps(request, tpxInterpolationCubic, 2, pInitBuf,
-             [=](const Tpx32f* fractions, int64_t count, Tpx32f* weights) {
-                 buildCubic(fractions, count, valueB, valueC, weights);
-             });
+    if (request.antialiasing)
+        initTaps<Tpx64f>(request, tpxInterpolationCubic, 2, pInitBuf,
+                         [=](const Tpx64f* fractions, TpxiResizeAxis& axis) {
+                             buildStretchedCubic(fractions, axis, valueB, valueC);
+                         });
+    else
+        initTaps<Tpx32f>(request, tpxInterpolationCubic, 2, pInitBuf,
+                         [=](const Tpx32f* fractions, TpxiResizeAxis& axis) {
+                             buildCubic(fractions, axis.dstLen, valueB, valueC, axis.pCoef32f);
+                         });
 }
 
 // The beginning of a Lanczos plan whose lobes or source turn out not to do: the fields that come first are
@@ -94,10 +110,16 @@ void abandonLanczos(const Request& request, Tpx32u numLobes) {
 
 void initLanczos(const Request& request, Tpx32u numLobes, Tpx8u* pInitBuf) {
     const int lobes = int(numLobes);
-    initTaps(request, tpxInterpolationLanczos, lobes, pInitBuf,
-             [=](const Tpx32f* fractions, int64_t count, Tpx32f* weights) {
-                 buildLanczos(fractions, count, lobes, weights);
-             });
+    if (request.antialiasing)
+        initTaps<Tpx64f>(request, tpxInterpolationLanczos, lobes, pInitBuf,
+                         [=](const Tpx64f* fractions, TpxiResizeAxis& axis) {
+                             buildStretchedLanczos(fractions, axis, lobes);
+                         });
+    else
+        initTaps<Tpx32f>(request, tpxInterpolationLanczos, lobes, pInitBuf,
+                         [=](const Tpx32f* fractions, TpxiResizeAxis& axis) {
+                             buildLanczos(fractions, axis.dstLen, lobes, axis.pCoef32f);
+                         });
 }
 
 void initSuper(const Request& request) {
@@ -107,6 +129,10 @@ void initSuper(const Request& request) {
 }
 
 // ---- Checks ---------------------------------------------------------------------------------------------
+
+bool isTypeOf(const Request& request, TpxInterpolationType interpolation) {
+    return request.antialiasing ? isDataType(request.dataType) : isPlanType(request.dataType, interpolation);
+}
 
 // The checks of all initialisers but Lanczos, then init(request).
 template <class Init>
@@ -120,10 +146,15 @@ TpxStatus initialise(const Request& request, TpxInterpolationType interpolation,
                              : interpolation == tpxInterpolationCubic  ? squareOf(kFourTaps.size)
                                                                        : dst;
     if (isEmpty(src) || isEmpty(dst) || isSmaller(src, needed)) return tpxErrSize;
-    if (request.form == Form::Long && !isPlanType(request.dataType, interpolation)) return tpxErrDataType;
+    if (request.form == Form::Long && !isTypeOf(request, interpolation)) return tpxErrDataType;
     if (request.form == Form::Long && (isTooLong(src) || isTooLong(dst))) return tpxErrSizeTooLarge;
     init(request);
     return tpxOk;
+}
+
+TpxStatus initialiseStretchedLinear(const Request& request, Tpx8u* pInitBuf) {
+    return initialise(request, tpxInterpolationLinear, pInitBuf,
+                      [=](const Request& r) { initStretchedLinear(r, pInitBuf); });
 }
 
 TpxStatus initialiseCubic(const Request& request, Tpx32f valueB, Tpx32f valueC, Tpx8u* pInitBuf) {
@@ -131,8 +162,9 @@ TpxStatus initialiseCubic(const Request& request, Tpx32f valueB, Tpx32f valueC, 
                       [=](const Request& r) { initCubic(r, valueB, valueC, pInitBuf); });
 }
 
-// Lanczos tests the lobes between its size tests: the _L form before anything is written, the short forms as
-// the last thing of all, with the plan begun.
+// Lanczos tests the lobes between its size tests: the _L forms and those of antialiasing before anything is
+// written, the other short forms as the last thing of all, with the plan begun. A stretched kernel of 3 lobes
+// needs no larger source than the sizing call does, which does not know the lobes.
 TpxStatus initialiseLanczos(const Request& request, Tpx32u numLobes, Tpx8u* pInitBuf) {
     if (anyNull(request.spec) || anyNull(pInitBuf)) return tpxErrNullPointer;
     const TpxiSizeL src = request.src, dst = request.dst;
@@ -140,12 +172,13 @@ TpxStatus initialiseLanczos(const Request& request, Tpx32u numLobes, Tpx8u* pIni
     if (isEmpty(src) || isEmpty(dst)) return tpxErrSize;
     const bool isLong = request.form == Form::Long;
     const auto late = [&](TpxStatus status) {
-        if (!isLong) abandonLanczos(request, numLobes);
+        if (!isLong && !request.antialiasing) abandonLanczos(request, numLobes);
         return status;
     };
     if (numLobes != 2 && numLobes != 3) return late(tpxErrUnsupportedMode);
-    if (isLong && !isPlanType(request.dataType, tpxInterpolationLanczos)) return tpxErrDataType;
-    if (isSmaller(src, squareOf(footprintOf(int(numLobes)).size))) return late(tpxErrSize);
+    if (isLong && !isTypeOf(request, tpxInterpolationLanczos)) return tpxErrDataType;
+    const int needed = request.antialiasing ? kFourTaps.size : footprintOf(int(numLobes)).size;
+    if (isSmaller(src, squareOf(needed))) return late(tpxErrSize);
     if (isLong && (isTooLong(src) || isTooLong(dst))) return tpxErrSizeTooLarge;
     initLanczos(request, numLobes, pInitBuf);
     return tpxOk;
@@ -154,6 +187,12 @@ TpxStatus initialiseLanczos(const Request& request, Tpx32u numLobes, Tpx8u* pIni
 template <class Size>
 Request requestOf(Size src, Size dst, TpxDataType dataType, TpxiResizeSpec* spec) {
     return {kFormOf<Size>, wide(src), wide(dst), dataType, spec};
+}
+
+// The short forms of antialiasing have no type: plans of all types are alike.
+template <class Size>
+Request antialiasingOf(Size src, Size dst, TpxDataType dataType, TpxiResizeSpec* spec) {
+    return {kFormOf<Size>, wide(src), wide(dst), dataType, spec, true};
 }
 
 } // namespace
@@ -226,6 +265,37 @@ TPX_ENTRY(tpxiResizeLanczosInit_L)
 (TpxiSizeL srcSize, TpxiSizeL dstSize, TpxDataType dataType, Tpx32u numLobes, TpxiResizeSpec* pSpec,
  Tpx8u* pInitBuf) {
     return tpx::initialiseLanczos(tpx::requestOf(srcSize, dstSize, dataType, pSpec), numLobes, pInitBuf);
+}
+
+TPX_ENTRY(tpxiResizeAntialiasingLinearInit)
+(TpxiSize srcSize, TpxiSize dstSize, TpxiResizeSpec* pSpec, Tpx8u* pInitBuf) {
+    return tpx::initialiseStretchedLinear(tpx::antialiasingOf(srcSize, dstSize, tpxDataType32f, pSpec),
+                                          pInitBuf);
+}
+TPX_ENTRY(tpxiResizeAntialiasingLinearInit_L)
+(TpxiSizeL srcSize, TpxiSizeL dstSize, TpxDataType dataType, TpxiResizeSpec* pSpec, Tpx8u* pInitBuf) {
+    return tpx::initialiseStretchedLinear(tpx::antialiasingOf(srcSize, dstSize, dataType, pSpec), pInitBuf);
+}
+TPX_ENTRY(tpxiResizeAntialiasingCubicInit)
+(TpxiSize srcSize, TpxiSize dstSize, Tpx32f valueB, Tpx32f valueC, TpxiResizeSpec* pSpec, Tpx8u* pInitBuf) {
+    return tpx::initialiseCubic(tpx::antialiasingOf(srcSize, dstSize, tpxDataType32f, pSpec), valueB, valueC,
+                                pInitBuf);
+}
+TPX_ENTRY(tpxiResizeAntialiasingCubicInit_L)
+(TpxiSizeL srcSize, TpxiSizeL dstSize, TpxDataType dataType, Tpx32f valueB, Tpx32f valueC,
+ TpxiResizeSpec* pSpec, Tpx8u* pInitBuf) {
+    return tpx::initialiseCubic(tpx::antialiasingOf(srcSize, dstSize, dataType, pSpec), valueB, valueC,
+                                pInitBuf);
+}
+TPX_ENTRY(tpxiResizeAntialiasingLanczosInit)
+(TpxiSize srcSize, TpxiSize dstSize, Tpx32u numLobes, TpxiResizeSpec* pSpec, Tpx8u* pInitBuf) {
+    return tpx::initialiseLanczos(tpx::antialiasingOf(srcSize, dstSize, tpxDataType32f, pSpec), numLobes,
+                                  pInitBuf);
+}
+TPX_ENTRY(tpxiResizeAntialiasingLanczosInit_L)
+(TpxiSizeL srcSize, TpxiSizeL dstSize, TpxDataType dataType, Tpx32u numLobes, TpxiResizeSpec* pSpec,
+ Tpx8u* pInitBuf) {
+    return tpx::initialiseLanczos(tpx::antialiasingOf(srcSize, dstSize, dataType, pSpec), numLobes, pInitBuf);
 }
 #undef TPX_RESIZE_NEAREST_INIT
 #undef TPX_RESIZE_LINEAR_INIT

@@ -81,6 +81,22 @@ inline TpxiResizeAxis axisOf(int64_t src, int64_t dst) {
 
 inline double scaleOf(const TpxiResizeAxis& axis) { return double(axis.srcRatio) / double(axis.dstRatio); }
 
+constexpr int64_t ceilOf(double x) {
+    const auto whole = int64_t(x);
+    return whole + (double(whole) != x);
+}
+
+// How antialiasing stretches a kernel: distances are multiplied by the factor, and so many lobes hold it.
+struct Stretch {
+    double factor;
+    Tpx32s lobes;
+};
+inline Stretch stretchOf(const TpxiResizeAxis& axis, int kernelLobes) {
+    const double factor = double(axis.dstLen) / double(axis.srcLen);
+    if (factor >= 1) return {1, kernelLobes};
+    return {factor, Tpx32s(kernelLobes * ceilOf(1 / factor))};
+}
+
 // How many taps super-sampling keeps for each position. A position covers as many source pixels as the ratio
 // says, and up to two more in part.
 template <class Int>
@@ -133,12 +149,12 @@ inline void takeTables(TpxiResizeSpec& plan, Weights weights, BlockLayout& block
     } else if (weights == Weights::Double) {
         y.pCoef64f = block.take<Tpx64f>(y.dstLen, 64);
         x.pCoef64f = block.take<Tpx64f>(x.dstLen, 64);
-    } else if (plan.interpolation == tpxInterpolationLinear) {
+    } else if (plan.interpolation == tpxInterpolationLinear && !plan.antialiasing) {
         y.pCoef32f = block.take<Tpx32f>(y.dstLen);
         x.pCoef32f = block.take<Tpx32f>(x.dstLen);
-    } else {
-        y.pCoef32f = block.take<Tpx32f>(footprintOf(plan.lobesY).size * int64_t(y.dstLen), 32);
-        x.pCoef32f = block.take<Tpx32f>(footprintOf(plan.lobesX).size * int64_t(x.dstLen), 32);
+    } else { // a weight for each tap, of which there may be more than an int counts
+        y.pCoef32f = block.take<Tpx32f>(2 * int64_t(plan.lobesY) * y.dstLen, 32);
+        x.pCoef32f = block.take<Tpx32f>(2 * int64_t(plan.lobesX) * x.dstLen, 32);
     }
 }
 
@@ -146,8 +162,7 @@ inline void takeTables(TpxiResizeSpec& plan, Weights weights, BlockLayout& block
 
 // The data types of the _L calls; only linear has plans of 64f.
 constexpr bool isPlanType(TpxDataType type, TpxInterpolationType interpolation) {
-    return type == tpxDataType8u || type == tpxDataType16u || type == tpxDataType16s ||
-           type == tpxDataType32f || (type == tpxDataType64f && interpolation == tpxInterpolationLinear);
+    return isDataType(type) || (type == tpxDataType64f && interpolation == tpxInterpolationLinear);
 }
 
 // The _L calls serve lengths below 0x20000000.

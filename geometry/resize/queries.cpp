@@ -13,11 +13,6 @@ constexpr int64_t padded(int64_t n) { return int64_t(roundUp(uint64_t(n), 32)); 
 
 // ---- Sizes of a plan ------------------------------------------------------------------------------------
 
-int64_t ceilOf(double x) {
-    const auto whole = int64_t(x);
-    return whole + (double(whole) != x);
-}
-
 // Taps that the plan of an antialiased resize has room for along an axis.
 int64_t antialiasingTaps(int64_t src, int64_t dst, int kernelTaps) {
     const double ratio = double(src) / double(dst);

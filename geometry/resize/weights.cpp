@@ -12,7 +12,7 @@ void buildNearest(TpxiResizeAxis& axis) {
 // ---- Linear -------------------------------------------------------------------------------------------
 
 void buildLinearQ14(TpxiResizeAxis& axis, bool inPairs) {
-    buildPositions(axis, kTwoTaps, [&](int64_t i, double fraction) {
+    buildPositions(axis, 1, [&](int64_t i, double fraction) {
         const auto q = Tpx16s(fraction * 16384.0 + 1e-07);
         if (inPairs) {
             axis.pCoefQ14[2 * i] = Tpx16s(16384 - q);
@@ -23,56 +23,60 @@ void buildLinearQ14(TpxiResizeAxis& axis, bool inPairs) {
     });
 }
 
-void buildFractions(TpxiResizeAxis& axis, Footprint taps, Tpx32f* fractions) {
-    buildPositions(axis, taps, [&](int64_t i, double fraction) { fractions[i] = Tpx32f(fraction); });
+void buildFractions(TpxiResizeAxis& axis, int lobes, Tpx32f* fractions) {
+    buildPositions(axis, lobes, [&](int64_t i, double fraction) { fractions[i] = Tpx32f(fraction); });
 }
 
-void buildFractions(TpxiResizeAxis& axis, Footprint taps, Tpx64f* fractions) {
-    buildPositions(axis, taps, [&](int64_t i, double fraction) { fractions[i] = fraction; });
+void buildFractions(TpxiResizeAxis& axis, int lobes, Tpx64f* fractions) {
+    buildPositions(axis, lobes, [&](int64_t i, double fraction) { fractions[i] = fraction; });
 }
 
 // ---- Cubic --------------------------------------------------------------------------------------------
 
 namespace {
 
-inline Tpx32f magnitudeOf(Tpx32f t) { return t < 0 ? -t : t; }
+template <class F>
+inline F magnitudeOf(F t) {
+    return t < 0 ? -t : t;
+}
 
-// A kernel is its two pieces: below distance 1, and from 1 up to 2.
-template <class Inner, class Outer>
-inline void fillCubic(const Tpx32f* fractions, int64_t count, Tpx32f* weights, Inner inner, Outer outer) {
-    for (int64_t i = 0; i < count; i++) {
-        Tpx32f t = -1 - fractions[i];
-        for (int k = 0; k < 4; k++, t += 1) {
-            const Tpx32f x = magnitudeOf(t);
-            weights[4 * i + k] = x < 1 ? inner(x) : x < 2 ? outer(x) : 0;
-        }
+// Calls use(kernel) with the kernel of B and C, a function of the distance. It is two pieces: below distance 1,
+// and from 1 up to 2.
+template <class Use>
+void withCubicKernel(Tpx32f B, Tpx32f C, Use use) {
+    const auto pieces = [&](auto inner, auto outer) {
+        use([=](Tpx32f x) -> Tpx32f { return x < 1 ? inner(x) : x < 2 ? outer(x) : 0; });
+    };
+
+    // The three usual members of the family have literal coefficients, which can differ from the general ones
+    // in the last bit of a weight.
+    if (B == 0 && C == 0.5f) {
+        pieces([](Tpx32f x) { return (1.5f * x - 2.5f) * (x * x) + 1; },
+               [](Tpx32f x) { return ((-0.5f * x + 2.5f) * x - 4) * x + 2; });
+    } else if (B == 1 && C == 0) {
+        pieces([](Tpx32f x) { return (0.5f * x * x - x) * x + 0.6666667f; },
+               [](Tpx32f x) { return (-0.16666667f * x * x + x) * x + ((1.3333334f - x) - x); });
+    } else if (B == 0.5f && C == 0.3f) {
+        pieces([](Tpx32f x) { return (0.95f * x - 1.7f) * (x * x) + 0.8333333f; },
+               [](Tpx32f x) { return ((-0.38333333f * x + 2) * x - 3.4f) * x + 1.8666667f; });
+    } else {
+        const Tpx32f in3 = 2 - 1.5f * B - C, in2 = 2 * B + C - 3, in0 = 1 - B * 0.33333334f;
+        const Tpx32f out3 = -B * 0.16666667f - C, out2 = B + 5 * C, out1 = 2 * B + 8 * C,
+                     out0 = 1.3333334f * B + 4 * C;
+        pieces([=](Tpx32f x) { return (in3 * x + in2) * (x * x) + in0; },
+               [=](Tpx32f x) { return ((out3 * x + out2) * x - out1) * x + out0; });
     }
 }
 
 } // namespace
 
 void buildCubic(const Tpx32f* fractions, int64_t count, Tpx32f valueB, Tpx32f valueC, Tpx32f* weights) {
-    const Tpx32f B = valueB, C = valueC;
-    const auto fill = [&](auto inner, auto outer) { fillCubic(fractions, count, weights, inner, outer); };
-
-    // The three usual members of the family have literal coefficients, which can differ from the general ones
-    // in the last bit of a weight.
-    if (B == 0 && C == 0.5f) {
-        fill([](Tpx32f x) { return (1.5f * x - 2.5f) * (x * x) + 1; },
-             [](Tpx32f x) { return ((-0.5f * x + 2.5f) * x - 4) * x + 2; });
-    } else if (B == 1 && C == 0) {
-        fill([](Tpx32f x) { return (0.5f * x * x - x) * x + 0.6666667f; },
-             [](Tpx32f x) { return (-0.16666667f * x * x + x) * x + ((1.3333334f - x) - x); });
-    } else if (B == 0.5f && C == 0.3f) {
-        fill([](Tpx32f x) { return (0.95f * x - 1.7f) * (x * x) + 0.8333333f; },
-             [](Tpx32f x) { return ((-0.38333333f * x + 2) * x - 3.4f) * x + 1.8666667f; });
-    } else {
-        const Tpx32f in3 = 2 - 1.5f * B - C, in2 = 2 * B + C - 3, in0 = 1 - B * 0.33333334f;
-        const Tpx32f out3 = -B * 0.16666667f - C, out2 = B + 5 * C, out1 = 2 * B + 8 * C,
-                     out0 = 1.3333334f * B + 4 * C;
-        fill([=](Tpx32f x) { return (in3 * x + in2) * (x * x) + in0; },
-             [=](Tpx32f x) { return ((out3 * x + out2) * x - out1) * x + out0; });
-    }
+    withCubicKernel(valueB, valueC, [&](auto kernel) {
+        for (int64_t i = 0; i < count; i++) {
+            Tpx32f t = -1 - fractions[i];
+            for (int k = 0; k < 4; k++, t += 1) weights[4 * i + k] = kernel(magnitudeOf(t));
+        }
+    });
 }
 
 // ---- Lanczos ------------------------------------------------------------------------------------------
@@ -137,6 +141,47 @@ void buildLanczos(const Tpx32f* fractions, int64_t count, int lobes, Tpx32f* wei
         fillLanczos<2>(fractions, count, kLanczos2, weights);
     else
         fillLanczos<3>(fractions, count, kLanczos3, weights);
+}
+
+// ---- Antialiasing -------------------------------------------------------------------------------------
+
+namespace {
+
+// Distances are floats, what the kernel gets is their product with the factor in double precision.
+template <class Kernel>
+void fillStretched(const Tpx64f* fractions, TpxiResizeAxis& axis, int kernelLobes, Kernel kernel) {
+    const Stretch stretch = stretchOf(axis, kernelLobes);
+    const int64_t taps = 2 * int64_t(stretch.lobes);
+    Tpx32f* weights = axis.pCoef32f;
+    for (int64_t i = 0; i < axis.dstLen; i++, weights += taps) {
+        Tpx32f t = Tpx32f(1.0 - stretch.lobes - fractions[i]), sum = 0;
+        for (int64_t k = 0; k < taps; k++, t += 1) {
+            weights[k] = Tpx32f(stretch.factor * kernel(magnitudeOf(stretch.factor * t)));
+            sum += weights[k];
+        }
+        for (int64_t k = 0; k < taps; k++) weights[k] /= sum;
+    }
+}
+
+} // namespace
+
+void buildStretchedLinear(const Tpx64f* fractions, TpxiResizeAxis& axis) {
+    fillStretched(fractions, axis, 1, [](double x) { return x < 1 ? 1 - x : 0; });
+}
+
+void buildStretchedCubic(const Tpx64f* fractions, TpxiResizeAxis& axis, Tpx32f valueB, Tpx32f valueC) {
+    withCubicKernel(valueB, valueC, [&](auto kernel) {
+        fillStretched(fractions, axis, 2, [=](double x) { return kernel(Tpx32f(x)); });
+    });
+}
+
+void buildStretchedLanczos(const Tpx64f* fractions, TpxiResizeAxis& axis, int lobes) {
+    const auto sincOf = [](double x) {
+        const double angle = x * 3.1415927f;
+        return x == 0 ? 1 : TPXS(SinOne)(angle) / angle;
+    };
+    fillStretched(fractions, axis, lobes,
+                  [=](double x) { return x < lobes ? sincOf(x) * sincOf(x / lobes) : 0; });
 }
 
 // ---- Super-sampling -----------------------------------------------------------------------------------

@@ -11,8 +11,8 @@ namespace tpx {
 // Fills the index table of an interpolating axis, counts the positions at either end whose taps reach outside
 // the source, and gives store(i, fraction) the distance from the index.
 template <class Store>
-inline void buildPositions(TpxiResizeAxis& axis, Footprint taps, Store store) {
-    const double scale = scaleOf(axis), first = -taps.offset, last = double(axis.srcLen) - taps.last();
+inline void buildPositions(TpxiResizeAxis& axis, int lobes, Store store) {
+    const double scale = scaleOf(axis), first = double(lobes) - 1, last = double(axis.srcLen) - lobes;
     axis.leadCount = axis.trailCount = 0;
     for (int64_t i = 0; i < axis.dstLen; i++) {
         const double c = (double(i) + 0.5) * scale - 0.5, whole = TPXS(FloorOne)(c);
@@ -26,13 +26,20 @@ inline void buildPositions(TpxiResizeAxis& axis, Footprint taps, Store store) {
 void buildNearest(TpxiResizeAxis& axis);
 
 void buildLinearQ14(TpxiResizeAxis& axis, bool inPairs);
-void buildFractions(TpxiResizeAxis& axis, Footprint taps, Tpx32f* fractions);
-void buildFractions(TpxiResizeAxis& axis, Footprint taps, Tpx64f* fractions);
+void buildFractions(TpxiResizeAxis& axis, int lobes, Tpx32f* fractions);
+void buildFractions(TpxiResizeAxis& axis, int lobes, Tpx64f* fractions);
 
 // Four weights for each fraction, from the left or the top.
 void buildCubic(const Tpx32f* fractions, int64_t count, Tpx32f valueB, Tpx32f valueC, Tpx32f* weights);
 // Twice `lobes` weights for each fraction. `lobes` is 2 or 3.
 void buildLanczos(const Tpx32f* fractions, int64_t count, int lobes, Tpx32f* weights);
+
+// Twice as many normalised weights as the axis has lobes, for each fraction, of a kernel that reaches over all
+// source pixels of a destination pixel (stretchOf). Quotients are true ones, not estimates, so that plans are
+// the same on all processors. `lobes` are the kernel's own, 2 or 3.
+void buildStretchedLinear(const Tpx64f* fractions, TpxiResizeAxis& axis);
+void buildStretchedCubic(const Tpx64f* fractions, TpxiResizeAxis& axis, Tpx32f valueB, Tpx32f valueC);
+void buildStretchedLanczos(const Tpx64f* fractions, TpxiResizeAxis& axis, int lobes);
 
 // Indices and weights of one period of super-sampling.
 void buildSuper(TpxiResizeAxis& axis);

@@ -102,6 +102,29 @@ TPX_API TpxStatus tpxiResizeSuperInit_32f(TpxiSize srcSize, TpxiSize dstSize, Tp
 TPX_API TpxStatus tpxiResizeSuperInit_L(TpxiSizeL srcSize, TpxiSizeL dstSize, TpxDataType dataType,
                                         TpxiResizeSpec* pSpec);
 
+/* Initialisers of antialiasing plans, whose sizes tpxiResizeGetSize tells with `antialiasing` other than 0.
+ * Along an axis that is reduced, the kernel of linear, cubic or Lanczos is stretched over the source pixels
+ * that a destination pixel stands for; along others it keeps its width. The weights of a position sum to 1.
+ * A plan serves all sample types.
+ *
+ * Statuses are those of the initialisers above, with these differences: tpxErrDataType for 64f too; Lanczos of
+ * 3 lobes needs a source of 4, as that of 2; its short form tests lobes and source before it writes anything,
+ * and leaves the floating-point control as it was. */
+TPX_API TpxStatus tpxiResizeAntialiasingLinearInit(TpxiSize srcSize, TpxiSize dstSize, TpxiResizeSpec* pSpec,
+                                                   Tpx8u* pInitBuf);
+TPX_API TpxStatus tpxiResizeAntialiasingLinearInit_L(TpxiSizeL srcSize, TpxiSizeL dstSize, TpxDataType dataType,
+                                                     TpxiResizeSpec* pSpec, Tpx8u* pInitBuf);
+TPX_API TpxStatus tpxiResizeAntialiasingCubicInit(TpxiSize srcSize, TpxiSize dstSize, Tpx32f valueB,
+                                                  Tpx32f valueC, TpxiResizeSpec* pSpec, Tpx8u* pInitBuf);
+TPX_API TpxStatus tpxiResizeAntialiasingCubicInit_L(TpxiSizeL srcSize, TpxiSizeL dstSize, TpxDataType dataType,
+                                                    Tpx32f valueB, Tpx32f valueC, TpxiResizeSpec* pSpec,
+                                                    Tpx8u* pInitBuf);
+TPX_API TpxStatus tpxiResizeAntialiasingLanczosInit(TpxiSize srcSize, TpxiSize dstSize, Tpx32u numLobes,
+                                                    TpxiResizeSpec* pSpec, Tpx8u* pInitBuf);
+TPX_API TpxStatus tpxiResizeAntialiasingLanczosInit_L(TpxiSizeL srcSize, TpxiSizeL dstSize,
+                                                      TpxDataType dataType, Tpx32u numLobes,
+                                                      TpxiResizeSpec* pSpec, Tpx8u* pInitBuf);
+
 /* Size in bytes of the work buffer for tiles of up to `dstSize` pixels of 1, 3 or 4 channels.
  *
  * Statuses, in order: tpxErrNullPointer; tpxWarnNoOperation (a size of exactly 0); tpxErrContext (not a

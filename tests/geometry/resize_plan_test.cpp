@@ -112,19 +112,23 @@ TEST(ResizePlan, SizesOfPlansAndInitialisationBuffers) {
 // lengths leave.
 TEST(ResizePlan, TablesFitIntoTheSizes) {
     constexpr TpxSizeL kLongest = 0x1fffffff;
-    const auto check = [&](TpxiSizeL dst, TpxDataType type, TpxInterpolationType kind) {
-        const TpxiSizeL src =
-            kind == kSuper ? TpxiSizeL{dst.width + dst.height % 7, dst.height * 3 + 1} : TpxiSizeL{1000, 6};
+    const auto check = [&](TpxiSizeL dst, TpxDataType type, TpxInterpolationType kind, bool antialiasing) {
+        const TpxiSizeL src = kind == kSuper ? TpxiSizeL{dst.width + dst.height % 7, dst.height * 3 + 1}
+                              : antialiasing ? TpxiSizeL{dst.width * 49, dst.height + dst.width + 4}
+                                             : TpxiSizeL{1000, 6};
         if (src.width > kLongest || src.height > kLongest) return;
         TpxSizeL bytes = 0, init = 0;
-        ASSERT_EQ(tpxOk, tpxiResizeGetSize_L(src, dst, type, kind, 0, &bytes, &init));
+        ASSERT_EQ(tpxOk, tpxiResizeGetSize_L(src, dst, type, kind, antialiasing, &bytes, &init));
         TpxiResizeSpec plan = {};
         plan.interpolation = kind;
-        plan.lobesX = plan.lobesY = kind == kCubic ? 2 : kind == kLanczos ? 3 : 1;
+        plan.antialiasing = antialiasing;
         plan.axisX = tpx::axisOf(src.width, dst.width);
         plan.axisY = tpx::axisOf(src.height, dst.height);
+        const int lobes = kind == kCubic ? 2 : kind == kLanczos ? 3 : 1;
+        plan.lobesX = antialiasing ? tpx::stretchOf(plan.axisX, lobes).lobes : lobes;
+        plan.lobesY = antialiasing ? tpx::stretchOf(plan.axisY, lobes).lobes : lobes;
         tpx::BlockLayout block;
-        tpx::takeTables(plan, tpx::weightsFor(type, kind), block);
+        tpx::takeTables(plan, antialiasing ? tpx::Weights::Single : tpx::weightsFor(type, kind), block);
         ASSERT_LE(block.bytesAnywhere(), uint64_t(bytes))
             << dst.width << " by " << dst.height << ", kind " << kind << ", type " << type;
     };
@@ -133,9 +137,10 @@ TEST(ResizePlan, TablesFitIntoTheSizes) {
             for (const TpxiSizeL dst :
                  {TpxiSizeL{w, h}, {kLongest - w, h}, {w, kLongest - h}, {w * 100, h * 77}}) {
                 for (const auto kind : {kNearest, kLinear, kCubic, kLanczos, kSuper})
-                    check(dst, tpxDataType32f, kind);
-                check(dst, tpxDataType8u, kLinear);
-                check(dst, tpxDataType64f, kLinear);
+                    check(dst, tpxDataType32f, kind, false);
+                check(dst, tpxDataType8u, kLinear, false);
+                check(dst, tpxDataType64f, kLinear, false);
+                for (const auto kind : {kLinear, kCubic, kLanczos}) check(dst, tpxDataType8u, kind, true);
             }
 }
 
@@ -639,6 +644,158 @@ TEST(ResizePlan, TapsOutsideTheSourceAreCounted) {
             EXPECT_EQ(lead, plan.record().axisX.leadCount);
             EXPECT_EQ(trail, plan.record().axisY.trailCount);
         }
+}
+
+// ---- Antialiasing -------------------------------------------------------------------------------------
+
+// A plan of the size that is told, between unreadable pages.
+class AntialiasingPlan {
+ public:
+    AntialiasingPlan(TpxInterpolationType kind, TpxiSize src, TpxiSize dst, bool longForm, Tpx32u lobes = 3,
+                     Tpx32f b = 0, Tpx32f c = 0.5f) {
+        TpxSizeL bytes = 0, init = 0;
+        EXPECT_EQ(tpxOk, tpxiResizeGetSize_L(wide(src), wide(dst), tpxDataType8u, kind, 1, &bytes, &init));
+        memory_ = std::make_unique<GuardedBytes>(size_t(bytes), 1);
+        GuardedBytes temporary{size_t(init), 1};
+        const auto spec = reinterpret_cast<TpxiResizeSpec*>(memory_->data());
+        Tpx8u* const work = temporary.data();
+        const auto type = tpxDataType8u;
+        EXPECT_EQ(tpxOk,
+                  longForm
+                      ? kind == kLinear
+                            ? tpxiResizeAntialiasingLinearInit_L(wide(src), wide(dst), type, spec, work)
+                        : kind == kCubic
+                            ? tpxiResizeAntialiasingCubicInit_L(wide(src), wide(dst), type, b, c, spec, work)
+                            : tpxiResizeAntialiasingLanczosInit_L(wide(src), wide(dst), type, lobes, spec, work)
+                  : kind == kLinear ? tpxiResizeAntialiasingLinearInit(src, dst, spec, work)
+                  : kind == kCubic  ? tpxiResizeAntialiasingCubicInit(src, dst, b, c, spec, work)
+                                    : tpxiResizeAntialiasingLanczosInit(src, dst, lobes, spec, work));
+    }
+    const TpxiResizeSpec& record() const {
+        return *tpx::planIn(reinterpret_cast<TpxiResizeSpec*>(memory_->data()));
+    }
+
+ private:
+    std::unique_ptr<GuardedBytes> memory_;
+};
+
+// The kernel's value at a distance in destination pixels, or in source pixels if those are the wider ones.
+double antialiasingKernel(TpxInterpolationType kind, double x, int lobes, double b, double c) {
+    if (kind == kLinear) return std::max(0.0, 1 - x);
+    if (kind == kLanczos) return lanczosKernel(x, lobes);
+    return x >= 2 ? 0 : x >= 1 ? cubicWeight(3, 2 - x, b, c) : cubicWeight(1, x, b, c);
+}
+
+TEST(ResizePlan, AntialiasingWeightsAreTheStretchedKernels) {
+    struct Case {
+        TpxInterpolationType kind;
+        Tpx32u lobes;
+        Tpx32f b, c;
+    };
+    for (const Case& kernel : {Case{kLinear, 1, 0, 0},
+                               {kCubic, 2, 0, 0.5f},
+                               {kCubic, 2, 1, 0},
+                               {kCubic, 2, 0.5f, 0.3f},
+                               {kCubic, 2, 0.1f, 0.2f},
+                               {kLanczos, 2, 0, 0},
+                               {kLanczos, 3, 0, 0}})
+        for (const auto& [src, dst] :
+             {std::pair{40, 17}, {30, 10}, {9, 50}, {12, 12}, {90, 89}, {700, 9}, {7, 1}}) {
+            // Reduced along one axis and magnified along the other.
+            const bool longForm = dst % 2;
+            const AntialiasingPlan made(kernel.kind, {src, dst + 4}, {dst, src + 5}, longForm, kernel.lobes,
+                                        kernel.b, kernel.c);
+            const TpxiResizeSpec& plan = made.record();
+            EXPECT_EQ(longForm ? 0x4b61738cu : 0x4b617389u, plan.tag);
+            EXPECT_EQ(1, plan.antialiasing);
+            EXPECT_EQ(kernel.kind, plan.interpolation);
+            const TpxiBorderSize border = plan.border;
+            EXPECT_TRUE(border.left == plan.lobesX && border.right == plan.lobesX &&
+                        border.top == plan.lobesY && border.bottom == plan.lobesY);
+            for (const TpxiResizeAxis* axis : {&plan.axisX, &plan.axisY}) {
+                const int lobes = axis == &plan.axisX ? plan.lobesX : plan.lobesY;
+                const int from = int(axis->srcLen), to = axis->dstLen;
+                EXPECT_EQ((from > to ? (from + to - 1) / to : 1) * int(kernel.lobes), lobes);
+                const double factor = std::min(1.0, double(axis->dstLen) / double(axis->srcLen));
+                Tpx32u lead = 0, trail = 0;
+                for (int i = 0; i < axis->dstLen; i++) {
+                    const Position at = linearPosition(i, int(axis->srcLen), axis->dstLen);
+                    // Where centres meet, doubles may be just below.
+                    const int index = axis->pIndex[i];
+                    const double fraction = at.fraction + (at.index - index);
+                    ASSERT_TRUE(index == at.index || (index == at.index - 1 && at.fraction == 0));
+                    lead += index < lobes - 1;
+                    trail += index + lobes >= int(axis->srcLen);
+                    std::vector<double> values;
+                    double sum = 0;
+                    for (int k = 0; k < 2 * lobes; k++) {
+                        const double x = factor * std::fabs(k + 1 - lobes - fraction);
+                        values.push_back(
+                            antialiasingKernel(kernel.kind, x, int(kernel.lobes), kernel.b, kernel.c));
+                        sum += values.back();
+                    }
+                    for (int k = 0; k < 2 * lobes; k++)
+                        ASSERT_NEAR(values[size_t(k)] / sum, axis->pCoef32f[2 * lobes * i + k], 2e-6)
+                            << src << " to " << dst << ", position " << i << ", tap " << k;
+                }
+                EXPECT_EQ(lead, axis->leadCount);
+                EXPECT_EQ(trail, axis->trailCount);
+            }
+        }
+}
+
+TEST(ResizePlan, AntialiasingInitialisersCheckInOrder) {
+    using A = InitArgs;
+    GuardedBytes memory(20000), temporary(20000);
+    for (const auto kind : {kLinear, kCubic, kLanczos})
+        for (const bool longForm : {false, true}) {
+            std::vector<Fault<A>> faults{{"plan", [](A& a) { a.noPlan = true; }, tpxErrNullPointer},
+                                         {"buffer", [](A& a) { a.noBuffer = true; }, tpxErrNullPointer}};
+            for (const auto& fault : sizeFaults<A>()) faults.push_back(fault);
+            const int small = kind == kLinear ? 1 : 3;
+            std::vector<Fault<A>> sources = {
+                {"source width", [=](A& a) { a.src.width = small; }, tpxErrSize},
+                {"source height", [=](A& a) { a.src.height = small; }, tpxErrSize}};
+            std::vector<Fault<A>> types;
+            for (const int type : {2, int(tpxDataType64f)})
+                if (longForm) types.push_back({"type", [=](A& a) { a.type = type; }, tpxErrDataType});
+            if (kind == kLanczos) {
+                for (const Tpx32u lobes : {1u, 4u})
+                    faults.push_back({"lobes", [=](A& a) { a.lobes = lobes; }, tpxErrUnsupportedMode});
+                std::swap(sources, types);
+            }
+            faults.insert(faults.end(), sources.begin(), sources.end());
+            faults.insert(faults.end(), types.begin(), types.end());
+            if (longForm)
+                faults.push_back(
+                    {"source height", [](A& a) { a.src.height = 0x20000000; }, tpxErrSizeTooLarge});
+
+            expectCheckOrder(A{}, faults, [&](const A& a) {
+                memory.fill(0x55);
+                const auto spec = a.noPlan ? nullptr : reinterpret_cast<TpxiResizeSpec*>(memory.data());
+                Tpx8u* const init = a.noBuffer ? nullptr : temporary.data();
+                const TpxiSize src{int(a.src.width), int(a.src.height)},
+                    dst{int(a.dst.width), int(a.dst.height)};
+                const unsigned control = _mm_getcsr();
+                const TpxStatus status =
+                    kind == kLinear ? longForm
+                                          ? tpxiResizeAntialiasingLinearInit_L(a.src, a.dst, a.type, spec, init)
+                                          : tpxiResizeAntialiasingLinearInit(src, dst, spec, init)
+                    : kind == kCubic
+                        ? longForm ? tpxiResizeAntialiasingCubicInit_L(a.src, a.dst, a.type, 0, 1, spec, init)
+                                   : tpxiResizeAntialiasingCubicInit(src, dst, 0, 1, spec, init)
+                    : longForm ? tpxiResizeAntialiasingLanczosInit_L(a.src, a.dst, a.type, a.lobes, spec, init)
+                               : tpxiResizeAntialiasingLanczosInit(src, dst, a.lobes, spec, init);
+                EXPECT_EQ(control & ~0x3Fu, _mm_getcsr() & ~0x3Fu);
+                if (status != tpxOk)
+                    EXPECT_EQ(memory.size(),
+                              size_t(std::count(memory.data(), memory.data() + memory.size(), 0x55)));
+                return status;
+            });
+        }
+    // Unlike the plain kernel, that of 3 lobes needs no more than 4.
+    const auto spec = reinterpret_cast<TpxiResizeSpec*>(memory.data());
+    EXPECT_EQ(tpxOk, tpxiResizeAntialiasingLanczosInit({4, 4}, {8, 8}, 3, spec, temporary.data()));
 }
 
 // ---- The thread's floating-point control --------------------------------------------------------------
