@@ -30,6 +30,7 @@
 #include "tpxi/filters_general.h"
 #include "tpxi/filters_median.h"
 #include "tpxi/geometry.h"
+#include "tpxi/resize_taps.h"
 #include "tpxi/statistics.h"
 #include "tpxi/threshold.h"
 

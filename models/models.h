@@ -129,6 +129,10 @@ struct Axis {
 std::vector<int> nearestAxis(int srcLength, int dstLength);
 
 // Steps are in samples here.
+// Along y first, a column of sums for each row.
+template <typename T>
+void resizeTaps(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, int channels, TpxiSize srcSize,
+                const TapAxis& x, const TapAxis& y);
 template <typename T>
 void resizeLinear(const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, int channels, const Axis& x,
                   const Axis& y);

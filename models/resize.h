@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <limits>
 #include <type_traits>
+#include <vector>
 
 namespace tpx::model {
 
@@ -97,6 +98,86 @@ template <class T, class At>
 T linearSample(int x, int y, TpxiSize src, TpxiSize dst, TpxBorderType border, At at) {
     return linearSample<T>(linearPosition(x, src.width, dst.width), linearPosition(y, src.height, dst.height),
                            src, border, at);
+}
+
+// ---- Weighted taps: cubic, Lanczos, antialiasing -----------------------------------------------------------
+
+struct Kernel {
+    int lobes; // that it reaches to either side
+    bool normalised;
+    double (*at)(double x, double B, double C); // of a distance from 0 up
+    double B, C;
+};
+
+// D. Mitchell, A. Netravali, "Reconstruction Filters in Computer Graphics", 1988, equation 8.
+inline double cubicAt(double x, double B, double C) {
+    if (x < 1) return ((12 - 9 * B - 6 * C) * x * x * x + (-18 + 12 * B + 6 * C) * x * x + (6 - 2 * B)) / 6;
+    if (x >= 2) return 0;
+    return ((-B - 6 * C) * x * x * x + (6 * B + 30 * C) * x * x + (-12 * B - 48 * C) * x + (8 * B + 24 * C)) /
+           6;
+}
+inline double lanczosAt(double x, double lobes) {
+    const double pi = 3.14159265358979323846;
+    if (x >= lobes) return 0;
+    return x == 0 ? 1 : std::sin(pi * x) * std::sin(pi * x / lobes) * lobes / (pi * pi * x * x);
+}
+// Between the samples of a table, as plans without antialiasing have it.
+template <int Lobes, int PerUnit>
+double lanczosFromTable(double x, double, double) {
+    const double whole = std::floor(x * PerUnit);
+    const double low = lanczosAt(whole / PerUnit, Lobes), high = lanczosAt((whole + 1) / PerUnit, Lobes);
+    return x >= Lobes ? 0 : low + (high - low) * (x * PerUnit - whole);
+}
+template <int Lobes>
+double lanczosDirect(double x, double, double) {
+    return lanczosAt(x, Lobes);
+}
+inline double triangleAt(double x, double, double) { return x < 1 ? 1 - x : 0; }
+inline Kernel triangleKernel() { return {1, true, triangleAt, 0, 0}; }
+inline Kernel cubicKernel(double B, double C) { return {2, false, cubicAt, B, C}; }
+inline Kernel lanczosKernel(int lobes) {
+    return {lobes, true, lobes == 2 ? lanczosFromTable<2, 200> : lanczosFromTable<3, 100>, 0, 0};
+}
+inline Kernel directLanczosKernel(int lobes) {
+    return {lobes, true, lobes == 2 ? lanczosDirect<2> : lanczosDirect<3>, 0, 0};
+}
+
+// The source positions and weights that make the positions of one axis.
+struct TapAxis {
+    int taps;
+    std::vector<int> first;      // the first tap of each position
+    std::vector<double> weights; // `taps` of each position
+
+    // Antialiasing stretches the kernel by the ratio of a reduction.
+    TapAxis(int src, int dst, const Kernel& kernel, bool antialiasing = false) {
+        const bool stretched = antialiasing && src > dst;
+        const double scale = stretched ? double(dst) / src : 1;
+        const int lobes = kernel.lobes * (stretched ? (src + dst - 1) / dst : 1);
+        taps = 2 * lobes;
+        for (int i = 0; i < dst; i++) {
+            const Position p = linearPosition(i, src, dst);
+            first.push_back(p.index + 1 - lobes);
+            double sum = 0;
+            for (int k = 0; k < taps; k++) {
+                const double distance = std::fabs(1 - lobes + k - p.fraction) * scale;
+                weights.push_back(kernel.at(distance, kernel.B, kernel.C));
+                sum += weights.back();
+            }
+            if (kernel.normalised || antialiasing)
+                for (int k = 0; k < taps; k++) weights[weights.size() - taps + k] /= sum;
+        }
+    }
+};
+
+// The exact value at (x, y); at(x, y) gives source samples, from outside the source too.
+template <class At>
+double tapSample(const TapAxis& ax, const TapAxis& ay, int x, int y, At at) {
+    double sum = 0;
+    for (int j = 0; j < ay.taps; j++)
+        for (int i = 0; i < ax.taps; i++)
+            sum += ay.weights[y * ay.taps + j] * ax.weights[x * ax.taps + i] *
+                   double(at(ax.first[x] + i, ay.first[y] + j));
+    return sum;
 }
 
 } // namespace tpx::model

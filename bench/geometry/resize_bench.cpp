@@ -23,6 +23,8 @@ struct Plan;
         static constexpr auto getBufferSize = tpxiResizeGetBufferSize_##type; \
         static constexpr auto linearInit = tpxiResizeLinearInit_##type;       \
         static constexpr auto nearestInit = tpxiResizeNearestInit_##type;     \
+        static constexpr auto cubicInit = tpxiResizeCubicInit_##type;         \
+        static constexpr auto lanczosInit = tpxiResizeLanczosInit_##type;     \
     };
 PLAN(Tpx8u, 8u)
 PLAN(Tpx16u, 16u)
@@ -33,6 +35,13 @@ using Linear = TpxStatus (*)(const T*, int, T*, int, TpxiPoint, TpxiSize, TpxBor
                              const TpxiResizeSpec*, Tpx8u*);
 template <typename T>
 using Nearest = TpxStatus (*)(const T*, int, T*, int, TpxiPoint, TpxiSize, const TpxiResizeSpec*, Tpx8u*);
+
+TpxInterpolationType interpolationOf(Kind kind) {
+    return kind == Kind::nearest  ? tpxInterpolationNearest
+           : kind == Kind::linear ? tpxInterpolationLinear
+           : kind == Kind::cubic  ? tpxInterpolationCubic
+                                  : tpxInterpolationLanczos;
+}
 
 // The images, plans and buffers of one race.
 template <typename T>
@@ -47,13 +56,16 @@ struct Resize {
         : src(s.from, s.channels, 0, std::is_integral_v<T> ? T(-1) : T(1)),
           dst(s.to, s.channels),
           other(s.to, s.channels) {
-        const bool linear = s.kind == Kind::linear;
         int specBytes = 0;
         int bytes = 0;
-        check(Plan<T>::getSize(s.from, s.to, linear ? tpxInterpolationLinear : tpxInterpolationNearest, 0,
-                               &specBytes, &bytes));
+        check(Plan<T>::getSize(s.from, s.to, interpolationOf(s.kind), 0, &specBytes, &bytes));
         spec.resize(specBytes);
-        check((linear ? Plan<T>::linearInit : Plan<T>::nearestInit)(s.from, s.to, plan()));
+        buffer.resize(bytes);
+        check(s.kind == Kind::nearest  ? Plan<T>::nearestInit(s.from, s.to, plan())
+              : s.kind == Kind::linear ? Plan<T>::linearInit(s.from, s.to, plan())
+              : s.kind == Kind::cubic
+                  ? Plan<T>::cubicInit(s.from, s.to, kCubicB, kCubicC, plan(), buffer.data())
+                  : Plan<T>::lanczosInit(s.from, s.to, 3, plan(), buffer.data()));
         check(Plan<T>::getBufferSize(plan(), s.to, s.channels, &bytes));
         buffer.resize(bytes);
     }
@@ -77,6 +89,16 @@ std::function<void(const Image<T>&, const Image<T>&)> scalarResize(const Scaling
             tpx::model::resizeLinear(src.data(), src.step() / kSize, dst.data(), dst.step() / kSize, s.channels,
                                      x, y);
         };
+    if (s.kind != Kind::nearest) {
+        const auto kernel =
+            s.kind == Kind::cubic ? tpx::model::cubicKernel(kCubicB, kCubicC) : tpx::model::lanczosKernel(3);
+        return [s, x = tpx::model::TapAxis(s.from.width, s.to.width, kernel),
+                y = tpx::model::TapAxis(s.from.height, s.to.height, kernel)](const Image<T>& src,
+                                                                             const Image<T>& dst) {
+            tpx::model::resizeTaps(src.data(), src.step() / kSize, dst.data(), dst.step() / kSize, s.channels,
+                                   s.from, x, y);
+        };
+    }
     return [s, x = tpx::model::nearestAxis(s.from.width, s.to.width),
             y = tpx::model::nearestAxis(s.from.height, s.to.height)](const Image<T>& src, const Image<T>& dst) {
         tpx::model::resizeNearest(src.data(), src.step() / kSize, dst.data(), dst.step() / kSize, s.channels, x,
@@ -84,10 +106,9 @@ std::function<void(const Image<T>&, const Image<T>&)> scalarResize(const Scaling
     };
 }
 
-// `F` is Linear<T> or Nearest<T>.
+// `F` is Linear<T>, which all but nearest have, or Nearest<T>.
 template <typename T, typename F>
-void addResize(const char* name, F function, int channels) {
-    constexpr Kind kind = std::is_same_v<F, Linear<T>> ? Kind::linear : Kind::nearest;
+void addResize(Kind kind, const char* name, F function, int channels) {
     for (const auto& [from, to] : kScalings) {
         const Scaling s{kind, Plan<T>::kType, channels, from, to};
         const double srcSamples = static_cast<double>(from.width) * from.height * channels;
@@ -112,9 +133,14 @@ void addResize(const char* name, F function, int channels) {
 }
 
 #define LINEAR(T, types, channels) \
-    addResize<T, Linear<T>>("tpxiResizeLinear_" #types, tpxiResizeLinear_##types, channels)
+    addResize<T, Linear<T>>(Kind::linear, "tpxiResizeLinear_" #types, tpxiResizeLinear_##types, channels)
 #define NEAREST(T, types, channels) \
-    addResize<T, Nearest<T>>("tpxiResizeNearest_" #types, tpxiResizeNearest_##types, channels)
+    addResize<T, Nearest<T>>(Kind::nearest, "tpxiResizeNearest_" #types, tpxiResizeNearest_##types, channels)
+#define CUBIC(T, types, channels) \
+    addResize<T, Linear<T>>(Kind::cubic, "tpxiResizeCubic_" #types, tpxiResizeCubic_##types, channels)
+#define LANCZOS3(T, types, channels)                                                 \
+    addResize<T, Linear<T>>(Kind::lanczos3, "tpxiResizeLanczos_" #types ", 3 lobes", \
+                            tpxiResizeLanczos_##types, channels)
 
 } // namespace
 
@@ -129,6 +155,12 @@ void addResizes() {
     NEAREST(Tpx8u, 8u_C3R, 3);
     NEAREST(Tpx8u, 8u_C4R, 4);
     NEAREST(Tpx32f, 32f_C1R, 1);
+    CUBIC(Tpx8u, 8u_C1R, 1);
+    CUBIC(Tpx8u, 8u_C3R, 3);
+    CUBIC(Tpx16u, 16u_C1R, 1);
+    CUBIC(Tpx32f, 32f_C1R, 1);
+    LANCZOS3(Tpx8u, 8u_C1R, 1);
+    LANCZOS3(Tpx8u, 8u_C3R, 3);
 }
 
 } // namespace bench

@@ -40,7 +40,7 @@ struct Pairs {
 template <typename T, typename F>
 Contender libyuvContender(const char* name, F scale, const Scaling& s, int planes, int channels) {
     const auto images = std::make_shared<Pairs<T>>(s, planes, channels);
-    const auto filter = s.kind == Kind::linear ? libyuv::kFilterBilinear : libyuv::kFilterNone;
+    const auto filter = s.kind == Kind::nearest ? libyuv::kFilterNone : libyuv::kFilterBilinear;
     return {name, [=] {
                 for (int i = 0; i < planes; ++i) {
                     const Image<T>& from = *images->from[i];
@@ -52,6 +52,7 @@ Contender libyuvContender(const char* name, F scale, const Scaling& s, int plane
 }
 
 void addLibyuv(const Scaling& s, std::vector<Contender>& list) {
+    if (s.kind != Kind::nearest && s.kind != Kind::linear) return; // it has no longer kernels
     if (s.type == tpxDataType8u && s.channels == 1)
         list.push_back(libyuvContender<Tpx8u>("libyuv", libyuv::ScalePlane, s, 1, 1));
     if (s.type == tpxDataType8u && s.channels == 3) {
@@ -88,7 +89,16 @@ template <typename T>
 Contender zimgContender(const Scaling& s) {
     zimg_graph_builder_params params;
     zimg_graph_builder_params_default(&params, ZIMG_API_VERSION);
-    params.resample_filter = s.kind == Kind::linear ? ZIMG_RESIZE_BILINEAR : ZIMG_RESIZE_POINT;
+    params.resample_filter = s.kind == Kind::nearest  ? ZIMG_RESIZE_POINT
+                             : s.kind == Kind::linear ? ZIMG_RESIZE_BILINEAR
+                             : s.kind == Kind::cubic  ? ZIMG_RESIZE_BICUBIC
+                                                      : ZIMG_RESIZE_LANCZOS;
+    if (s.kind == Kind::cubic) {
+        params.filter_param_a = kCubicB;
+        params.filter_param_b = kCubicC;
+    } else if (s.kind == Kind::lanczos3) {
+        params.filter_param_a = 3;
+    }
     params.cpu_type = avxOnly ? ZIMG_CPU_X86_AVX : ZIMG_CPU_AUTO_64B;
     const zimg_image_format from = zimgFormat(s, s.from);
     const zimg_image_format to = zimgFormat(s, s.to);

@@ -11,7 +11,8 @@
 
 namespace bench {
 
-enum class Kind { nearest, linear };
+enum class Kind { nearest, linear, cubic, lanczos3 };
+inline constexpr float kCubicB = 0, kCubicC = 0.5f;
 
 struct Scaling {
     Kind kind;

@@ -50,6 +50,13 @@ inline V32f loadFourTwice(const float* p) {
     return V32f(_mm256_broadcast_ps(reinterpret_cast<const __m128*>(p)));
 }
 inline V32f loadFours(const float* low, const float* high) { return V32f(_mm256_loadu2_m128(high, low)); }
+// The halves of a register, to either address.
+inline void storeFours(float* low, float* high, V32f a) { _mm256_storeu2_m128(high, low, a); }
+// Lane K of either half in all four of that half.
+template <int K>
+inline V32f broadcastInHalves(V32f a) {
+    return V32f(_mm256_permute_ps(a, K * 0x55));
+}
 
 // ---- Registers of pieces ---------------------------------------------------------------------------------
 

@@ -1,0 +1,178 @@
+// Cubic, Lanczos and antialiasing resize: weighted taps along x and along y.
+//
+// The tile is taken in bands of columns. Within a band source rows are passed along x once, eight at a time,
+// into a ring with as many rows as there are taps along y, and destination rows are weighted sums of the ring.
+// Beyond an edge that is not in memory the source's edge pixels are repeated, so strips along the sides need no
+// code of their own: their taps are clamped one by one, which comes to the same sums.
+#include "frame/entry/entry.h"
+#include "geometry/resize/taps_pass.h"
+#include "geometry/resize/taps_source.h"
+#include "geometry/resize/tile.h"
+
+namespace tpx {
+namespace {
+
+// ---- Bands of columns --------------------------------------------------------------------------------------
+
+// Floats on the stack: what a band reads of eight source rows, and the ring of what it makes of them. A ring of
+// more rows than that lies in the caller's buffer, and has a row at a time passed into it.
+constexpr int64_t kSourceRoom = 768 * kTapRows, kRingRoom = 6144;
+
+// The positions of an axis from `first` on that make a band, of `end` at most.
+template <int N>
+TapColumns bandAt(const TpxiResizeAxis& axis, Footprint taps, int64_t ringRows, int64_t first, int64_t end) {
+    constexpr int64_t kGroup = TurnedSums<N>::kPositions;
+    const Tpx32s* const index = axis.pIndex + first;
+    const int64_t groups = maxOf<int64_t>(kRingRoom / (ringRows * kGroup * N), 1);
+    const auto pixels = [&](int64_t count) { return int64_t(index[count - 1]) - index[0] + taps.size; };
+    const auto fits = [&](int64_t count) { return pixels(count) * N * kTapRows <= kSourceRoom; };
+    int64_t count = minOf(end - first, groups * kGroup);
+    if (fits(1) && !fits(count)) { // as positions rise, the last one that fits is found by halving
+        int64_t tooMany = count;
+        count = 1;
+        while (tooMany - count > 1) {
+            const int64_t middle = (count + tooMany) / 2;
+            (fits(middle) ? count : tooMany) = middle;
+        }
+    }
+    return {index,     axis.pCoef32f + first * taps.size, count,
+            taps.size, int64_t(index[0]) + taps.offset,   pixels(count)};
+}
+
+// Where a position has more taps than the stack has room for, they are read in pieces.
+template <class T, int N>
+void passInPieces(const TapSource<T, N>& source, int64_t y, int64_t n, const TapColumns& columns,
+                  Tpx32f* turned, Tpx32f* const* rows) {
+    constexpr int64_t kPixels = kSourceRoom / (N * kTapRows);
+    passPositions<N>(columns.count, rows, [&](int64_t j, V32f(&sums)[N]) {
+        const int64_t from = columns.from + columns.index[j] - columns.index[0];
+        for (V32f& sum : sums) sum = V32f{};
+        for (int64_t t = 0; t < columns.taps; t += kPixels) {
+            const int64_t count = minOf(columns.taps - t, kPixels);
+            source.read(y, n, from + t, count, turned);
+            addTaps<N, kAnyTaps>(turned, columns.weights + j * columns.taps + t, int(count), t == 0, sums);
+        }
+    });
+}
+
+// ---- The tile ----------------------------------------------------------------------------------------------
+
+// Calls act(std::integral_constant<int, Taps>) with the number of taps, or kAnyTaps.
+template <class Act>
+void withTaps(int taps, Act act) {
+    switch (taps) {
+        case 2:
+            return act(std::integral_constant<int, 2>());
+        case 4:
+            return act(std::integral_constant<int, 4>());
+        case 6:
+            return act(std::integral_constant<int, 6>());
+        default:
+            return act(std::integral_constant<int, kAnyTaps>());
+    }
+}
+
+using PassAlongX = void (*)(const TapColumns&, const Tpx32f*, Tpx32f* const*);
+template <class T>
+using BlendAlongY = void (*)(const RowRing<Tpx32f>&, const Tpx32f*, int, T*, int64_t);
+
+template <class T, int N>
+void resizeTile(const Tile<T>& tile, BorderWord border) {
+    const TpxiResizeAxis &ax = tile.plan.axisX, &ay = tile.plan.axisY;
+    const Footprint tapsX = footprintOf(tile.plan.lobesX), tapsY = footprintOf(tile.plan.lobesY);
+    const TapSource<T, N> source(tile.src, ax.srcLen, ay.srcLen, border);
+    PassAlongX pass = nullptr;
+    withTaps(tapsX.size, [&](auto taps) { pass = passAlongX<N, taps>; });
+    BlendAlongY<T> blend = nullptr;
+    withTaps(tapsY.size, [&](auto taps) { blend = blendAlongY<T, taps>; });
+
+    const Tpx32s* const rowIndex = ay.pIndex + tile.y;
+    const Tpx32f* const rowWeights = ay.pCoef32f + tile.y * tapsY.size;
+    const int64_t endRow = int64_t(rowIndex[tile.height - 1]) + tapsY.last() + 1;
+    // Whole registers of what a group of positions makes.
+    constexpr int64_t kGroup = TurnedSums<N>::kPositions * N;
+    alignas(32) Tpx32f turned[kSourceRoom], onStack[kRingRoom], aside[kGroup];
+    const bool fits = (tapsY.size + kTapRows - 1) * kGroup <= kRingRoom;
+    const int64_t ahead = fits ? kTapRows - 1 : 0;
+    Tpx32f* const memory = fits ? onStack : reinterpret_cast<Tpx32f*>(alignUp(tile.buffer, 32));
+
+    const int64_t end = tile.x + tile.width;
+    int64_t bandWidth;
+    for (int64_t x = tile.x; x < end; x += bandWidth) {
+        const TapColumns columns = bandAt<N>(ax, tapsX, tapsY.size + ahead, x, end);
+        bandWidth = columns.count;
+        // The caller's buffer has no room for whole groups; a band is a single group then.
+        const auto step = ptrdiff_t(roundUp(uint64_t(columns.count) * N, fits ? kGroup : kTapRows));
+        RowRing<Tpx32f> ring(memory, step, tapsY.size, ahead);
+        const auto make = [&](int64_t y, int64_t n) {
+            Tpx32f* rows[kTapRows]; // lanes past n have what row n - 1 has
+            for (int k = 0; k < kTapRows; k++) rows[k] = fits ? ring.of(y + minOf<int64_t>(k, n - 1)) : aside;
+            if (columns.pixels * N * kTapRows > kSourceRoom) {
+                passInPieces(source, y, n, columns, turned, rows);
+            } else {
+                source.read(y, n, columns.from, columns.pixels, turned);
+                pass(columns, turned, rows);
+            }
+            if (!fits) __builtin_memcpy(ring.of(y), aside, size_t(columns.count) * N * sizeof(Tpx32f));
+        };
+        const ImageView<T> dst = tile.dst.from((x - tile.x) * N, 0);
+        for (int64_t i = 0; i < tile.height; i++) {
+            ring.moveTo(int64_t(rowIndex[i]) + tapsY.offset, endRow, make);
+            blend(ring, rowWeights + i * tapsY.size, tapsY.size, dst.row(i), columns.count * N);
+        }
+    }
+}
+
+// An antialiasing call takes plans of all three kinds of kernel.
+constexpr auto kAntialiasing = TpxInterpolationType(0);
+
+template <Layout L, class T>
+TpxStatus resizeByTaps(const TileCall<T>& call, TpxBorderType word, TpxInterpolationType interpolation) {
+    constexpr int N = channelsOf(L);
+    const BorderWord border = readBorder<Border::Replicate>(word);
+    if (!border.valid) return tpxErrBorder;
+    const TpxStatus status = checkTile(call, interpolation, interpolation == kAntialiasing);
+    if (status != tpxOk) return status;
+    resizeTile<T, N>(makeTile(call, N), border);
+    return doneTile(call);
+}
+
+} // namespace
+} // namespace tpx
+
+// ---- Entries ---------------------------------------------------------------------------------------------
+
+#define TPX_RESIZE_TAPS(STEM, KIND, T, L, R, Step, Point, Size)                                   \
+    TPX_ENTRY(STEM##_##T##_##L##R)                                                                \
+    (const Tpx##T* pSrc, Step srcStep, Tpx##T* pDst, Step dstStep, Point dstOffset, Size dstSize, \
+     TpxBorderType border, const Tpx##T*, const TpxiResizeSpec* pSpec, Tpx8u* pBuffer) {          \
+        return tpx::resizeByTaps<tpx::Layout::L, Tpx##T>({tpx::kFormOf<Size>,                     \
+                                                          {pSrc, srcStep},                        \
+                                                          {pDst, dstStep},                        \
+                                                          tpx::wide(dstOffset),                   \
+                                                          tpx::wide(dstSize),                     \
+                                                          pSpec,                                  \
+                                                          pBuffer},                               \
+                                                         border, KIND);                           \
+    }
+#define TPX_RESIZE_TAPS_LAYOUTS(STEM, KIND, T)                               \
+    TPX_RESIZE_TAPS(STEM, KIND, T, C1, R, int, TpxiPoint, TpxiSize)          \
+    TPX_RESIZE_TAPS(STEM, KIND, T, C3, R, int, TpxiPoint, TpxiSize)          \
+    TPX_RESIZE_TAPS(STEM, KIND, T, C4, R, int, TpxiPoint, TpxiSize)          \
+    TPX_RESIZE_TAPS(STEM, KIND, T, C1, R_L, TpxSizeL, TpxiPointL, TpxiSizeL) \
+    TPX_RESIZE_TAPS(STEM, KIND, T, C3, R_L, TpxSizeL, TpxiPointL, TpxiSizeL) \
+    TPX_RESIZE_TAPS(STEM, KIND, T, C4, R_L, TpxSizeL, TpxiPointL, TpxiSizeL)
+TPX_RESIZE_TAPS_LAYOUTS(tpxiResizeCubic, tpxInterpolationCubic, 8u)
+TPX_RESIZE_TAPS_LAYOUTS(tpxiResizeCubic, tpxInterpolationCubic, 16u)
+TPX_RESIZE_TAPS_LAYOUTS(tpxiResizeCubic, tpxInterpolationCubic, 16s)
+TPX_RESIZE_TAPS_LAYOUTS(tpxiResizeCubic, tpxInterpolationCubic, 32f)
+TPX_RESIZE_TAPS_LAYOUTS(tpxiResizeLanczos, tpxInterpolationLanczos, 8u)
+TPX_RESIZE_TAPS_LAYOUTS(tpxiResizeLanczos, tpxInterpolationLanczos, 16u)
+TPX_RESIZE_TAPS_LAYOUTS(tpxiResizeLanczos, tpxInterpolationLanczos, 16s)
+TPX_RESIZE_TAPS_LAYOUTS(tpxiResizeLanczos, tpxInterpolationLanczos, 32f)
+TPX_RESIZE_TAPS_LAYOUTS(tpxiResizeAntialiasing, tpx::kAntialiasing, 8u)
+TPX_RESIZE_TAPS_LAYOUTS(tpxiResizeAntialiasing, tpx::kAntialiasing, 16u)
+TPX_RESIZE_TAPS_LAYOUTS(tpxiResizeAntialiasing, tpx::kAntialiasing, 16s)
+TPX_RESIZE_TAPS_LAYOUTS(tpxiResizeAntialiasing, tpx::kAntialiasing, 32f)
+#undef TPX_RESIZE_TAPS
+#undef TPX_RESIZE_TAPS_LAYOUTS

@@ -1,0 +1,158 @@
+// The two passes of a resize by weighted taps, in single precision. A result is the sum of products of weights
+// and samples in the order of the taps, each product and each sum rounded, along x and then along y; no pass
+// rounds otherwise.
+#pragma once
+
+#include "frame/images/row_ring.h"
+#include "frame/runs/runs.h"
+#include "frame/simd/rounding.h"
+#include "geometry/resize/taps_source.h"
+
+namespace tpx {
+
+// The numbers of taps with code of their own; kAnyTaps serves all even ones.
+inline constexpr int kAnyTaps = 0;
+
+// ---- Along x ---------------------------------------------------------------------------------------------
+
+// A band of columns, few enough for what is kept of its rows to stay close to the processor.
+struct TapColumns {
+    const Tpx32s* index;   // of the band's positions
+    const Tpx32f* weights; // `taps` of each
+    int64_t count;
+    int taps;
+    int64_t from, pixels; // of the source, that the taps read
+};
+
+// Adds `taps` weighted pixels to the sums of a position; eight rows lie side by side.
+template <int N, int Taps>
+inline void addTaps(const Tpx32f* pixels, const Tpx32f* weights, int taps, bool first, V32f (&sums)[N]) {
+    int t = 0;
+    if (first) {
+        const V32f weight = splat<V32f>(*weights);
+        for (int c = 0; c < N; c++) sums[c] = load(pixels + c * kTapRows) * weight;
+        t = 1;
+    }
+    for (; t < (Taps == kAnyTaps ? taps : Taps); t++) {
+        const V32f weight = splat<V32f>(weights[t]);
+        for (int c = 0; c < N; c++) sums[c] += load(pixels + (t * N + c) * kTapRows) * weight;
+    }
+}
+
+// The sums of eight positions, turned back into eight rows at a time.
+template <int N>
+class TurnedSums {
+ public:
+    static constexpr int kPositions = 8;
+
+    void put(int64_t position, const V32f (&sums)[N]) {
+        for (int c = 0; c < N; c++) store(sums_ + (position % kPositions * N + c) * kTapRows, sums[c]);
+    }
+    // Samples of the rows from `at` on.
+    void flush(Tpx32f* const* rows, int64_t at) const {
+        for (int i = 0; i < kPositions * N; i += 8)
+            for (int half = 0; half < 2; half++) {
+                const Tpx32f* const from = sums_ + i * kTapRows + 4 * half;
+                const auto two = [&](int k) {
+                    return loadFours(from + k * kTapRows, from + (k + 4) * kTapRows);
+                };
+                const auto turned = transpose(Several<V32f, 4>{{two(0), two(1), two(2), two(3)}});
+                for (int k = 0; k < 4; k++) store(rows[4 * half + k] + at + i, turned.at[k]);
+            }
+    }
+
+ private:
+    alignas(32) Tpx32f sums_[kPositions * N * kTapRows];
+};
+
+// sumsOf(j, sums) for each position of a band, to eight rows, which have room for whole groups of positions.
+template <int N, class SumsOf>
+inline void passPositions(int64_t count, Tpx32f* const* rows, SumsOf sumsOf) {
+    constexpr int kPositions = TurnedSums<N>::kPositions;
+    TurnedSums<N> turned;
+    for (int64_t j = 0; j < count; j += kPositions) {
+        const int64_t end = minOf(count, j + kPositions);
+        for (int64_t k = j; k < end; k++) {
+            V32f sums[N];
+            sumsOf(k, sums);
+            turned.put(k, sums);
+        }
+        turned.flush(rows, j * N);
+    }
+}
+
+template <int N, int Taps>
+inline void passAlongX(const TapColumns& columns, const Tpx32f* turned, Tpx32f* const* rows) {
+    const int taps = Taps == kAnyTaps ? columns.taps : Taps;
+    const Tpx32s* const index = columns.index;
+    const Tpx32f *const weights = columns.weights, *const origin = turned - int64_t(index[0]) * N * kTapRows;
+    passPositions<N>(columns.count, rows, [&](int64_t j, V32f(&sums)[N]) {
+        addTaps<N, Taps>(origin + int64_t(index[j]) * N * kTapRows, weights + j * taps, taps, true, sums);
+    });
+}
+
+// ---- Along y ---------------------------------------------------------------------------------------------
+
+// Single precision to a register of samples: integers are rounded with the thread's mode and saturated.
+template <class T, int M>
+inline Vec<T> samplesOf(const V32f* x) {
+    if constexpr (std::is_same_v<T, Tpx32f>) {
+        return *x;
+    } else {
+        Several<V32s, 2 * M> parts;
+        for (int i = 0; i < M; i++) {
+            const Pair<V32s> lanes = toInteger(x[i]);
+            parts.at[2 * i] = lanes.low;
+            parts.at[2 * i + 1] = lanes.high;
+        }
+        return narrowAll<T>(parts);
+    }
+}
+
+// The rows of the window, weighted and added, to `count` samples. Rows have whole registers.
+template <class T, int Taps>
+inline void blendAlongY(const RowRing<Tpx32f>& ring, const Tpx32f* weights, int taps, T* dst, int64_t count) {
+    constexpr int L = kLanes<T>, F = kLanes<Tpx32f>, kPerRegister = L / F;
+    // Registers of sums that are made at a time; of few taps no more than what is stored.
+    constexpr int kSums = Taps == kAnyTaps ? 4 : kPerRegister;
+    const Tpx32f* rows[Taps == kAnyTaps ? 1 : Taps];
+    for (int t = 0; t < Taps; t++) rows[t] = ring.at(t);
+
+    const auto sums = [&]<int M>(int64_t i, V32f(&sum)[M]) {
+        const auto add = [&](const Tpx32f* row, int t) {
+            const V32f weight = splat<V32f>(peek(weights + t));
+            for (int m = 0; m < M; m++) {
+                const V32f product = load(row + i + m * F) * weight;
+                sum[m] = t == 0 ? product : sum[m] + product;
+            }
+        };
+        if constexpr (Taps == kAnyTaps) {
+            for (int m = 0; m < M; m++) sum[m] = load(ring.at(0) + i + m * F) * splat<V32f>(peek(weights));
+            for (int t = 1; t < taps; t++) add(ring.at(t), t);
+        } else {
+            for (int t = 0; t < Taps; t++) add(rows[t], t);
+        }
+    };
+    const auto one = [&](int64_t i) {
+        V32f sum[kPerRegister];
+        sums(i, sum);
+        return samplesOf<T, kPerRegister>(sum);
+    };
+    if (count < L) {
+        const Vec<T> all = one(0);
+        copyShort(dst, &all, count * int64_t(sizeof(T)));
+        return;
+    }
+    int64_t i = 0;
+    for (; i + kSums * F <= count; i += kSums * F) {
+        V32f sum[kSums];
+        sums(i, sum);
+        for (int k = 0; k < kSums / kPerRegister; k++)
+            store(dst + i + k * L, samplesOf<T, kPerRegister>(sum + k * kPerRegister));
+    }
+    if constexpr (kSums > kPerRegister)
+        for (; i + L <= count; i += L) store(dst + i, one(i));
+    if (i < count) store(dst + count - L, one(count - L));
+}
+
+} // namespace tpx
