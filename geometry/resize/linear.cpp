@@ -7,7 +7,7 @@
 #include "frame/simd/rounding.h"
 #include "geometry/resize/linear_pass_8u.h"
 #include "geometry/resize/linear_pass_float.h"
-#include "geometry/resize/tile.h"
+#include "geometry/resize/pixel_gather.h"
 
 namespace tpx {
 namespace {
@@ -182,6 +182,15 @@ template <class T, int N>
     }
 }
 
+// Where an odd number of source pixels makes one, every position lies in the middle of the middle one: all
+// fractions are 0, and blends are samples. Of floats they are not quite: -0, and neighbours that are no
+// numbers.
+template <class T>
+bool isPick(const TpxiResizeSpec& plan) {
+    const auto odd = [](const TpxiResizeAxis& axis) { return axis.dstRatio == 1 && axis.srcRatio % 2 == 1; };
+    return !std::is_floating_point_v<T> && odd(plan.axisX) && odd(plan.axisY);
+}
+
 template <Layout L, class T>
 TpxStatus resizeLinear(const TileCall<T>& call, TpxBorderType word) {
     constexpr int N = channelsOf(L);
@@ -191,6 +200,10 @@ TpxStatus resizeLinear(const TileCall<T>& call, TpxBorderType word) {
     if (status != tpxOk) return status;
 
     const Tile<T> tile = makeTile(call, N);
+    if (isPick<T>(tile.plan)) {
+        gatherTile<N>(tile);
+        return doneTile(call);
+    }
     const Strips strips = stripsOf(tile, border);
     fillStripRows<T, N>(tile, strips, 0, strips.top);
     fillMiddle<T, N>(tile, strips);
