@@ -33,5 +33,6 @@
 #include "tpxi/resize_taps.h"
 #include "tpxi/statistics.h"
 #include "tpxi/threshold.h"
+#include "tpxi/transforms.h"
 
 #endif
