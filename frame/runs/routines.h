@@ -74,8 +74,8 @@ TpxStatus TPXS(SortRadixAscend_32f_I)(Tpx32f* pSrcDst, int len, Tpx8u* pBuffer);
 // Floor and ceiling do not depend on the control register's rounding. The others are right to less than 1 unit
 // in the last place when it says to nearest, for all arguments; the measured bounds stand in the file. Special
 // values are those of C99, except that the sine and cosine of infinity and NaN are x * -0.0, a NaN.
-// To come: the sine for antialiasing resizes, sine and cosine for warps and transforms, the others for the
-// weights of filters and the bounds of warps.
+// To come: exponential, logarithm and power for the weights of filters, square roots for the edges of
+// warps.
 double TPXS(FabsOne)(double x);
 double TPXS(FloorOne)(double x);
 double TPXS(CeilOne)(double x);
