@@ -4,6 +4,7 @@
 // wait in a ring until no window reads the source's row.
 #include "filters/border_model.h"
 #include "filters/box_sums.h"
+#include "filters/stencil.h"
 #include "frame/entry/entry.h"
 
 namespace tpx {
@@ -64,12 +65,12 @@ struct ByShift {
         half = splat<V16u>(Tpx16u(1 << (shift - 1)));
     }
 
+    [[gnu::always_inline]] V16u eight(V16u sums) const {
+        return shiftRight(multiplyHigh(sums, factor) + half, shift);
+    }
     template <class D, class Sum, class At>
     [[gnu::always_inline]] Vec<D> means(At sumsAt, ptrdiff_t i) const {
-        const auto eight = [&](ptrdiff_t at) __attribute__((always_inline)) {
-            return shiftRight(multiplyHigh(sumsAt(at), factor) + half, shift);
-        };
-        return narrow<D>(Pair<V16u>{eight(i), eight(i + 8)});
+        return narrow<D>(Pair<V16u>{eight(sumsAt(i)), eight(sumsAt(i + 8))});
     }
 };
 
@@ -85,12 +86,10 @@ struct ByRounding {
         factor = splat<V16s>(Tpx16s(f));
     }
 
+    [[gnu::always_inline]] V16u eight(V16u sums) const { return V16u(multiplyRounded(V16s(sums), factor)); }
     template <class D, class Sum, class At>
     [[gnu::always_inline]] Vec<D> means(At sumsAt, ptrdiff_t i) const {
-        const auto eight = [&](ptrdiff_t at) __attribute__((always_inline)) {
-            return multiplyRounded(V16s(sumsAt(at)), factor);
-        };
-        return narrow<D>(Pair<V16s>{eight(i), eight(i + 8)});
+        return narrow<D>(Pair<V16u>{eight(sumsAt(i)), eight(sumsAt(i + 8))});
     }
 };
 
@@ -108,46 +107,60 @@ struct BoxMemory {
     ImageView<S> ring;
 };
 
-// Means of 3x3 bytes of one channel, without sums of columns: a row's sums of three are shared by the output
-// rows above and below, for a few rows at a time.
-struct RowOfThrees {
+// Means of 3x3 or 5x5 bytes of one channel, without sums of columns: a row's sums of neighbours are shared by
+// the output rows that see it, for a few rows at a time.
+template <int Side>
+struct RowOfSums {
     V16s even, odd; // those centred on the bytes of even number, and of odd
 
+    RowOfSums() = default;
     // Of 16 bytes, whose neighbours begin at p.
-    explicit RowOfThrees(const Tpx8u* p) {
-        const V16u last = V16u(load(p + 2));
-        even = addPairs(load(p)) + V16s(last & splat<V16u>(0xFF));
-        odd = addPairs(load(p + 1)) + V16s(last >> 8);
+    explicit RowOfSums(const Tpx8u* p) {
+        const V8u first = load(p), last = load(p + Side - 1);
+        even = addPairs(first) + V16s(V16u(last) & splat<V16u>(0xFF));
+        odd = V16s(V16u(first) >> 8) + addPairs(last);
+        for (int k = 2; k < Side - 1; k += 2) {
+            const V16s middle = addPairs(load(p + k));
+            even += middle;
+            odd += middle;
+        }
     }
 };
 
-inline void meansOf3x3(const Region<Tpx8u, Tpx8u>& region, V16s factor) {
+template <int Side, class Mean>
+void meansOfSquare(const Region<Tpx8u, Tpx8u>& region, Mean mean) {
     constexpr ptrdiff_t kBlock = kLanes<Tpx8u>;
     // Rows that lie multiples of 2048 bytes apart share a set or two of the first-level cache, which does not
     // hold a line of many of them.
-    const int64_t band = region.src.step % 4096 == 0 || region.dst.step % 4096 == 0 ? 2 : 8;
+    const bool share = region.src.step % 4096 == 0 || region.dst.step % 4096 == 0;
+    const int64_t band = share ? 2 : Side == 3 ? 8 : 20;
     const ptrdiff_t width = ptrdiff_t(region.size.width);
-    const auto src = region.src.from(-1, -1);
+    const auto src = region.src.from(-(Side / 2), -(Side / 2));
     for (int64_t y = 0; y < region.size.height; y += band) {
         const int64_t left = region.size.height - y, rows = left < band ? left : band;
         const auto column = [&](ptrdiff_t x, auto put) {
             const Tpx8u* from = src.from(x, ptrdiff_t(y)).data;
             Tpx8u* to = region.dst.from(x, ptrdiff_t(y)).data;
-            const RowOfThrees first(from);
-            from = addBytes(from, src.step);
-            RowOfThrees above(from);
-            V16s even = first.even + above.even, odd = first.odd + above.odd; // of two rows
-            for (int64_t row = 0; row < rows; row++) {
-                from = addBytes(from, src.step);
-                const RowOfThrees below(from);
-                const V16s evenMeans = multiplyRounded(even + below.even, factor),
-                           oddMeans = multiplyRounded(odd + below.odd, factor);
-                put(to, V8u(evenMeans | oddMeans << 8));
-                even = above.even + below.even;
-                odd = above.odd + below.odd;
-                above = below;
-                to = addBytes(to, region.dst.step);
+            RowOfSums<Side> ring[Side];
+            V16s even{}, odd{}; // of the rows above the lowest one
+            for (int k = 0; k < Side - 1; k++, from = addBytes(from, src.step)) {
+                ring[k] = RowOfSums<Side>(from);
+                even += ring[k].even;
+                odd += ring[k].odd;
             }
+            for (int64_t row = 0; row < rows; row += Side)
+                unroll<Side>([&](auto k) __attribute__((always_inline)) {
+                    if (row + k >= rows) return;
+                    const RowOfSums<Side> below(from);
+                    even += below.even;
+                    odd += below.odd;
+                    put(to, V8u(mean.eight(V16u(even)) | mean.eight(V16u(odd)) << 8));
+                    even -= ring[k].even;
+                    odd -= ring[k].odd;
+                    ring[(k + Side - 1) % Side] = below;
+                    from = addBytes(from, src.step);
+                    to = addBytes(to, region.dst.step);
+                });
         };
         const auto whole = [](Tpx8u* to, V8u means) { store(to, means); };
         if (width < kBlock) {
@@ -175,9 +188,11 @@ class BoxKernel {
 
     void operator()(const Region<S, S>& region) const {
         if constexpr (L == Layout::C1 && sizeof(S) == 1) {
-            if (mask_.width == 3 && mask_.height == 3 && region.src.data != region.dst.data &&
-                (region.size.width >= kBlock || region.slack >= kBlock))
-                return meansOf3x3(region, byRounding_.factor);
+            if (mask_.width == mask_.height && region.src.data != region.dst.data &&
+                (region.size.width >= kBlock || region.slack >= kBlock)) {
+                if (mask_.width == 3) return meansOfSquare<3>(region, byRounding_);
+                if (mask_.width == 5) return meansOfSquare<5>(region, byShift_);
+            }
         }
         if constexpr (std::is_integral_v<S>) {
             if (sizeof(S) == 1 && mask_.height * kLargest<S> <= kMax<Tpx16u>)

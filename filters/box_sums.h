@@ -26,12 +26,14 @@ class ColumnSums {
 
     const Sum* data() const { return sums_; }
 
-    // Over `rows` rows from the view's first on.
+    // Over `rows` rows from the view's first on, one added after the other.
     void form(ImageView<const S> src, int64_t rows) const {
         if (rows == 3) return formOf<3>(src);
         if (rows == 5) return formOf<5>(src);
         formOf<1>(src);
-        for (int64_t y = 1; y < rows; y++) add(src.row(y));
+        int64_t y = 1;
+        for (; y + 4 <= rows; y += 4) add(src.row(y), src.row(y + 1), src.row(y + 2), src.row(y + 3));
+        for (; y < rows; y++) add(src.row(y));
     }
     // One row down.
     void slide(const S* enters, const S* leaves) const {
@@ -56,8 +58,9 @@ class ColumnSums {
             [&](ptrdiff_t i) { return sumAt([&](const S* row) { return sumsFrom<Sum>(row + i); }); },
             [&] { return sumAt([&](const S* row) { return shortSums(row); }); });
     }
-    void add(const S* row) const {
-        update([](Vec<Sum> sum, Vec<Sum> in) { return sum + in; }, row);
+    template <class... Row>
+    void add(const Row*... rows) const {
+        update([](auto... sums) { return (... + sums); }, rows...);
     }
 
     template <class Rule, class... Row>
@@ -123,25 +126,61 @@ struct WindowTile {
 
     template <class From>
     void sum(const From* from, ptrdiff_t length, int64_t count, int N) {
-        constexpr ptrdiff_t L = kLanes<Sum>;
         const ptrdiff_t all = length + ptrdiff_t(count - 1) * N;
         convertRun(from, powers, all, [](const From* p) { return sumsFrom<Sum>(p); });
         store(powers + all, Vec<Sum>{}); // registers are whole
-        int64_t summed = 0;
-        for (int64_t width = 1;; width *= 2) { // powers[i] is the sum of so many entries
+        switch (count & 3) {
+            case 0:
+                return sumFrom<0>(length, count, N);
+            case 1:
+                return sumFrom<1>(length, count, N);
+            case 2:
+                return sumFrom<2>(length, count, N);
+            default:
+                return sumFrom<3>(length, count, N);
+        }
+    }
+
+ private:
+    // The first entries of every window, so many, and then sums of 4, 8, ... entries, which powers[i] becomes.
+    template <int First>
+    void sumFrom(ptrdiff_t length, int64_t count, int N) {
+        constexpr ptrdiff_t L = kLanes<Sum>;
+        const ptrdiff_t fours = count < 4 ? 0 : length + ptrdiff_t(count - 4) * N;
+        ptrdiff_t i = 0;
+        for (; i < length; i += L) {
+            const Sum* const p = powers + i;
+            if constexpr (First == 1) store(sums + i, load(p));
+            if constexpr (First == 2) store(sums + i, load(p) + load(p + N));
+            if constexpr (First == 3) store(sums + i, load(p) + (load(p + N) + load(p + 2 * N)));
+            if (fours > 0) sumFour(i, N);
+        }
+        for (; i < fours; i += L) sumFour(i, N);
+
+        int64_t summed = First;
+        const auto addAll = [&](auto more) {
+            const Sum* const at = powers + ptrdiff_t(summed) * N;
+            if (summed == 0)
+                for (ptrdiff_t k = 0; k < length; k += L) store(sums + k, more(at + k));
+            else
+                for (ptrdiff_t k = 0; k < length; k += L) store(sums + k, load(sums + k) + more(at + k));
+        };
+        for (int64_t width = 4; width <= count; width *= 2) { // powers[i] is the sum of so many entries
+            const ptrdiff_t apart = ptrdiff_t(width) * N;
             if (count & width) {
-                const Sum* const at = powers + ptrdiff_t(summed) * N;
-                if (summed == 0)
-                    for (ptrdiff_t i = 0; i < length; i += L) store(sums + i, load(at + i));
-                else
-                    for (ptrdiff_t i = 0; i < length; i += L) store(sums + i, load(sums + i) + load(at + i));
+                addAll([](const Sum* p) { return load(p); });
                 summed += width;
             }
-            if (summed == count) return;
-            const ptrdiff_t end = length + ptrdiff_t(count - 2 * width) * N, apart = ptrdiff_t(width) * N;
-            for (ptrdiff_t i = 0; i < end; i += L)
-                store(powers + i, load(powers + i) + load(powers + i + apart));
+            if (count - summed == 2 * width)
+                return addAll([=](const Sum* p) { return load(p) + load(p + apart); });
+            const ptrdiff_t end = length + ptrdiff_t(count - 2 * width) * N;
+            for (ptrdiff_t k = 0; k < end; k += L)
+                store(powers + k, load(powers + k) + load(powers + k + apart));
         }
+    }
+    void sumFour(ptrdiff_t i, int N) {
+        const Sum* const p = powers + i;
+        store(powers + i, (load(p) + load(p + N)) + (load(p + 2 * N) + load(p + 3 * N)));
     }
 };
 

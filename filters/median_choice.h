@@ -2,7 +2,7 @@
 #pragma once
 
 #include "filters/median_histogram.h"
-#include "filters/median_kernels.h"
+#include "filters/median_tiles.h"
 
 namespace tpx {
 
@@ -10,7 +10,10 @@ constexpr bool isOdd(TpxiSizeL mask) {
     return mask.width >= 1 && mask.height >= 1 && mask.width % 2 == 1 && mask.height % 2 == 1;
 }
 
-// Up to so many samples bisection is the faster one.
+// Up to so many samples tiles are faster than histograms.
+template <class T>
+inline constexpr int64_t kMostTiled = sizeof(T) == 1 ? 80 : 1 << 16;
+// Of those that tiles do not serve, up to so many bisection is the fastest.
 template <class T>
 inline constexpr int64_t kMostBisected = sizeof(T) == 1 ? 45 : 200;
 
@@ -30,11 +33,20 @@ void withMedianOf(TpxiSizeL mask, Run run) {
     if (is(5, 1)) return run(ShapeMedian<L, RectangleShape<5, 1>, T>());
     if (is(1, 5)) return run(ShapeMedian<L, RectangleShape<1, 5>, T>());
     const int64_t samples = mask.width * mask.height;
-    if constexpr (sizeof(T) == 1) {
-        if (samples > kMostBisected<T>)
-            return ColumnMedian<L>::serves(mask) ? run(ColumnMedian<L>(mask)) : run(SlidingMedian<L, T>(mask));
-    } else if constexpr (sizeof(T) == 2) {
-        if (samples > kMostBisected<T>) return run(SlidingMedian<L, T>(mask));
+    if (samples <= kMostTiled<T>) {
+        if (TileMedian<T, 4>::serves(mask)) return run(TileMedian<T, 4>(mask, channelsOf(L), coloursOf(L)));
+        if constexpr (std::is_same_v<T, Tpx32f>)
+            if (TileMedian<T, 4, AsInteger>::serves(mask))
+                return run(TileMedian<T, 4, AsInteger>(mask, channelsOf(L), coloursOf(L)));
+        if (TileMedian<T, 2>::serves(mask)) return run(TileMedian<T, 2>(mask, channelsOf(L), coloursOf(L)));
+    }
+    if (samples > kMostBisected<T> && samples <= kMax<Tpx32s>) { // which histograms can count
+        if constexpr (sizeof(T) == 1) {
+            if (ColumnMedian<L>::serves(mask)) return run(ColumnMedian<L>(mask));
+            if (WideColumnMedian<L>::serves(mask)) return run(WideColumnMedian<L>(mask));
+        } else if constexpr (sizeof(T) == 2) {
+            return run(SlidingMedian<L, T>(mask));
+        }
     }
     run(BisectedMedian<L, T>(mask));
 }

@@ -1,7 +1,8 @@
 // Region kernels of medians by counting samples, for masks of integers that are too large for networks.
 //
 // ColumnMedian: 8-bit samples under masks that are not too large, at a cost that does not depend on the mask.
-// SlidingMedian: 8-bit and 16-bit samples under any mask, at a cost that grows with its height.
+// WideColumnMedian: 8-bit samples under larger ones, at a cost that hardly does.
+// SlidingMedian: 16-bit samples under any mask, at a cost that grows with its height.
 #pragma once
 
 #include "filters/median_kernels.h"
@@ -29,26 +30,34 @@ struct CumulativeSteps {
 };
 inline constexpr CumulativeSteps kSteps;
 
+// filterBand(source from the first window on, destination, size), a channel and so many columns at a time.
+template <Layout L, class Filter>
+void forBands(const Region<Tpx8u, Tpx8u>& region, TpxiSizeL mask, int64_t band, Filter filterBand) {
+    constexpr int N = channelsOf(L);
+    for (int64_t x = 0; x < region.size.width; x += band) {
+        const int64_t left = region.size.width - x, width = left < band ? left : band;
+        for (int c = 0; c < coloursOf(L); c++)
+            filterBand(region.src.from((x - mask.width / 2) * N + c, -(mask.height / 2)),
+                       region.dst.from(x * N + c, 0), TpxiSizeL{width, region.size.height});
+    }
+}
+
 template <Layout L>
 class ColumnMedian {
     static constexpr int N = channelsOf(L);
-    static constexpr int kColumns = 192, kLargestWidth = 129;
+    static constexpr int kColumns = 168, kLargestWidth = 129;
     using Counts = Pair<V16u>; // of a window's 16 values
 
  public:
-    // Counts of a column have 8 bits, those of a window 15. Columns of a band lie on the stack.
+    // Counts of a column have 8 bits, those of a window 15. Columns of a band lie on the stack, beside a band
+    // of a border.
     static bool serves(TpxiSizeL mask) { return mask.width <= kLargestWidth && mask.height <= 255; }
 
     explicit ColumnMedian(TpxiSizeL mask) : mask_(mask) {}
 
     void operator()(const Region<Tpx8u, Tpx8u>& region) const {
-        const int64_t band = kColumns - (mask_.width - 1);
-        for (int64_t x = 0; x < region.size.width; x += band) {
-            const int64_t left = region.size.width - x, width = left < band ? left : band;
-            for (int c = 0; c < coloursOf(L); c++)
-                filterBand(region.src.from((x - mask_.width / 2) * N + c, -(mask_.height / 2)),
-                           region.dst.from(x * N + c, 0), {width, region.size.height});
-        }
+        forBands<L>(region, mask_, kColumns - (mask_.width - 1),
+                    [this](auto src, auto dst, TpxiSizeL size) { filterBand(src, dst, size); });
     }
 
  private:
@@ -136,6 +145,73 @@ class ColumnMedian {
     TpxiSizeL mask_;
 };
 
+// Of columns only those that enter or leave a window in a band have histograms; that of the band's first window
+// slides down by itself.
+template <Layout L>
+class WideColumnMedian {
+    static constexpr int N = channelsOf(L), kBand = 40;
+    static constexpr int kCoarse = 16, kBins = kCoarse + 256; // by sixteenths, then by values
+
+ public:
+    // Counts of a column, and their differences, have 16 bits.
+    static bool serves(TpxiSizeL mask) { return mask.height <= kMax<Tpx16s>; }
+
+    explicit WideColumnMedian(TpxiSizeL mask) : mask_(mask) {}
+
+    void operator()(const Region<Tpx8u, Tpx8u>& region) const {
+        forBands<L>(region, mask_, kBand,
+                    [this](auto src, auto dst, TpxiSizeL size) { filterBand(src, dst, size); });
+    }
+
+ private:
+    void filterBand(ImageView<const Tpx8u> src, ImageView<Tpx8u> dst, TpxiSizeL size) const {
+        Tpx16s leaving[kBand][kBins] = {}, entering[kBand][kBins] = {};
+        Tpx32s first[kBins] = {};
+        const auto countRow = [&](const Tpx8u* row, int by) {
+            for (int64_t i = 0; i < mask_.width; i++) count(first, row[i * N], by);
+            for (int64_t i = 0; i + 1 < size.width; i++) {
+                count(leaving[i], row[i * N], by);
+                count(entering[i], row[(mask_.width + i) * N], by);
+            }
+        };
+        for (int64_t r = 0; r < mask_.height; r++) countRow(src.row(r), 1);
+        for (int64_t y = 0;; y++) {
+            Tpx32s window[kBins];
+            __builtin_memcpy(window, first, sizeof window);
+            for (int64_t x = 0;; x++) {
+                dst.row(y)[x * N] = median(window);
+                if (x + 1 == size.width) break;
+                slide(window, entering[x], leaving[x]);
+            }
+            if (y + 1 == size.height) return;
+            countRow(src.row(y), -1);
+            countRow(src.row(y + mask_.height), 1);
+        }
+    }
+
+    template <class Count>
+    static void count(Count* bins, int sample, int by) {
+        bins[sample >> 4] = Count(bins[sample >> 4] + by);
+        bins[kCoarse + sample] = Count(bins[kCoarse + sample] + by);
+    }
+    static void slide(Tpx32s* window, const Tpx16s* enters, const Tpx16s* leaves) {
+        for (int i = 0; i < kBins; i += kLanes<Tpx16s>) {
+            const Pair<V32s> by = widen(load(enters + i) - load(leaves + i));
+            store(window + i, load(window + i) + by.low);
+            store(window + i + 4, load(window + i + 4) + by.high);
+        }
+    }
+    Tpx8u median(const Tpx32s* window) const {
+        int64_t left = mask_.width * mask_.height / 2; // samples that still come before the median
+        int k = 0, value = kCoarse;
+        for (; left >= window[k]; k++) left -= window[k];
+        for (value += 16 * k; left >= window[value]; value++) left -= window[value];
+        return Tpx8u(value - kCoarse);
+    }
+
+    TpxiSizeL mask_;
+};
+
 // ---- One histogram that slides ----------------------------------------------------------------------------
 
 // Huang, Yang and Tang, A Fast Two-Dimensional Median Filtering Algorithm, IEEE Transactions on Acoustics,
@@ -170,8 +246,8 @@ struct SlidingHistogram {
 // lower bytes; whenever it changes, these are looked for again.
 template <Layout L, class T>
 class SlidingMedian {
+    static_assert(sizeof(T) == 2);
     static constexpr int N = channelsOf(L), kBias = std::is_signed_v<T> ? 0x8000 : 0;
-    static constexpr bool kTwoLevels = sizeof(T) == 2;
 
  public:
     explicit SlidingMedian(TpxiSizeL mask) : mask_(mask) {}
@@ -199,39 +275,29 @@ class SlidingMedian {
     void filterRow(ImageView<const T> window, T* dst, int64_t width, Histograms& h) const {
         const int64_t rank = mask_.width * mask_.height / 2;
         const auto countIn = [&](int key) {
-            if constexpr (kTwoLevels) {
-                h.upper.add(key >> 8);
-                if (key >> 8 == h.lowerOf) h.lower.add(key & 0xFF);
-            } else {
-                h.upper.add(key);
-            }
+            h.upper.add(key >> 8);
+            if (key >> 8 == h.lowerOf) h.lower.add(key & 0xFF);
         };
         const auto countOut = [&](int key) {
-            if constexpr (kTwoLevels) {
-                h.upper.remove(key >> 8);
-                if (key >> 8 == h.lowerOf) h.lower.remove(key & 0xFF);
-            } else {
-                h.upper.remove(key);
-            }
+            h.upper.remove(key >> 8);
+            if (key >> 8 == h.lowerOf) h.lower.remove(key & 0xFF);
         };
         h.upper.clear();
         h.lowerOf = -1;
         for (int64_t r = 0; r < mask_.height; r++)
             for (int64_t i = 0; i < mask_.width; i++) countIn(keyOf(window.row(r) + i * N));
         for (int64_t x = 0;; x++) {
-            int value = h.upper.moveTo(rank);
-            if constexpr (kTwoLevels) {
-                if (value != h.lowerOf) {
-                    h.lowerOf = value;
-                    h.lower.clear();
-                    for (int64_t r = 0; r < mask_.height; r++) {
-                        const T* const row = window.row(r) + x * N;
-                        for (int64_t i = 0; i < mask_.width; i++)
-                            if (const int key = keyOf(row + i * N); key >> 8 == value) h.lower.add(key & 0xFF);
-                    }
+            const int upper = h.upper.moveTo(rank);
+            if (upper != h.lowerOf) {
+                h.lowerOf = upper;
+                h.lower.clear();
+                for (int64_t r = 0; r < mask_.height; r++) {
+                    const T* const row = window.row(r) + x * N;
+                    for (int64_t i = 0; i < mask_.width; i++)
+                        if (const int key = keyOf(row + i * N); key >> 8 == upper) h.lower.add(key & 0xFF);
                 }
-                value = (value << 8) + h.lower.moveTo(rank - h.upper.below);
             }
+            const int value = (upper << 8) + h.lower.moveTo(rank - h.upper.below);
             poke(dst + x * N, T(value - kBias));
             if (x + 1 == width) return;
             visitColumn(window, x, mask_.height, countOut);

@@ -149,6 +149,12 @@ TEST(Median, LargeMasks) {
         visit(Tpx16s(), mask, 41, 27);
         visit(Tpx32f(), mask, 33, 29);
     }
+    // Of bytes as large as tiles serve; past those that are merged as floats, and past all tiles.
+    for (FilterMask mask : {FilterMask{7, 11}, {13, 5}, {3, 25}}) visit(Tpx8u(), mask, 140, 31);
+    for (FilterMask mask : {FilterMask{31, 31}, {39, 39}, {45, 45}}) {
+        visit(Tpx16u(), mask, 70, 53);
+        visit(Tpx32f(), mask, 41, 47);
+    }
 }
 
 // 257 x 257 samples are more than 16 bits count.
@@ -160,6 +166,8 @@ TEST(Median, MasksOfMoreSamplesThan16BitsCount) {
     };
     visit(Tpx8u(), {257, 257}, 9, 4);
     visit(Tpx8u(), {301, 257}, 310, 1);
+    visit(Tpx8u(), {151, 3}, 130, 4);
+    visit(Tpx8u(), {3, 301}, 90, 3);
     visit(Tpx16u(), {257, 257}, 9, 3);
     visit(Tpx16s(), {257, 257}, 5, 2);
     visit(Tpx32f(), {257, 257}, 9, 1);
@@ -199,7 +207,7 @@ TEST(Median, ExtremesOfTheTypes) {
 TEST(Median, FloatsThatAreNoNumbersOrInfinite) {
     constexpr float kInfinity = std::numeric_limits<float>::infinity(),
                     kNaN = std::numeric_limits<float>::quiet_NaN();
-    for (int side : {3, 5, 7, 9, 27}) {
+    for (int side : {3, 5, 7, 9, 11, 29, 47}) {
         GuardedImage<Tpx32f> src(40, 30, 1), dst(40, 30, 1);
         int bytes = 0;
         ASSERT_EQ(tpxiFilterMedianBorderGetBufferSize(src.size(), {side, side}, tpxDataType32f, 1, &bytes),
@@ -217,8 +225,19 @@ TEST(Median, FloatsThatAreNoNumbersOrInfinite) {
         src.randomise(7);
         for (int i = 0; i < 40; i++) src.set(i, i % 30, 0, i % 2 ? kNaN : -kNaN);
         ASSERT_EQ(filter(), tpxOk);
+        if (side > 9) { // NaN is lower than all numbers
+            ASSERT_TRUE(matches(dst, [&](int x, int y, int) {
+                return medianAround<Tpx32f>(x, y, {side, side}, [&](int sx, int sy) {
+                    const float sample = src.at(std::clamp(sx, 0, 39), std::clamp(sy, 0, 29));
+                    return std::isnan(sample) ? -kInfinity : sample;
+                });
+            })) << side;
+        }
         src.fill([&](int, int, int) { return kNaN; });
         ASSERT_EQ(filter(), tpxOk);
+        if (side > 9) {
+            ASSERT_TRUE(matches(dst, [&](int, int, int) { return -kInfinity; })) << side;
+        }
     }
 }
 
@@ -378,7 +397,7 @@ struct Surrounded {
 template <class T, class Filter, class Size>
 void expectBorderless(Filter filter, Size bufferSize, int channels) {
     unsigned seed = 0;
-    for (FilterMask mask : {FilterMask{3, 3}, {5, 5}, {3, 1}, {1, 5}, {7, 3}, {9, 9}, {1, 1}})
+    for (FilterMask mask : {FilterMask{3, 3}, {5, 5}, {3, 1}, {1, 5}, {7, 3}, {9, 9}, {1, 1}, {1, 9}, {11, 7}})
         for (int width : {1, 2, 5, 8, 9, 33})
             for (int height : {1, 2, 7}) {
                 seed++;
