@@ -309,7 +309,7 @@ class BoxKernel {
         } else {
             WindowTile<Sum> tile;
             forTiles<WindowTile<Sum>::kLength>(length, [&](ptrdiff_t x, ptrdiff_t part) {
-                tile.sum(columns + x, part, mask_.width, N);
+                tile.sumPadded(columns + x, part, mask_.width, N); // more of the buffer lies behind them
                 put<Sum>(
                     [&](ptrdiff_t i) __attribute__((always_inline)) { return load(tile.sums + i); }, part,
                     dst + x, alpha + x, mean);

@@ -129,33 +129,42 @@ struct WindowTile {
         const ptrdiff_t all = length + ptrdiff_t(count - 1) * N;
         convertRun(from, powers, all, [](const From* p) { return sumsFrom<Sum>(p); });
         store(powers + all, Vec<Sum>{}); // registers are whole
+        sumPadded(powers, length, count, N);
+    }
+    // Of entries behind which a register's bytes can be read.
+    void sumPadded(const Sum* from, ptrdiff_t length, int64_t count, int N) {
         switch (count & 3) {
             case 0:
-                return sumFrom<0>(length, count, N);
+                return sumFrom<0>(from, length, count, N);
             case 1:
-                return sumFrom<1>(length, count, N);
+                return sumFrom<1>(from, length, count, N);
             case 2:
-                return sumFrom<2>(length, count, N);
+                return sumFrom<2>(from, length, count, N);
             default:
-                return sumFrom<3>(length, count, N);
+                return sumFrom<3>(from, length, count, N);
         }
     }
 
  private:
-    // The first entries of every window, so many, and then sums of 4, 8, ... entries, which powers[i] becomes.
+    // The first entries of every window, so many, and then sums of 4, 8, ... entries, which powers[i] becomes;
+    // the entries themselves may lie there.
     template <int First>
-    void sumFrom(ptrdiff_t length, int64_t count, int N) {
+    void sumFrom(const Sum* from, ptrdiff_t length, int64_t count, int N) {
         constexpr ptrdiff_t L = kLanes<Sum>;
         const ptrdiff_t fours = count < 4 ? 0 : length + ptrdiff_t(count - 4) * N;
+        const auto sumFour = [ =, this ](ptrdiff_t i) __attribute__((always_inline)) {
+            const Sum* const p = from + i;
+            store(powers + i, (load(p) + load(p + N)) + (load(p + 2 * N) + load(p + 3 * N)));
+        };
         ptrdiff_t i = 0;
         for (; i < length; i += L) {
-            const Sum* const p = powers + i;
+            const Sum* const p = from + i;
             if constexpr (First == 1) store(sums + i, load(p));
             if constexpr (First == 2) store(sums + i, load(p) + load(p + N));
             if constexpr (First == 3) store(sums + i, load(p) + (load(p + N) + load(p + 2 * N)));
-            if (fours > 0) sumFour(i, N);
+            if (fours > 0) sumFour(i);
         }
-        for (; i < fours; i += L) sumFour(i, N);
+        for (; i < fours; i += L) sumFour(i);
 
         int64_t summed = First;
         const auto addAll = [&](auto more) {
@@ -177,10 +186,6 @@ struct WindowTile {
             for (ptrdiff_t k = 0; k < end; k += L)
                 store(powers + k, load(powers + k) + load(powers + k + apart));
         }
-    }
-    void sumFour(ptrdiff_t i, int N) {
-        const Sum* const p = powers + i;
-        store(powers + i, (load(p) + load(p + N)) + (load(p + 2 * N) + load(p + 3 * N)));
     }
 };
 
