@@ -119,8 +119,8 @@ void sortList(V* list, int count) {
 
 // ---- The kernel -------------------------------------------------------------------------------------------
 
-// Floats that do not fill the lanes of their own registers are sorted as integers, of which half as many fit a
-// register, and twice as many registers the stack.
+// What samples are sorted as: what they are, or floats as integers of the same order, whose registers are half
+// as long, so that the lists of larger masks fit the stack.
 template <class S>
 struct AsItIs {
     using Key = S;
@@ -134,12 +134,12 @@ struct AsItIs {
 };
 struct AsInteger {
     using Key = Tpx32s;
-    static Key keyOf(Tpx32f sample) { return turned(__builtin_bit_cast(Key, AsItIs<Tpx32f>::keyOf(sample))); }
-    static Tpx32f sampleOf(Key key) { return __builtin_bit_cast(Tpx32f, turned(key)); }
+    static Key keyOf(Tpx32f sample) { return ordered(__builtin_bit_cast(Key, AsItIs<Tpx32f>::keyOf(sample))); }
+    static Tpx32f sampleOf(Key key) { return __builtin_bit_cast(Tpx32f, ordered(key)); }
 
  private:
     // Larger magnitudes of negative floats have the larger bits.
-    static Key turned(Key bits) { return bits ^ (bits >> 31 & kMax<Key>); }
+    static Key ordered(Key bits) { return bits ^ (bits >> 31 & kMax<Key>); }
 };
 
 // Squares have 2 or 4 results a side, and masks are larger.
@@ -153,9 +153,9 @@ class TileMedian {
 
  public:
     static bool serves(TpxiSizeL mask) {
-        // The size of larger masks' lists is far from this, but has to be computed without overflow.
+        // The lists of larger masks are far from that size, which must not overflow.
         return mask.width > kSide && mask.height > kSide && mask.width < 256 && mask.height < 256 &&
-               Plan(mask, 1).bytes <= memoryOf(mask);
+               Plan(mask, 1).bytes <= memoryOf(mask) && Plan(turned(mask), 1).bytes <= memoryOf(mask);
     }
 
     // Of pixels of `channels` samples, of which those of the first `colours` are filtered.
@@ -169,17 +169,20 @@ class TileMedian {
                           region.dst.step,   region.size};
         // Squares lie side by side, or one below the other in a narrow strip.
         const bool narrow = region.size.width < kLane * kSide / 2 && region.size.width < region.size.height;
-        const TpxiSizeL mask = narrow ? TpxiSizeL{mask_.height, mask_.width} : mask_;
+        const TpxiSizeL mask = narrow ? turned(mask_) : mask_;
         for (int c = 0; c < colours_; c++) {
             const Image channel = image.moved(c * ptrdiff_t(sizeof(S)));
             if (memoryOf(mask) == kBytes)
-                filter<kBytes>(narrow ? channel.transposed() : channel, mask);
+                filter<kBytes>(narrow ? channel.turned() : channel, mask);
             else
-                filter<kLargeBytes>(narrow ? channel.transposed() : channel, mask);
+                filter<kLargeBytes>(narrow ? channel.turned() : channel, mask);
         }
     }
 
  private:
+    // Columns for rows.
+    static constexpr TpxiSizeL turned(TpxiSizeL size) { return {size.height, size.width}; }
+
     static constexpr ptrdiff_t memoryOf(TpxiSizeL mask) {
         constexpr int64_t kMost = border_model::kLargestBandMask;
         return mask.width <= kMost && mask.height <= kMost ? kBytes : kLargeBytes;
@@ -198,8 +201,8 @@ class TileMedian {
             image.dst = addBytes(dst, bytes);
             return image;
         }
-        Image transposed() const {
-            return {src, srcDown, srcRight, dst, dstDown, dstRight, {size.height, size.width}};
+        Image turned() const {
+            return {src, srcDown, srcRight, dst, dstDown, dstRight, TileMedian::turned(size)};
         }
         Image from(int64_t x, int64_t y) const {
             return {addBytes(src, x * srcRight + y * srcDown), srcRight, srcDown,
