@@ -45,7 +45,7 @@ void forBands(const Region<Tpx8u, Tpx8u>& region, TpxiSizeL mask, int64_t band, 
 template <Layout L>
 class ColumnMedian {
     static constexpr int N = channelsOf(L);
-    static constexpr int kColumns = 168, kLargestWidth = 129;
+    static constexpr int kColumns = 160, kLargestWidth = 129;
     using Counts = Pair<V16u>; // of a window's 16 values
 
  public:
@@ -61,7 +61,7 @@ class ColumnMedian {
     }
 
  private:
-    void filterBand(ImageView<const Tpx8u> src, ImageView<Tpx8u> dst, TpxiSizeL size) const {
+    [[gnu::noinline]] void filterBand(ImageView<const Tpx8u> src, ImageView<Tpx8u> dst, TpxiSizeL size) const {
         ColumnHistogram columns[kColumns];
         const int64_t count = size.width + mask_.width - 1;
         __builtin_memset(columns, 0, size_t(count) * sizeof(ColumnHistogram));
@@ -124,7 +124,7 @@ class ColumnMedian {
             const int k = valueOf(coarse, rank);
             Counts counts = fine[k];
             int64_t at = fineAt[k];
-            if (2 * (x - at) > w) {
+            if (2 * (x - at) > w) { // it is less work anew
                 counts = Counts{};
                 for (int64_t i = x; i < x + w; i++) add(counts, columns[i].fine[k]);
             } else {
@@ -164,7 +164,7 @@ class WideColumnMedian {
     }
 
  private:
-    void filterBand(ImageView<const Tpx8u> src, ImageView<Tpx8u> dst, TpxiSizeL size) const {
+    [[gnu::noinline]] void filterBand(ImageView<const Tpx8u> src, ImageView<Tpx8u> dst, TpxiSizeL size) const {
         Tpx16s leaving[kBand][kBins] = {}, entering[kBand][kBins] = {};
         Tpx32s first[kBins] = {};
         const auto countRow = [&](const Tpx8u* row, int by) {

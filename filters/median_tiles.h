@@ -69,7 +69,7 @@ void mergeSorted(V* list, int first, int second, int from, int to) {
     // higher ones behind the second. These stay where they are.
     const int origin = top - first;
     for (int apart = top / 2; apart > 0; apart /= 2) {
-        // A wanted result depends on places so far away.
+        // A wanted result depends on places that are less far away; more of them would cost time alone.
         const int low = from - 2 * apart < 0 ? 0 : from - 2 * apart,
                   high = to + 2 * apart < all ? to + 2 * apart : all;
         if (apart == 8) {
@@ -148,14 +148,13 @@ class TileMedian {
     using T = typename Keys::Key;
     using V = Vec<T>;
     static constexpr int kLane = kLanes<T>, kWidest = 4;
-    // On the stack, where small masks have a band of a border beside it.
-    static constexpr ptrdiff_t kBytes = 40960, kLargeBytes = 57344;
+    static constexpr ptrdiff_t kBytes = 43008; // on the stack, beside a band of a border
 
  public:
     static bool serves(TpxiSizeL mask) {
         // The lists of larger masks are far from that size, which must not overflow.
         return mask.width > kSide && mask.height > kSide && mask.width < 256 && mask.height < 256 &&
-               Plan(mask, 1).bytes <= memoryOf(mask) && Plan(turned(mask), 1).bytes <= memoryOf(mask);
+               Plan(mask, 1).bytes <= kBytes && Plan(turned(mask), 1).bytes <= kBytes;
     }
 
     // Of pixels of `channels` samples, of which those of the first `colours` are filtered.
@@ -167,26 +166,18 @@ class TileMedian {
         const ptrdiff_t pixel = channels_ * ptrdiff_t(sizeof(S));
         const Image image{bytesOf(src).data, pixel,      src.step, bytesOf(region.dst).data, pixel,
                           region.dst.step,   region.size};
-        // Squares lie side by side, or one below the other in a narrow strip.
+        // Squares lie side by side, or one below the other in a narrow strip, where more of them have results.
         const bool narrow = region.size.width < kLane * kSide / 2 && region.size.width < region.size.height;
         const TpxiSizeL mask = narrow ? turned(mask_) : mask_;
         for (int c = 0; c < colours_; c++) {
             const Image channel = image.moved(c * ptrdiff_t(sizeof(S)));
-            if (memoryOf(mask) == kBytes)
-                filter<kBytes>(narrow ? channel.turned() : channel, mask);
-            else
-                filter<kLargeBytes>(narrow ? channel.turned() : channel, mask);
+            filter(narrow ? channel.turned() : channel, mask);
         }
     }
 
  private:
     // Columns for rows.
     static constexpr TpxiSizeL turned(TpxiSizeL size) { return {size.height, size.width}; }
-
-    static constexpr ptrdiff_t memoryOf(TpxiSizeL mask) {
-        constexpr int64_t kMost = border_model::kLargestBandMask;
-        return mask.width <= kMost && mask.height <= kMost ? kBytes : kLargeBytes;
-    }
 
     struct Image {
         const Tpx8u* src;
@@ -280,14 +271,13 @@ class TileMedian {
         }
     };
 
-    template <ptrdiff_t Bytes>
     [[gnu::noinline]] static void filter(const Image& image, TpxiSizeL mask) {
         int registers = kWidest;
         while (registers > 1 &&
-               (Plan(mask, registers).bytes > Bytes || (registers - 1) * kLane * kSide >= image.size.width))
+               (Plan(mask, registers).bytes > kBytes || (registers - 1) * kLane * kSide >= image.size.width))
             registers--;
         const Plan plan(mask, registers);
-        alignas(64) Tpx8u memory[Bytes];
+        alignas(64) Tpx8u memory[kBytes];
         for (int64_t y = 0; y < image.size.height; y += kSide)
             for (int64_t x = 0; x < image.size.width; x += plan.squares * kSide)
                 filterBand(image.from(x, y), plan, memory);

@@ -151,7 +151,7 @@ TEST(Median, LargeMasks) {
     }
     // Of bytes as large as tiles serve; past those that are merged as floats, and past all tiles.
     for (FilterMask mask : {FilterMask{7, 11}, {13, 5}, {3, 25}}) visit(Tpx8u(), mask, 140, 31);
-    for (FilterMask mask : {FilterMask{31, 31}, {39, 39}, {45, 45}}) {
+    for (FilterMask mask : {FilterMask{19, 19}, {31, 31}, {35, 35}}) {
         visit(Tpx16u(), mask, 70, 53);
         visit(Tpx32f(), mask, 41, 47);
     }
@@ -168,6 +168,8 @@ TEST(Median, MasksOfMoreSamplesThan16BitsCount) {
     visit(Tpx8u(), {301, 257}, 310, 1);
     visit(Tpx8u(), {151, 3}, 130, 4);
     visit(Tpx8u(), {3, 301}, 90, 3);
+    visit(Tpx8u(), {3, 32767}, 3, 2); // as high as columns are counted, and higher
+    visit(Tpx8u(), {1, 32769}, 3, 2);
     visit(Tpx16u(), {257, 257}, 9, 3);
     visit(Tpx16s(), {257, 257}, 5, 2);
     visit(Tpx32f(), {257, 257}, 9, 1);
