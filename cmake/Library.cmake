@@ -31,8 +31,6 @@ set(TPX_CODE_OPTIONS -mavx -ffp-contract=off -fno-math-errno -fno-trapping-math 
                      # A section for each function and object, so that the linker can drop what nothing uses.
                      -ffunction-sections -fdata-sections)
 target_compile_options(tpxi_objects PRIVATE ${TPX_CODE_OPTIONS})
-# Sums of kernels of integers wrap around, in 16 bits between bounds that bring them back, and past 32.
-set_source_files_properties(${PROJECT_SOURCE_DIR}/filters/general_integer.cpp PROPERTIES COMPILE_OPTIONS -fwrapv)
 
 add_library(tpxie9 SHARED ${TPX_ENTRY_TABLE} $<TARGET_OBJECTS:tpxi_objects>)
 if(NOT TPX_SANITIZE)

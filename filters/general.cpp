@@ -39,9 +39,9 @@ TpxStatus filter(const Call<T>& call) {
                     isSmallerThanRegion(mask, roi), [&](const Region<T, T>& region) {
                         if constexpr (std::is_same_v<T, Tpx8u> || (std::is_same_v<T, Tpx16s> && N == 1)) {
                             if (block.kind == FilterKind::Integers8u || block.kind == FilterKind::Integers16s)
-                                return correlateIntegers<T, N>(block, region);
+                                return correlateIntegers(block, region, N);
                         }
-                        correlateFloats<T, N>(block, region);
+                        correlateFloats(block, region, N);
                     });
     return tpxOk;
 }

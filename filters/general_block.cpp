@@ -88,10 +88,11 @@ void chooseSumWidth(FilterBlock& b, const Tpx16s* kernel) {
             pairsFit = pairsFit && upper < 128 && lower < 128 && rise <= 128 && fall >= -128;
         }
     const int64_t magnitude = positive - negative;
-    b.sumBias = 0;
+    b.sumBias = b.sumMost = 0;
     if (pairsFit && magnitude * 255 <= 65535) {
         b.sumWidth = SumWidth::Bits16;
         b.sumBias = Tpx32s(-negative * 255);
+        b.sumMost = Tpx32s(positive * 255);
     } else {
         b.sumWidth =
             b.kind == FilterKind::Integers8u || magnitude < 65536 ? SumWidth::Bits32 : SumWidth::Bits64;

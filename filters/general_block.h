@@ -48,7 +48,7 @@ struct TpxiFilterBorderBlock {
     Tpx32s numChannels;
     // Beyond the contract:
     tpx::SumWidth sumWidth;
-    Tpx32s sumBias; // the magnitude of the least sum, where sums have 16 bits
+    Tpx32s sumBias, sumMost; // the magnitudes of the least and of the largest sum, where sums have 16 bits
 };
 
 namespace tpx {

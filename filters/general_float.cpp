@@ -36,10 +36,10 @@ template <bool Short, class T>
 }
 
 // Each source row is one of both results' kernels' rows, but for the first and the last. Rows tells where a row
-// of the kernel over the upper result begins.
-template <int N, bool Short, int Registers, class Rows>
-[[gnu::always_inline]] inline TwoSums<Registers> sumsAt(const FilterBlock& b, const Rows& rows, ptrdiff_t i,
-                                                        ptrdiff_t count) {
+// of the kernel over the upper result begins; pixels have so many channels.
+template <bool Short, int Registers, class Rows>
+[[gnu::always_inline]] inline TwoSums<Registers> sumsAt(const FilterBlock& b, const Rows& rows,
+                                                        ptrdiff_t channels, ptrdiff_t i, ptrdiff_t count) {
     const ptrdiff_t width = b.kernelWidth, height = b.kernelHeight;
     TwoSums<Registers> sums;
     for (int k = 0; k < Registers; k++)
@@ -49,7 +49,7 @@ template <int N, bool Short, int Registers, class Rows>
     const auto addRow = [&]<bool Upper, bool Lower>(ptrdiff_t r) {
         auto row = rows[r] + i;
         const Tpx32f *forUpper = first - r * width, *forLower = forUpper + width;
-        for (ptrdiff_t x = 0; x < width; x++, row += N, forUpper--, forLower--)
+        for (ptrdiff_t x = 0; x < width; x++, row += channels, forUpper--, forLower--)
             for (int k = 0; k < Registers; k++) {
                 const V32f samples = loadFloats<Short>(row + k * kLanes<Tpx32f>, count);
                 if constexpr (Upper) sums.upper[k] += samples * splat<V32f>(*forUpper);
@@ -87,50 +87,50 @@ template <class T>
     }
 }
 
-// Two rows of results; lower is null if there is one.
-template <class T>
-struct ResultRows {
-    T *upper, *lower;
-};
-
-template <class T, int N, bool Short, int Registers, class Rows>
+template <class T, bool Short, int Registers, class Rows>
 [[gnu::always_inline]] inline void resultsAt(const FilterBlock& b, const RulesOf<T>& rules, const Rows& rows,
-                                             ResultRows<T> dst, ptrdiff_t i, ptrdiff_t count) {
-    const TwoSums<Registers> sums = sumsAt<N, Short, Registers>(b, rows, i, count);
+                                             ptrdiff_t channels, ResultRows<T> dst, ptrdiff_t i,
+                                             ptrdiff_t count) {
+    const TwoSums<Registers> sums = sumsAt<Short, Registers>(b, rows, channels, i, count);
     for (int k = 0; k < Registers; k++) storeResults(dst.upper + i + k * kRegister, sums.upper[k], rules);
     if (dst.lower == nullptr) return;
     for (int k = 0; k < Registers; k++) storeResults(dst.lower + i + k * kRegister, sums.lower[k], rules);
 }
 
-template <class T, int N, class Rows>
-void longRows(const FilterBlock& b, const RulesOf<T>& rules, const Rows& rows, ResultRows<T> dst,
-              ptrdiff_t len) {
+template <class T, class Rows>
+void longRows(const FilterBlock& b, const RulesOf<T>& rules, const Rows& rows, ptrdiff_t channels,
+              ResultRows<T> dst, ptrdiff_t len) {
     ptrdiff_t i = 0;
-    for (; i + 4 * kRegister <= len; i += 4 * kRegister) resultsAt<T, N, false, 4>(b, rules, rows, dst, i, 0);
-    for (; i + kRegister <= len; i += kRegister) resultsAt<T, N, false, 1>(b, rules, rows, dst, i, 0);
-    if (i < len) resultsAt<T, N, false, 1>(b, rules, rows, dst, len - kRegister, 0);
+    for (; i + 4 * kRegister <= len; i += 4 * kRegister)
+        resultsAt<T, false, 4>(b, rules, rows, channels, dst, i, 0);
+    for (; i < len; i += kRegister)
+        resultsAt<T, false, 1>(b, rules, rows, channels, dst, i + kRegister <= len ? i : len - kRegister, 0);
 }
 
 // Fewer samples than a register.
-template <class T, int N>
-void shortRows(const FilterBlock& b, const RulesOf<T>& rules, const SourceRows<T>& rows, ResultRows<T> dst,
-               ptrdiff_t len, ptrdiff_t slack) {
+template <class T>
+void shortRows(const FilterBlock& b, const RulesOf<T>& rules, const SourceRows<T>& rows, ptrdiff_t channels,
+               ResultRows<T> dst, ptrdiff_t len, ptrdiff_t slack) {
     T upper[kShortRoom<T>], lower[kShortRoom<T>];
     if (slack >= kRegister * ptrdiff_t(sizeof(T)))
-        resultsAt<T, N, false, 1>(b, rules, rows, {upper, lower}, 0, 0);
+        resultsAt<T, false, 1>(b, rules, rows, channels, {upper, lower}, 0, 0);
     else
-        resultsAt<T, N, true, 1>(b, rules, rows, {upper, lower}, 0, len);
+        resultsAt<T, true, 1>(b, rules, rows, channels, {upper, lower}, 0, len);
     copyBlock(dst.upper, upper, len * ptrdiff_t(sizeof(T)));
     if (dst.lower != nullptr) copyBlock(dst.lower, lower, len * ptrdiff_t(sizeof(T)));
 }
 
 // ---- Regions ----------------------------------------------------------------------------------------------
 
-template <class T, int N>
+template <class T>
 class FloatCorrelation {
  public:
-    FloatCorrelation(const FilterBlock& block, const Region<T, T>& region)
-        : block_(block), region_(region), rules_(block, region.size.width), len_(region.size.width * N) {}
+    FloatCorrelation(const FilterBlock& block, const Region<T, T>& region, ptrdiff_t channels)
+        : block_(block),
+          region_(region),
+          rules_(block, region.size.width),
+          channels_(channels),
+          len_(region.size.width * channels) {}
 
     void run() const {
         if constexpr (!std::is_same_v<T, Tpx32f>) {
@@ -138,22 +138,19 @@ class FloatCorrelation {
             if (len_ >= kRegister && room >= 4 * kRegister) return throughFloats(room);
         }
         for (int64_t y = 0; y < region_.size.height; y += 2) {
-            const SourceRows<T> rows(region_, y, block_.kernelWidth, block_.kernelHeight, N);
+            const SourceRows<T> rows(region_, y, block_, channels_);
+            const ResultRows<T> results(region_, y, 0);
             if (len_ >= kRegister)
-                longRows<T, N>(block_, rules_, rows, results(y, 0), len_);
+                longRows<T>(block_, rules_, rows, channels_, results, len_);
             else
-                shortRows<T, N>(block_, rules_, rows, results(y, 0), len_, region_.slack);
+                shortRows<T>(block_, rules_, rows, channels_, results, len_, region_.slack);
         }
     }
 
  private:
     static constexpr ptrdiff_t kRoom = 6144; // of floats, for the rows that two rows of results read
 
-    ResultRows<T> results(int64_t y, ptrdiff_t from) const {
-        return {region_.dst.row(y) + from,
-                y + 1 < region_.size.height ? region_.dst.row(y + 1) + from : nullptr};
-    }
-    ptrdiff_t reach() const { return (block_.kernelWidth - 1) * N; }
+    ptrdiff_t reach() const { return (block_.kernelWidth - 1) * channels_; }
     // Results that a row of the ring has the samples for.
     ptrdiff_t roomOfRow() const { return kRoom / (block_.kernelHeight + ptrdiff_t(1)) - reach(); }
 
@@ -162,20 +159,16 @@ class FloatCorrelation {
     void throughFloats(ptrdiff_t room) const {
         alignas(32) Tpx32f memory[kRoom];
         const int64_t last = region_.size.height + block_.kernelHeight - 2;
-        const SourceRows<T> source(region_, 0, block_.kernelWidth, block_.kernelHeight, N);
-        const ptrdiff_t band = room & -4 * kRegister;
-        for (ptrdiff_t from = 0, len; from < len_; from += len) {
-            len = len_ - from < band ? len_ - from : band;
-            const ptrdiff_t rest = len_ - from - len; // no band is shorter than a register
-            if (rest > 0 && rest < kRegister) len -= kRegister;
+        const SourceRows<T> source(region_, 0, block_, channels_);
+        forBands(len_, room, 4 * kRegister, kRegister, [&](ptrdiff_t from, ptrdiff_t len) {
             RowRing<Tpx32f> ring(memory, len + reach(), block_.kernelHeight + 1);
             for (int64_t y = 0; y < region_.size.height; y += 2) {
                 ring.moveTo(y, [&](int64_t row, Tpx32f* floats) {
                     toFloats(source[row < last ? row : last] + from, floats, len + reach());
                 });
-                longRows<T, N>(block_, rules_, RingRows{ring}, results(y, from), len);
+                longRows<T>(block_, rules_, RingRows{ring}, channels_, ResultRows<T>(region_, y, from), len);
             }
-        }
+        });
     }
     struct RingRows {
         const RowRing<Tpx32f>& ring;
@@ -191,24 +184,18 @@ class FloatCorrelation {
     const FilterBlock& block_;
     const Region<T, T>& region_;
     RulesOf<T> rules_;
-    ptrdiff_t len_;
+    ptrdiff_t channels_, len_;
 };
 
 } // namespace
 
-template <class T, int N>
-void correlateFloats(const FilterBlock& block, const Region<T, T>& region) {
-    FloatCorrelation<T, N>(block, region).run();
+template <class T>
+void correlateFloats(const FilterBlock& block, const Region<T, T>& region, int channels) {
+    FloatCorrelation<T>(block, region, channels).run();
 }
-
-#define TPX_FLOATS(T)                                                                            \
-    template void correlateFloats<Tpx##T, 1>(const FilterBlock&, const Region<Tpx##T, Tpx##T>&); \
-    template void correlateFloats<Tpx##T, 3>(const FilterBlock&, const Region<Tpx##T, Tpx##T>&); \
-    template void correlateFloats<Tpx##T, 4>(const FilterBlock&, const Region<Tpx##T, Tpx##T>&);
-TPX_FLOATS(8u)
-TPX_FLOATS(16u)
-TPX_FLOATS(16s)
-TPX_FLOATS(32f)
-#undef TPX_FLOATS
+template void correlateFloats(const FilterBlock&, const Region<Tpx8u, Tpx8u>&, int);
+template void correlateFloats(const FilterBlock&, const Region<Tpx16u, Tpx16u>&, int);
+template void correlateFloats(const FilterBlock&, const Region<Tpx16s, Tpx16s>&, int);
+template void correlateFloats(const FilterBlock&, const Region<Tpx32f, Tpx32f>&, int);
 
 } // namespace tpx

@@ -81,56 +81,48 @@ struct PairsInRing {
 
 // ---- Sums -------------------------------------------------------------------------------------------------
 
-// Of the upper row of results and then of the lower one: in 32 bits, or, of bytes, in 16 bits and as far above
-// the least sum as they are.
-template <class Lane, int N, int Registers>
+// Of the upper row of results and then of the lower one: in 32 bits, or, of bytes, in 16 bits from the rules'
+// start on. They are unsigned, since they wrap around: those in 16 bits on their way to where they fit, others
+// past 32 bits.
+template <class Lane, int Registers>
 struct TwoSums {
     static constexpr bool kBytes = sizeof(Lane) == 1;
     static constexpr ptrdiff_t kSamples = Registers * kLanes<Lane> / 2;
-    static constexpr int kPairs = int(2 * kSamples / 8);
+    static constexpr int kEights = int(2 * kSamples / 8);
 
-    using Sum = std::conditional_t<kBytes, V16s, V32s>;
+    using Sum = std::conditional_t<kBytes, V16u, V32u>;
     using Weights = std::conditional_t<kBytes, V8s, V16s>;
 
+    // Pixels have so many channels.
     template <class Pairs>
-    [[gnu::always_inline]] static TwoSums at(const FilterBlock& b, const Pairs& source, ptrdiff_t i) {
+    [[gnu::always_inline]] static TwoSums at(const FilterBlock& b, Tpx32s start, const Pairs& source,
+                                             ptrdiff_t channels, ptrdiff_t i) {
         Sum upper[Registers], lower[Registers];
-        const Sum start = splat<Sum>(LaneOf<Sum>(kBytes ? b.sumBias : 0));
-        for (int k = 0; k < Registers; k++) upper[k] = lower[k] = start;
+        for (int k = 0; k < Registers; k++) upper[k] = lower[k] = splat<Sum>(LaneOf<Sum>(kBytes ? start : 0));
         const Tpx32s* weights = rowPairTable(b);
         const ptrdiff_t pairs = rowPairsOf(b.kernelHeight), width = b.kernelWidth;
         for (ptrdiff_t pair = 0; pair < pairs; pair++) {
             auto place = source.at(pair, i);
-            for (ptrdiff_t x = 0; x < width; x++, place.advance(N), weights += 2) {
+            for (ptrdiff_t x = 0; x < width; x++, place.advance(channels), weights += 2) {
                 Vec<Lane> columns[Registers];
                 place.load(columns);
                 const Weights forUpper = Weights(loadSplat(weights)),
                               forLower = Weights(loadSplat(weights + 1));
                 for (int k = 0; k < Registers; k++) {
-                    upper[k] += multiplyAddPairs(columns[k], forUpper);
-                    lower[k] += multiplyAddPairs(columns[k], forLower);
+                    upper[k] += Sum(multiplyAddPairs(columns[k], forUpper));
+                    lower[k] += Sum(multiplyAddPairs(columns[k], forLower));
                 }
             }
         }
         TwoSums sums;
-        sums.bias = splat<V32s>(b.sumBias);
         unroll<Registers>([&](auto k) {
             sums.sums[k] = upper[k];
             sums.sums[Registers + k] = lower[k];
         });
         return sums;
     }
-    [[gnu::always_inline]] Pair<V32s> pair(int k) const {
-        if constexpr (kBytes) {
-            const Pair<V32u> wide = widen(V16u(sums[k]));
-            return {V32s(wide.low) - bias, V32s(wide.high) - bias};
-        } else {
-            return {sums[2 * k], sums[2 * k + 1]};
-        }
-    }
 
     Sum sums[2 * Registers];
-    V32s bias;
 };
 
 // ---- Rows of results --------------------------------------------------------------------------------------
@@ -143,18 +135,12 @@ struct TwoSums {
     store(dst + 8, second);
 }
 
-// Two rows of results; lower is null if there is one.
-template <class T>
-struct ResultRows {
-    T *upper, *lower;
-};
-
 template <class Sums, class T, class Pairs>
 [[gnu::always_inline]] inline void resultsAt(const FilterBlock& b, const IntegerRules& rules,
-                                             const Pairs& source, ResultRows<T> dst, ptrdiff_t i) {
-    const Sums sums = Sums::at(b, source, i);
-    V16s results[Sums::kPairs];
-    rules.apply([&](auto k) { return sums.pair(k); }, results);
+                                             const Pairs& source, ptrdiff_t channels, ResultRows<T> dst,
+                                             ptrdiff_t i) {
+    V16s results[Sums::kEights];
+    rules.apply(Sums::at(b, rules.start(), source, channels, i).sums, results);
     constexpr int kBlocks = Sums::kSamples / kBlock;
     for (int k = 0; k < kBlocks; k++)
         storeBlock(dst.upper + i + k * kBlock, results[2 * k], results[2 * k + 1]);
@@ -165,26 +151,29 @@ template <class Sums, class T, class Pairs>
 
 // Fewer samples than a block, in sums for a block or for half of one.
 template <class Sums, class T, class Pairs>
-[[gnu::always_inline]] inline void shortRows(const FilterBlock& b, const IntegerRules& rules,
-                                             const Pairs& source, ResultRows<T> dst, ptrdiff_t len) {
-    const Sums sums = Sums::at(b, source, 0);
-    V16s results[Sums::kPairs] = {};
-    rules.apply([&](auto k) { return sums.pair(k); }, results);
+[[gnu::noinline]] void shortRows(const FilterBlock& b, const IntegerRules& rules, const Pairs& source,
+                                 ptrdiff_t channels, ResultRows<T> dst, ptrdiff_t len) {
+    V16s results[Sums::kEights] = {};
+    rules.apply(Sums::at(b, rules.start(), source, channels, 0).sums, results);
     T block[kBlock];
-    storeBlock(block, results[0], results[Sums::kPairs / 2 - 1]);
+    storeBlock(block, results[0], results[Sums::kEights / 2 - 1]);
     copyBlock(dst.upper, block, len * ptrdiff_t(sizeof(T)));
     if (dst.lower == nullptr) return;
-    storeBlock(block, results[Sums::kPairs / 2], results[Sums::kPairs - 1]);
+    storeBlock(block, results[Sums::kEights / 2], results[Sums::kEights - 1]);
     copyBlock(dst.lower, block, len * ptrdiff_t(sizeof(T)));
 }
 
 // ---- Regions ----------------------------------------------------------------------------------------------
 
-template <class T, int N>
+template <class T>
 class IntegerCorrelation {
  public:
-    IntegerCorrelation(const FilterBlock& block, const Region<T, T>& region)
-        : block_(block), region_(region), rules_(block, region.size.width), len_(region.size.width * N) {}
+    IntegerCorrelation(const FilterBlock& block, const Region<T, T>& region, ptrdiff_t channels)
+        : block_(block),
+          region_(region),
+          rules_(block, region.size.width),
+          channels_(channels),
+          len_(region.size.width * channels) {}
 
     void run() const {
         const FloatControl control(roundingAs(rules_.direction()));
@@ -199,14 +188,13 @@ class IntegerCorrelation {
  private:
     static constexpr ptrdiff_t kRoomBytes = 24576; // for the pairs of rows that two rows of results read
 
-    SourceRows<T> source(int64_t y) const {
-        return SourceRows<T>(region_, y, block_.kernelWidth, block_.kernelHeight, N);
-    }
-    ResultRows<T> results(int64_t y, ptrdiff_t from) const {
-        return {region_.dst.row(y) + from,
-                y + 1 < region_.size.height ? region_.dst.row(y + 1) + from : nullptr};
-    }
-    ptrdiff_t reach() const { return (block_.kernelWidth - 1) * N; }
+    // Registers of lanes that a block takes.
+    template <class Lane>
+    static constexpr int kBlockRegisters = 2 * int(kBlock) / kLanes<Lane>;
+
+    SourceRows<T> source(int64_t y) const { return {region_, y, block_, channels_}; }
+    ResultRows<T> results(int64_t y, ptrdiff_t from) const { return {region_, y, from}; }
+    ptrdiff_t reach() const { return (block_.kernelWidth - 1) * channels_; }
 
     template <class Lane>
     void inLanesOf() const {
@@ -218,38 +206,30 @@ class IntegerCorrelation {
             const SourceRows<T> rows = source(y);
             if (len_ >= kBlock)
                 longRows<Lane>(PairsAtTaps<T, false>{rows, 0}, results(y, 0), len_);
-            else if (region_.slack >= kBlock * ptrdiff_t(sizeof(T)))
-                shortRows<Lane>(PairsAtTaps<T, false>{rows, 0}, results(y, 0));
+            else if (region_.slack < kBlock * ptrdiff_t(sizeof(T)))
+                shortRows<Lane, kBlockRegisters<Lane>>(PairsAtTaps<T, true>{rows, len_}, results(y, 0));
+            else if (len_ > kBlock / 2)
+                shortRows<Lane, kBlockRegisters<Lane>>(PairsAtTaps<T, false>{rows, 0}, results(y, 0));
             else
-                shortRows<Lane>(PairsAtTaps<T, true>{rows, len_}, results(y, 0));
+                shortRows<Lane, kBlockRegisters<Lane> / 2>(PairsAtTaps<T, false>{rows, 0}, results(y, 0));
         }
     }
 
-    // Registers of lanes that a block takes.
-    template <class Lane>
-    static constexpr int kBlockRegisters = 2 * int(kBlock) / kLanes<Lane>;
-
-    template <class Lane, class Pairs>
+    template <class Lane, int Registers, class Pairs>
     void shortRows(const Pairs& pairs, ResultRows<T> dst) const {
-        if (len_ <= kBlock / 2)
-            tpx::shortRows<TwoSums<Lane, N, kBlockRegisters<Lane> / 2>>(block_, rules_, pairs, dst, len_);
-        else
-            tpx::shortRows<TwoSums<Lane, N, kBlockRegisters<Lane>>>(block_, rules_, pairs, dst, len_);
+        tpx::shortRows<TwoSums<Lane, Registers>>(block_, rules_, pairs, channels_, dst, len_);
     }
 
     // Large steps first; the last block may overlap the one before it.
     template <class Lane, class Pairs>
     void longRows(const Pairs& pairs, ResultRows<T> dst, ptrdiff_t len) const {
-        using Large = TwoSums<Lane, N, 4>;
-        using Small = TwoSums<Lane, N, kBlockRegisters<Lane>>;
+        using Large = TwoSums<Lane, 4>;
+        using Small = TwoSums<Lane, kBlockRegisters<Lane>>;
         ptrdiff_t i = 0;
         for (; i + Large::kSamples <= len; i += Large::kSamples)
-            resultsAt<Large>(block_, rules_, pairs, dst, i);
-        if (sizeof(Lane) == 1 && i + kBlock <= len) {
-            resultsAt<Small>(block_, rules_, pairs, dst, i);
-            i += kBlock;
-        }
-        if (i < len) resultsAt<Small>(block_, rules_, pairs, dst, len - kBlock);
+            resultsAt<Large>(block_, rules_, pairs, channels_, dst, i);
+        for (; i < len; i += kBlock)
+            resultsAt<Small>(block_, rules_, pairs, channels_, dst, i + kBlock <= len ? i : len - kBlock);
     }
 
     // Pairs are interleaved once, into a ring, and the image is taken in bands of columns for which the ring is
@@ -258,11 +238,7 @@ class IntegerCorrelation {
     void throughRing(ptrdiff_t room) const {
         alignas(32) Lane memory[kRoomBytes / sizeof(Lane)];
         const SourceRows<T> rows = source(0);
-        const ptrdiff_t band = room & -2 * kBlock;
-        for (ptrdiff_t from = 0, len; from < len_; from += len) {
-            len = len_ - from < band ? len_ - from : band;
-            const ptrdiff_t rest = len_ - from - len; // no band is shorter than a block
-            if (rest > 0 && rest < kBlock) len -= kBlock;
+        forBands(len_, room, 2 * kBlock, kBlock, [&](ptrdiff_t from, ptrdiff_t len) {
             RowRing<Lane> ring(memory, 2 * (len + reach()), rowPairsOf(block_.kernelHeight));
             for (int64_t y = 0; y < region_.size.height; y += 2) {
                 ring.moveTo(y / 2, [&](int64_t pair, Lane* lanes) {
@@ -270,7 +246,7 @@ class IntegerCorrelation {
                 });
                 longRows<Lane>(PairsInRing<Lane>{ring}, results(y, from), len);
             }
-        }
+        });
     }
     template <class Lane>
     static void interleaveRun(const T* row, const T* next, Lane* dst, ptrdiff_t len) {
@@ -294,7 +270,8 @@ class IntegerCorrelation {
                 const Tpx16s* weight = block_.kernel16 + int64_t(block_.kernelWidth) * block_.kernelHeight;
                 for (int r = 0; r < block_.kernelHeight; r++) {
                     const T* row = rows[r] + i;
-                    for (int x = 0; x < block_.kernelWidth; x++, row += N) sum += Tpx64s(*--weight) * peek(row);
+                    for (int x = 0; x < block_.kernelWidth; x++, row += channels_)
+                        sum += Tpx64s(*--weight) * peek(row);
                 }
                 poke(dst + i, T(rules_.quotient(splat<V64f>(Tpx64f(sum)))[0]));
             }
@@ -304,18 +281,16 @@ class IntegerCorrelation {
     const FilterBlock& block_;
     const Region<T, T>& region_;
     IntegerRules rules_;
-    ptrdiff_t len_;
+    ptrdiff_t channels_, len_;
 };
 
 } // namespace
 
-template <class T, int N>
-void correlateIntegers(const FilterBlock& block, const Region<T, T>& region) {
-    IntegerCorrelation<T, N>(block, region).run();
+template <class T>
+void correlateIntegers(const FilterBlock& block, const Region<T, T>& region, int channels) {
+    IntegerCorrelation<T>(block, region, channels).run();
 }
-template void correlateIntegers<Tpx8u, 1>(const FilterBlock&, const Region<Tpx8u, Tpx8u>&);
-template void correlateIntegers<Tpx8u, 3>(const FilterBlock&, const Region<Tpx8u, Tpx8u>&);
-template void correlateIntegers<Tpx8u, 4>(const FilterBlock&, const Region<Tpx8u, Tpx8u>&);
-template void correlateIntegers<Tpx16s, 1>(const FilterBlock&, const Region<Tpx16s, Tpx16s>&);
+template void correlateIntegers(const FilterBlock&, const Region<Tpx8u, Tpx8u>&, int);
+template void correlateIntegers(const FilterBlock&, const Region<Tpx16s, Tpx16s>&, int);
 
 } // namespace tpx

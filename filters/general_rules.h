@@ -7,7 +7,7 @@
 #include "filters/general_block.h"
 #include "filters/stencil.h"
 #include "frame/simd/control.h"
-#include "frame/simd/simd.h"
+#include "frame/simd/rounding.h"
 
 namespace tpx {
 
@@ -57,37 +57,99 @@ class IntegerRules {
         } else {
             rule_ = b.divisorClass == DivisorClass::One ? IntegerRule::Whole : IntegerRule::Divide;
         }
+        if (b.sumWidth == SumWidth::Bits16) begin16BitSums(b);
     }
 
     // What the control register has to say meanwhile.
     Rounding direction() const { return direction_; }
     bool isQuotient() const { return rule_ == IntegerRule::Quotient; }
+    // What sums in 16 bits begin with.
+    Tpx32s start() const { return start_; }
 
-    // out[k] is made of the sums that sumsOf(k) tells, saturated to 16 bits.
+    // out[k] is made of eight sums, saturated to 16 bits.
+    template <int K>
+    [[gnu::always_inline]] void apply(const V32u (&sums)[2 * K], V16s (&out)[K]) const {
+        applyTo([&](auto k) { return Pair<V32s>{V32s(sums[2 * k]), V32s(sums[2 * k + 1])}; }, out);
+    }
+    template <int K>
+    [[gnu::always_inline]] void apply(const V16u (&sums)[K], V16s (&out)[K]) const {
+        if (stays16Bits_ && shift_ != 0) {
+            const RoundedShift<tpxRoundNearestEven, V16s, Headroom::Half> shifted(shift_);
+            unroll<K>([&](auto k) { out[k] = subSat(shifted(V16s(sums[k])), splat<V16s>(less_)); });
+        } else if (stays16Bits_) {
+            unroll<K>([&](auto k) { out[k] = subSat(V16s(sums[k]), splat<V16s>(less_)); });
+        } else {
+            const V32u start = splat<V32u>(Tpx32u(start_));
+            applyTo(
+                [&](auto k) {
+                    const Pair<V32u> wide = widen(sums[k]);
+                    return Pair<V32s>{V32s(wide.low - start), V32s(wide.high - start)};
+                },
+                out);
+        }
+    }
+
+    // The true quotient of whole numbers of at most 53 bits. Closer than 2^-31 to a tie or to an integer none
+    // of 32 bits lies, so the double next to it is rounded as it would be itself.
+    V32s quotient(V64f sums) const {
+        const V64f q =
+            clampTo(sums / splat<V64f>(divisor_), splat<V64f>(kMin<Tpx16s>), splat<V64f>(kMax<Tpx16s>));
+        if (mode_ == tpxRoundTowardZero) return toIntegerTruncated(q);
+        if (mode_ == tpxRoundNearestEven) return toInteger(roundNearest(q));
+        const V64f half =
+            bitsAs<V64f>(bitsAs<B64f>(splat<V64f>(0.5)) | (bitsAs<B64f>(q) & bitsAs<B64f>(splat<V64f>(-0.0))));
+        return toIntegerTruncated(q + half);
+    }
+
+ private:
+    enum class Shape { Line, General, Other };
+
+    // Sums in 16 bits begin with the magnitude of the least one, and are unsigned then. Where the rule is a
+    // shift to nearest or the sum itself, they begin so that they fit signed lanes, and stay there: less a
+    // number of which the quotient, even and whole, is given back behind the shift.
+    void begin16BitSums(const FilterBlock& b) {
+        start_ = b.sumBias;
+        const bool whole = rule_ == IntegerRule::Whole || (rule_ == IntegerRule::Scale && divisor_ == 1);
+        if (!whole && (rule_ != IntegerRule::Shift || shift_ > kBits<Tpx16s> - 2)) return;
+        int64_t start = 0;
+        if (b.sumBias > -kMin<Tpx16s> || b.sumMost > kMax<Tpx16s>) {
+            const int64_t unit = int64_t(2) << shift_;
+            start = (kMin<Tpx16s> + b.sumBias + unit - 1) & -unit;
+            if (start + b.sumMost > kMax<Tpx16s>) return;
+        }
+        const int64_t less = (start >> shift_) - offset_;
+        if (less < kMin<Tpx16s> || less > kMax<Tpx16s>) return;
+        start_ = Tpx32s(start);
+        less_ = Tpx16s(less);
+        stays16Bits_ = true;
+    }
+
+    // out[k] is made of the sums that sumsOf(k) tells. Past 32 bits sums wrap around, and with them what is
+    // added here.
     template <int K, class SumsOf>
-    [[gnu::always_inline]] void apply(SumsOf sumsOf, V16s (&out)[K]) const {
+    [[gnu::always_inline]] void applyTo(SumsOf sumsOf, V16s (&out)[K]) const {
         const auto each = [&](auto rule) {
             unroll<K>([&](auto k) { out[k] = narrow<Tpx16s>(rule(sumsOf(k))); });
         };
         const auto eachWithOffset = [&](auto rule) {
             if (offset_ == 0) return each(rule);
-            const V32s offset = splat<V32s>(offset_);
+            const V32u offset = splat<V32u>(Tpx32u(offset_));
             each([&](Pair<V32s> x) {
                 const Pair<V32s> y = rule(x);
-                return Pair<V32s>{y.low + offset, y.high + offset};
+                return Pair<V32s>{V32s(V32u(y.low) + offset), V32s(V32u(y.high) + offset)};
             });
         };
         // With 1 more where the quotient is odd, for ties to even.
-        const auto shifted = [&](Tpx32s addend, Tpx32s oddMask) {
-            const V32s add = splat<V32s>(addend), odd = splat<V32s>(oddMask);
+        const auto shifted = [&](Tpx32u addend, Tpx32u oddMask) {
+            const V32u add = splat<V32u>(addend), odd = splat<V32u>(oddMask);
             eachWithOffset([&](Pair<V32s> x) {
                 const auto one = [&](V32s v) {
-                    return shiftRight(v + add + (shiftRight(v, shift_) & odd), shift_);
+                    return shiftRight(V32s(V32u(v) + add + (V32u(shiftRight(v, shift_)) & odd)), shift_);
                 };
                 return Pair<V32s>{one(x.low), one(x.high)};
             });
         };
-        const Tpx32s half = Tpx32s((Tpx32u(1) << shift_) >> 1);
+        const Tpx32u half = (Tpx32u(1) << shift_) >> 1;
         switch (rule_) {
             case IntegerRule::Shift:
                 return shifted(half - 1, 1);
@@ -112,21 +174,6 @@ class IntegerRules {
         }
     }
 
-    // The true quotient of whole numbers of at most 53 bits. Closer than 2^-31 to a tie or to an integer none
-    // of 32 bits lies, so the double next to it is rounded as it would be itself.
-    V32s quotient(V64f sums) const {
-        const V64f q =
-            clampTo(sums / splat<V64f>(divisor_), splat<V64f>(kMin<Tpx16s>), splat<V64f>(kMax<Tpx16s>));
-        if (mode_ == tpxRoundTowardZero) return toIntegerTruncated(q);
-        if (mode_ == tpxRoundNearestEven) return toInteger(roundNearest(q));
-        const V64f half =
-            bitsAs<V64f>(bitsAs<B64f>(splat<V64f>(0.5)) | (bitsAs<B64f>(q) & bitsAs<B64f>(splat<V64f>(-0.0))));
-        return toIntegerTruncated(q + half);
-    }
-
- private:
-    enum class Shape { Line, General, Other };
-
     // The truncated estimate is one too low at most, then what is left of an even divisor decides. Odd divisors
     // have no ties: their estimate is rounded at once.
     Pair<V32s> divided(Pair<V32s> x) const {
@@ -135,14 +182,15 @@ class IntegerRules {
         if (odd && mode_ == tpxRoundNearestEven) return toInteger(estimate);
         if (odd && mode_ == tpxRoundHalfAway) return toIntegerTruncated(estimate + splat<V32f>(0.5f));
         const Pair<V32s> q = toIntegerTruncated(estimate);
-        return {putRight(x.low, q.low), putRight(x.high, q.high)};
+        return {putRight(x.low, V32u(q.low)), putRight(x.high, V32u(q.high))};
     }
-    V32s putRight(V32s x, V32s q) const {
-        const V32s d = splat<V32s>(divisor_), half = d >> 1, one = splat<V32s>(1);
-        q -= x == q * d + d;
-        if (mode_ == tpxRoundTowardZero) return q;
-        const V32s limit = q * d + half - (mode_ == tpxRoundNearestEven ? q & one : one);
-        return q - (x > limit);
+    V32s putRight(V32s x, V32u q) const {
+        const V32u d = V32u(splat<V32s>(divisor_)), half = V32u(splat<V32s>(divisor_ >> 1)),
+                   one = splat<V32u>(1);
+        q -= V32u(V32u(x) == q * d + d);
+        if (mode_ == tpxRoundTowardZero) return V32s(q);
+        const V32u limit = q * d + half - (mode_ == tpxRoundNearestEven ? q & one : one);
+        return V32s(q) - V32s(x > V32s(limit));
     }
 
     bool bytes_;
@@ -153,6 +201,9 @@ class IntegerRules {
     Tpx32f inverse_;
     Tpx32s offset_;
     Tpx32f offsetF_;
+    Tpx32s start_ = 0;
+    bool stays16Bits_ = false;
+    Tpx16s less_ = 0;
 };
 
 // Sums of floats, for integer samples.
