@@ -106,6 +106,7 @@ struct TwoSums {
             for (ptrdiff_t x = 0; x < width; x++, place.advance(channels), weights += 2) {
                 Vec<Lane> columns[Registers];
                 place.load(columns);
+                for (Vec<Lane>& column : columns) column = inRegister(column); // for both products
                 const Weights forUpper = Weights(loadSplat(weights)),
                               forLower = Weights(loadSplat(weights + 1));
                 for (int k = 0; k < Registers; k++) {
