@@ -167,8 +167,10 @@ struct IntegerModel {
     double line(int32_t x) const { return exact ? exactly(x, 2) : plain(x, false); }
 
     double plain(int32_t x, bool truncates) const {
-        if (shift != 0)
-            return double(((x + ((x >> shift) & 1) + (int64_t(1) << (shift - 1)) - 1) >> shift) + offset);
+        if (shift != 0) { // which goes on wrapping around
+            const uint32_t sum = uint32_t(x) + uint32_t((x >> shift) & 1) + (uint32_t(1) << (shift - 1)) - 1;
+            return double((int32_t(sum) >> shift) + offset);
+        }
         if (truncates) { // the direction holds for the conversion and the product too
             _MM_SET_ROUNDING_MODE(_MM_ROUND_TOWARD_ZERO);
             volatile int32_t in = x;
@@ -391,6 +393,54 @@ void expectEveryRule() {
 TEST(General, EveryRuleForKernelsOfIntegers) {
     expectEveryRule<Tpx8u>();
     expectEveryRule<Tpx16s>();
+}
+
+// Sums of bytes in 16 bits from the least to the largest that there can be, and a little more; sums of words
+// past 32 bits, where they wrap around.
+template <class T>
+void expectSums(TpxiSize kernel, std::vector<double> weights, int divisor, int mode, int offset) {
+    FilterSetup s{kernel, weights, false, divisor, mode, offset ? tpxHintFast : 0, offset};
+    FilterSource<T> src(70, 9, 1, s.mask(), tpxBorderInMemAll, {}, 3);
+    // Stretches of extremes, so that whole masks see nothing else.
+    const double low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
+    src.image().fill([&](int x, int y, int) {
+        const int part = (x / 12 + y / 6) % 4;
+        return part == 0   ? low
+               : part == 1 ? high
+               : part == 2 ? low + (x * 37 + y * 11) % 256
+               : x % 2     ? low
+                           : high;
+    });
+    GuardedImage<T> dst(70, 9, 1);
+    Prepared<T> p(s, src.size(), 1, 3);
+    const Model<T> model(s, 1);
+    ASSERT_EQ(filterOf<T>(1)(src.data(), src.step(), dst.data(), dst.step(), src.size(), tpxBorderInMemAll,
+                             nullptr, p.block(), p.buffer()),
+              tpxOk);
+    ASSERT_TRUE(matches(dst, [&](int x, int y, int k) { return model.at(src, 0xF0, x, y, k); }))
+        << "divisor " << divisor << ", mode " << mode << ", offset " << offset << ", first weight "
+        << weights[0];
+}
+TEST(General, SumsAtTheEndsOfTheirLanes) {
+    for (int shift = 0; shift <= 16; shift++)
+        for (const int mode : {0, 1, 2, 17})
+            for (const int offset : {0, 7, -300, 40000, -33000})
+                for (const std::vector<double>& row : {std::vector<double>{127, 1, 128},
+                                                       {127, 2, 128},
+                                                       {-128, -1, -128},
+                                                       {-128, 5, 120},
+                                                       {100, -120, 37},
+                                                       {-127, 127, 3},
+                                                       {64, 64, 64}}) {
+                    // A column's weight in two parts, which are multiplied together.
+                    std::vector<double> weights = row;
+                    for (double& w : weights) w = std::trunc(w / 2);
+                    for (size_t i = 0; i < 3; i++) weights.push_back(row[i] - weights[i]);
+                    expectSums<Tpx8u>({3, 2}, weights, 1 << shift, mode, offset);
+                }
+    for (const int shift : {1, 8, 15, 20, 30})
+        for (const double weight : {32766, -32766, 21846, -21846})
+            expectSums<Tpx16s>({3, 2}, std::vector<double>(6, weight), 1 << shift, tpxRoundNearestEven, 0);
 }
 
 // Kernels past any table on the stack, and as large as the region.
