@@ -10,6 +10,7 @@
 #pragma once
 
 #include "frame/images/border.h"
+#include "frame/images/padded_row.h"
 #include "frame/images/view.h"
 #include "frame/memory/caller_memory.h"
 #include "movement/borders.h"
@@ -34,6 +35,9 @@ struct Region {
     // Bytes that can be read behind the last neighbour of every row, whatever they hold: a strip of a few
     // columns is then worked on by whole registers.
     ptrdiff_t slack;
+    // Rows above in the same columns that the kernel has just worked on. If there are any, what it keeps from
+    // row to row still holds, and one row more can be read above the first one's neighbours.
+    int64_t done = 0;
 };
 
 // A call whose arguments have passed their checks.
@@ -57,158 +61,166 @@ constexpr int64_t stripPixels(TpxiSizeL roi, TpxiSizeL mask) {
 
 namespace border_model {
 
+// The sides on which neighbours are in memory, or are not needed.
+constexpr BorderWord readableSides(BorderWord border, TpxiSizeL mask) {
+    const Reach reach = reachOf(mask);
+    border.left |= reach.left == 0;
+    border.right |= reach.right == 0;
+    border.top |= reach.top == 0;
+    border.bottom |= reach.bottom == 0;
+    return border;
+}
+
+struct Piece {
+    int64_t x, y;
+    TpxiSizeL size;
+    bool isSide;
+};
+struct Pieces {
+    Piece at[4];
+    int count;
+    Piece interior;
+};
+// The strips in their order, and what they leave.
+constexpr Pieces cut(TpxiSizeL roi, TpxiSizeL mask, BorderWord readable) {
+    // Masks with a side of 2 reflect from a strip of two rows or columns.
+    const bool mirror = readable.kind == Border::Mirror;
+    const Reach reach = reachOf(mask);
+    Pieces pieces{};
+    int64_t x0 = 0, y0 = 0, x1 = roi.width, y1 = roi.height;
+    const auto add = [&](int64_t x, int64_t y, int64_t width, int64_t height, bool isSide) {
+        pieces.at[pieces.count++] = {x, y, {width, height}, isSide};
+    };
+    if (!readable.top) {
+        add(0, 0, x1, reach.top, false);
+        y0 = reach.top;
+    }
+    if (!readable.bottom) {
+        y1 -= reach.bottom + (mirror && mask.height == 2);
+        add(0, y1, x1, roi.height - y1, false);
+    }
+    if (!readable.left) {
+        add(0, y0, reach.left, y1 - y0, true);
+        x0 = reach.left;
+    }
+    if (!readable.right) {
+        x1 -= reach.right + (mirror && mask.width == 2);
+        add(x1, y0, roi.width - x1, y1 - y0, true);
+    }
+    pieces.interior = {x0, y0, {x1 - x0, y1 - y0}, false};
+    return pieces;
+}
+
+// Of the columns or rows from low to high of a region of n, those that can be read, and how many others there
+// are before them.
+struct Span {
+    int64_t from, count, margin;
+};
+constexpr Span readableSpan(int64_t low, int64_t high, int64_t n, bool lowInMemory, bool highInMemory) {
+    const int64_t from = low < 0 && !lowInMemory ? 0 : low, to = high > n && !highInMemory ? n : high;
+    return {from, to - from, from - low};
+}
+
 // A side strip of a small mask is made in bands of rows on the stack, as many as have room but at least so
 // many, whose rows have room for a register behind them.
 inline constexpr int64_t kFewestRows = 32, kBandBytes = 16384, kSlack = 32, kLargestBandMask = 16;
 
 template <int N, class S, class D, class Kernel>
 class Cut {
+    static constexpr int64_t kPixel = N * sizeof(S);
+
  public:
     Cut(const FilterCall<S, D>& call, Kernel& kernel)
-        : call_(call), kernel_(kernel), reach_(reachOf(call.mask)), inMemory_(call.border) {
-        // Sides that need no neighbours count as in memory.
-        inMemory_.left |= reach_.left == 0;
-        inMemory_.right |= reach_.right == 0;
-        inMemory_.top |= reach_.top == 0;
-        inMemory_.bottom |= reach_.bottom == 0;
-    }
+        : call_(call),
+          kernel_(kernel),
+          reach_(reachOf(call.mask)),
+          readable_(readableSides(call.border, call.mask)) {}
 
     void wholeCopy() {
-        if (inMemory_.allInMemory()) return direct(0, 0, call_.roi);
-        fromCopy(0, 0, call_.roi, static_cast<S*>(call_.strips));
+        if (readable_.allInMemory()) return direct(0, 0, call_.roi);
+        fromCopy(0, 0, call_.roi);
     }
 
     void strips() {
-        if (inMemory_.allInMemory()) return direct(0, 0, call_.roi);
-        const Pieces pieces = cut();
-        const auto buffer = static_cast<S*>(call_.strips);
+        if (readable_.allInMemory()) return direct(0, 0, call_.roi);
+        const Pieces pieces = cut(call_.roi, call_.mask, readable_);
         for (int i = 0; i < pieces.count; i++) {
             const Piece& piece = pieces.at[i];
             if (piece.isSide)
-                side(piece.x, piece.y, piece.size, buffer);
+                side(piece.x, piece.y, piece.size);
             else
-                fromCopy(piece.x, piece.y, piece.size, buffer);
+                fromCopy(piece.x, piece.y, piece.size);
         }
         direct(pieces.interior.x, pieces.interior.y, pieces.interior.size);
-    }
-
-    // Source and destination are one image: all strips are copied before anything is written, one behind the
-    // other, and the interior is done before them.
-    void stripsInPlace() {
-        if (inMemory_.allInMemory()) return direct(0, 0, call_.roi);
-        const Pieces pieces = cut();
-        ImageView<S> copies[4];
-        auto buffer = static_cast<S*>(call_.strips);
-        for (int i = 0; i < pieces.count; i++) {
-            const Piece& piece = pieces.at[i];
-            const int64_t width = piece.size.width + call_.mask.width - 1;
-            copies[i] = {buffer, ptrdiff_t(width * N * int64_t(sizeof(S)))};
-            makeCopy(piece.x, piece.y, piece.size, copies[i], width);
-            buffer += width * (piece.size.height + call_.mask.height - 1) * N;
-        }
-        direct(pieces.interior.x, pieces.interior.y, pieces.interior.size);
-        for (int i = 0; i < pieces.count; i++) {
-            const Piece& piece = pieces.at[i];
-            run(copies[i].from(reach_.left * N, reach_.top), piece.x, piece.y, piece.size, 0);
-        }
     }
 
  private:
-    struct Piece {
-        int64_t x, y;
-        TpxiSizeL size;
-        bool isSide;
-    };
-    struct Pieces {
-        Piece at[4];
-        int count;
-        Piece interior;
-    };
-    // The strips in their order, and what they leave.
-    Pieces cut() const {
-        // Masks with a side of 2 reflect from a strip of two rows or columns.
-        const bool mirror = call_.border.kind == Border::Mirror;
-        Pieces pieces{};
-        int64_t x0 = 0, y0 = 0, x1 = call_.roi.width, y1 = call_.roi.height;
-        const auto add = [&](int64_t x, int64_t y, int64_t width, int64_t height, bool isSide) {
-            pieces.at[pieces.count++] = {x, y, {width, height}, isSide};
-        };
-        if (!inMemory_.top) {
-            add(0, 0, x1, reach_.top, false);
-            y0 = reach_.top;
-        }
-        if (!inMemory_.bottom) {
-            y1 -= reach_.bottom + (mirror && call_.mask.height == 2);
-            add(0, y1, x1, call_.roi.height - y1, false);
-        }
-        if (!inMemory_.left) {
-            add(0, y0, reach_.left, y1 - y0, true);
-            x0 = reach_.left;
-        }
-        if (!inMemory_.right) {
-            x1 -= reach_.right + (mirror && call_.mask.width == 2);
-            add(x1, y0, call_.roi.width - x1, y1 - y0, true);
-        }
-        pieces.interior = {x0, y0, {x1 - x0, y1 - y0}, false};
-        return pieces;
+    void run(const Region<S, D>& region) {
+        if (region.size.width > 0 && region.size.height > 0) kernel_(region);
+    }
+    void direct(int64_t x, int64_t y, TpxiSizeL size) {
+        run({call_.src.from(x * N, y), call_.dst.from(x * N, y), size, 0});
     }
 
-    void run(ImageView<const S> src, int64_t x, int64_t y, TpxiSizeL size, ptrdiff_t slack) {
-        if (size.width > 0 && size.height > 0)
-            kernel_(Region<S, D>{src, call_.dst.from(x * N, y), size, slack});
-    }
-    void direct(int64_t x, int64_t y, TpxiSizeL size) { run(call_.src.from(x * N, y), x, y, size, 0); }
-
-    // A part of the region from a copy of it with its neighbours, in `memory`.
-    void fromCopy(int64_t x, int64_t y, TpxiSizeL part, S* memory) {
+    // A part of the region from a copy of it with its neighbours, in the caller's memory.
+    void fromCopy(int64_t x, int64_t y, TpxiSizeL part) {
         const int64_t width = part.width + call_.mask.width - 1;
-        const ImageView<S> copy{memory, ptrdiff_t(width * N * sizeof(S))};
-        makeCopy(x, y, part, copy, width);
-        run(copy.from(reach_.left * N, reach_.top), x, y, part, 0);
+        const ImageView<S> copy{static_cast<S*>(call_.strips), ptrdiff_t(width * kPixel)};
+        makeCopy(columnsOf(x, part.width), width, y, part.height, copy);
+        run({copy.from(reach_.left * N, reach_.top), call_.dst.from(x * N, y), part, 0});
     }
 
-    void side(int64_t x, int64_t y, TpxiSizeL part, S* memory) {
+    void side(int64_t x, int64_t y, TpxiSizeL part) {
         if (call_.mask.width > kLargestBandMask || call_.mask.height > kLargestBandMask)
-            return fromCopy(x, y, part, memory);
-        constexpr int64_t kPixel = N * sizeof(S);
-        constexpr int64_t kLeast = (kFewestRows + kLargestBandMask) * (2 * kLargestBandMask * kPixel + kSlack);
+            return fromCopy(x, y, part);
+        constexpr int64_t kWidest = 2 * kLargestBandMask * kPixel + kRowRegister;
+        constexpr int64_t kLeast = (kFewestRows + kLargestBandMask) * (kWidest + kSlack);
         alignas(32) Tpx8u band[kLeast > kBandBytes ? kLeast : kBandBytes];
-        const int64_t width = part.width + call_.mask.width - 1;
+        // Rows of the copies that are registers at least get their margins by one shuffle.
+        Span columns = columnsOf(x, part.width);
+        const int64_t missing = (kRowRegister + kPixel - 1) / kPixel - columns.count,
+                      wanted = missing > 0 ? missing : 0;
+        const int64_t behind = call_.roi.width - columns.from - columns.count, after = wanted < behind ? wanted
+                                                                                       : behind > 0    ? behind
+                                                                                                       : 0;
+        const int64_t before = wanted - after < columns.from ? wanted - after
+                               : columns.from > 0            ? columns.from
+                                                             : 0;
+        columns.from -= before;
+        columns.count += before + after;
+        const int64_t width = part.width + call_.mask.width - 1 + before + after;
         const ImageView<S> copy{reinterpret_cast<S*>(band),
-                                ptrdiff_t(roundUp(uint64_t(width * kPixel + kSlack), 16))};
-        const int64_t bandRows = int64_t(sizeof band) / copy.step - (call_.mask.height - 1);
-        for (int64_t done = 0; done < part.height; done += bandRows) {
-            const int64_t rows = part.height - done < bandRows ? part.height - done : bandRows;
-            makeCopy(x, y + done, {part.width, rows}, copy, width);
-            run(copy.from(reach_.left * N, reach_.top), x, y + done, {part.width, rows}, kSlack);
+                                ptrdiff_t(roundUp(uint64_t(width * kPixel + kSlack), kRowRegister))};
+        const int64_t bandRows = int64_t(sizeof band) / copy.step - call_.mask.height;
+        for (int64_t done = 0, rows; done < part.height; done += rows) {
+            rows = part.height - done < bandRows ? part.height - done : bandRows;
+            const int64_t above = done > 0;
+            makeCopy(columns, width, y + done - above, rows + above, copy);
+            run({copy.from((before + reach_.left) * N, above + reach_.top),
+                 call_.dst.from(x * N, y + done),
+                 {part.width, rows},
+                 kSlack,
+                 done});
         }
     }
 
-    // Columns and rows of the region from before the part to behind it, as far as they are there.
-    struct Span {
-        int64_t from, count, margin;
-    };
-    static Span span(int64_t at, int64_t size, int64_t before, int64_t after, int64_t n, bool lowInMemory,
-                     bool highInMemory) {
-        const int64_t low = at - before, high = at + size + after;
-        const int64_t from = low < 0 && !lowInMemory ? 0 : low, to = high > n && !highInMemory ? n : high;
-        return {from, to - from, from - low};
+    Span columnsOf(int64_t x, int64_t width) const {
+        return readableSpan(x - reach_.left, x + width + reach_.right, call_.roi.width, readable_.left,
+                            readable_.right);
     }
-    void makeCopy(int64_t x, int64_t y, TpxiSizeL part, ImageView<S> copy, int64_t width) {
-        const Span columns = span(x, part.width, reach_.left, reach_.right, call_.roi.width, inMemory_.left,
-                                  inMemory_.right),
-                   rows = span(y, part.height, reach_.top, reach_.bottom, call_.roi.height, inMemory_.top,
-                               inMemory_.bottom);
-        copyWithBorder(call_.border.kind, N * int(sizeof(S)),
-                       bytesOf(call_.src.from(columns.from * N, rows.from)), {columns.count, rows.count},
-                       bytesOf(copy), {width, part.height + call_.mask.height - 1}, rows.margin, columns.margin,
-                       call_.value);
+    // Rows and their neighbours.
+    void makeCopy(Span columns, int64_t width, int64_t y, int64_t height, ImageView<S> copy) {
+        const Span rows = readableSpan(y - reach_.top, y + height + reach_.bottom, call_.roi.height,
+                                       readable_.top, readable_.bottom);
+        copyWithBorder(call_.border.kind, int(kPixel), bytesOf(call_.src.from(columns.from * N, rows.from)),
+                       {columns.count, rows.count}, bytesOf(copy), {width, height + call_.mask.height - 1},
+                       rows.margin, columns.margin, call_.value);
     }
 
     const FilterCall<S, D>& call_;
     Kernel& kernel_;
     Reach reach_;
-    BorderWord inMemory_;
+    BorderWord readable_;
 };
 
 } // namespace border_model
@@ -223,17 +235,6 @@ void filterRegion(const FilterCall<S, D>& call, bool byStrips, Kernel kernel) {
     border_model::Cut<N, S, D, Kernel> cut(call, kernel);
     if (byStrips)
         cut.strips();
-    else
-        cut.wholeCopy();
-}
-
-// The same where source and destination are one image, for kernels that take a region of which that is true, as
-// the interior then is. call.strips has room for all strips at a time.
-template <int N, class S, class Kernel>
-void filterRegionInPlace(const FilterCall<S, S>& call, bool byStrips, Kernel kernel) {
-    border_model::Cut<N, S, S, Kernel> cut(call, kernel);
-    if (byStrips)
-        cut.stripsInPlace();
     else
         cut.wholeCopy();
 }

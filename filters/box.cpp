@@ -1,9 +1,8 @@
 // tpxiFilterBoxBorder: the mean over a mask.
 //
-// Sums of columns slide down by one row, those of masks are made of them along the row. In place, finished rows
-// wait in a ring until no window reads the source's row.
-#include "filters/border_model.h"
+// Sums of columns slide down by one row, those of masks are made of them along the row.
 #include "filters/box_sums.h"
+#include "filters/in_place.h"
 #include "filters/stencil.h"
 #include "frame/entry/entry.h"
 
@@ -99,12 +98,10 @@ struct ByRounding {
 template <class S>
 constexpr int64_t kLargest = std::is_signed_v<S> ? int64_t(kMax<S>) + 1 : int64_t(kMax<S>);
 
-// What a call keeps in its buffer.
-template <class S>
+// What a kernel keeps from row to row, in the call's buffer.
 struct BoxMemory {
     void* columns; // sums of all columns of the region and its neighbours, up to 32 bits each
     ptrdiff_t columnBytes;
-    ImageView<S> ring;
 };
 
 // Means of 3x3 or 5x5 bytes of one channel, without sums of columns: a row's sums of neighbours are shared by
@@ -178,7 +175,7 @@ class BoxKernel {
     static constexpr ptrdiff_t kBlock = kLanes<S>;
 
  public:
-    BoxKernel(TpxiSizeL mask, const BoxMemory<S>& memory)
+    BoxKernel(TpxiSizeL mask, BoxMemory memory)
         : mask_(mask),
           reach_(reachOf(mask)),
           memory_(memory),
@@ -188,8 +185,7 @@ class BoxKernel {
 
     void operator()(const Region<S, S>& region) const {
         if constexpr (L == Layout::C1 && sizeof(S) == 1) {
-            if (mask_.width == mask_.height && region.src.data != region.dst.data &&
-                (region.size.width >= kBlock || region.slack >= kBlock)) {
+            if (mask_.width == mask_.height && (region.size.width >= kBlock || region.slack >= kBlock)) {
                 if (mask_.width == 3) return meansOfSquare<3>(region, byRounding_);
                 if (mask_.width == 5) return meansOfSquare<5>(region, byShift_);
             }
@@ -214,26 +210,14 @@ class BoxKernel {
             whole * ptrdiff_t(sizeof(Column)) <= memory_.columnBytes)
             count = whole;
         const ColumnSums<Column, S> columns(static_cast<Column*>(memory_.columns), count);
-        const bool inPlace = region.src.data == region.dst.data;
-        const int64_t rows = region.size.height, held = reach_.top + 1;
         const auto src = region.src.from(-ptrdiff_t(reach_.left) * N, -ptrdiff_t(reach_.top));
-        for (int64_t y = 0; y < rows; y++) {
-            if (isFormed<Column>(y))
+        for (int64_t y = 0; y < region.size.height; y++) {
+            if (isFormed<Column>(region.done + y))
                 columns.form(src.from(0, ptrdiff_t(y)), mask_.height);
             else
                 columns.slide(src.row(ptrdiff_t(y + mask_.height - 1)), src.row(ptrdiff_t(y - 1)));
-            S* const dst = region.dst.row(ptrdiff_t(y));
-            if (!inPlace) {
-                meansOfRow(columns.data(), length, dst, dst);
-                continue;
-            }
-            S* const slot = memory_.ring.row(ptrdiff_t(y % held));
-            if (y >= held) copyRow(region.dst.row(ptrdiff_t(y - held)), slot, length);
-            meansOfRow(columns.data(), length, slot, dst);
+            meansOfRow(columns.data(), length, region.dst.row(ptrdiff_t(y)));
         }
-        if (inPlace)
-            for (int64_t y = rows > held ? rows - held : 0; y < rows; y++)
-                copyRow(region.dst.row(ptrdiff_t(y)), memory_.ring.row(ptrdiff_t(y % held)), length);
     }
 
     // Whether the sums at a row are made anew. Those of floats are, at least every few rows, to be rid of
@@ -248,41 +232,35 @@ class BoxKernel {
         return y == 0;
     }
 
-    static void copyRow(S* dst, const S* src, ptrdiff_t length) {
-        __builtin_memcpy(dst, src, size_t(length) * sizeof(S));
-    }
-
-    // Results go to `dst`, alpha comes from `alpha`.
     template <class Column>
-    void meansOfRow(const Column* columns, ptrdiff_t length, S* dst, const S* alpha) const {
+    void meansOfRow(const Column* columns, ptrdiff_t length, S* dst) const {
         const int64_t samples = mask_.width * mask_.height;
         if constexpr (std::is_same_v<Column, Tpx16u>) {
             if (samples * kLargest<S> <= kMax<Tpx16u>) {
-                if (byRounding_.isExact) return means<Tpx16u>(columns, length, dst, alpha, byRounding_);
-                if (byShift_.isExact) return means<Tpx16u>(columns, length, dst, alpha, byShift_);
-                return means<Tpx16u>(columns, length, dst, alpha, byProduct_);
+                if (byRounding_.isExact) return means<Tpx16u>(columns, length, dst, byRounding_);
+                if (byShift_.isExact) return means<Tpx16u>(columns, length, dst, byShift_);
+                return means<Tpx16u>(columns, length, dst, byProduct_);
             }
         }
         if constexpr (std::is_same_v<Column, Tpx32f>) {
             if (WindowTile<Tpx32f>::canSum(mask_.width, N))
-                return means<Tpx32f>(columns, length, dst, alpha, byProduct_);
+                return means<Tpx32f>(columns, length, dst, byProduct_);
         } else {
-            if (samples * kLargest<S> <= kMax<Tpx32s>)
-                return means<Tpx32s>(columns, length, dst, alpha, byProduct_);
+            if (samples * kLargest<S> <= kMax<Tpx32s>) return means<Tpx32s>(columns, length, dst, byProduct_);
         }
-        slidingMeans(columns, length, dst, alpha);
+        slidingMeans(columns, length, dst);
     }
 
     template <class Sum, class Column, class Mean>
-    void means(const Column* columns, ptrdiff_t length, S* dst, const S* alpha, Mean mean) const {
-        if (mask_.width == 1) return meansOfTaps<Sum, 1>(columns, length, dst, alpha, mean);
-        if (mask_.width == 3) return meansOfTaps<Sum, 3>(columns, length, dst, alpha, mean);
-        if (mask_.width == 5) return meansOfTaps<Sum, 5>(columns, length, dst, alpha, mean);
-        meansOfTiles<Sum>(columns, length, dst, alpha, mean);
+    void means(const Column* columns, ptrdiff_t length, S* dst, Mean mean) const {
+        if (mask_.width == 1) return meansOfTaps<Sum, 1>(columns, length, dst, mean);
+        if (mask_.width == 3) return meansOfTaps<Sum, 3>(columns, length, dst, mean);
+        if (mask_.width == 5) return meansOfTaps<Sum, 5>(columns, length, dst, mean);
+        meansOfTiles<Sum>(columns, length, dst, mean);
     }
 
     template <class Sum, int Taps, class Column, class Mean>
-    static void meansOfTaps(const Column* columns, ptrdiff_t length, S* dst, const S* alpha, Mean mean) {
+    static void meansOfTaps(const Column* columns, ptrdiff_t length, S* dst, Mean mean) {
         // A row shorter than a block reads on behind the columns, in the buffer.
         put<Sum>(
             [&](ptrdiff_t i) __attribute__((always_inline)) {
@@ -290,12 +268,11 @@ class BoxKernel {
                 for (int k = 1; k < Taps; k++) sum += sumsFrom<Sum>(columns + i + k * N);
                 return sum;
             },
-            length, dst, alpha, mean);
+            length, dst, mean);
     }
 
     template <class Sum, class Column, class Mean>
-    [[gnu::noinline]] void meansOfTiles(const Column* columns, ptrdiff_t length, S* dst, const S* alpha,
-                                        Mean mean) const {
+    [[gnu::noinline]] void meansOfTiles(const Column* columns, ptrdiff_t length, S* dst, Mean mean) const {
         if constexpr (std::is_integral_v<Sum>) {
             using Window = IntegerWindow<Sum, N, Column>;
             Window window(columns, mask_.width);
@@ -304,7 +281,7 @@ class BoxKernel {
                 window.next(sums, part);
                 put<Sum>(
                     [&](ptrdiff_t i) __attribute__((always_inline)) { return load(sums + i); }, part, dst + x,
-                    alpha + x, mean);
+                    mean);
             });
         } else {
             WindowTile<Sum> tile;
@@ -312,19 +289,19 @@ class BoxKernel {
                 tile.sumPadded(columns + x, part, mask_.width, N); // more of the buffer lies behind them
                 put<Sum>(
                     [&](ptrdiff_t i) __attribute__((always_inline)) { return load(tile.sums + i); }, part,
-                    dst + x, alpha + x, mean);
+                    dst + x, mean);
             });
         }
     }
 
     template <class Column>
-    [[gnu::noinline]] void slidingMeans(const Column* columns, ptrdiff_t length, S* dst, const S* alpha) const {
+    [[gnu::noinline]] void slidingMeans(const Column* columns, ptrdiff_t length, S* dst) const {
         SlidingWindow<Column> window(columns, length, mask_.width, N);
         constexpr ptrdiff_t kTile = 240; // whole pixels
         Tpx32f sums[kTile + 16] = {};
         forTiles<kTile>(length, [&](ptrdiff_t x, ptrdiff_t part) {
             window.next(sums, part);
-            put<Tpx32f>([&](ptrdiff_t i) { return load(sums + i); }, part, dst + x, alpha + x, byProduct_);
+            put<Tpx32f>([&](ptrdiff_t i) { return load(sums + i); }, part, dst + x, byProduct_);
         });
     }
 
@@ -338,14 +315,14 @@ class BoxKernel {
     // Sums, of which sumsAt(i) makes a register from the i-th on and which may be taken up to a block's end, to
     // means.
     template <class Sum, class At, class Mean>
-    [[gnu::always_inline]] static void put(At sumsAt, ptrdiff_t length, S* dst, const S* alpha, Mean mean) {
+    [[gnu::always_inline]] static void put(At sumsAt, ptrdiff_t length, S* dst, Mean mean) {
         const auto at = [&](ptrdiff_t i) __attribute__((always_inline)) {
             return mean.template means<S, Sum>(sumsAt, i);
         };
         if (length < kBlock) {
             const Vec<S> block = at(0);
             if constexpr (L == Layout::AC4) {
-                const Vec<S> all = keepAlpha<S>(loadShort(alpha, length), block);
+                const Vec<S> all = keepAlpha<S>(loadShort(dst, length), block);
                 copyShort(dst, &all, length * ptrdiff_t(sizeof(S)));
             } else {
                 copyShort(dst, &block, length * ptrdiff_t(sizeof(S)));
@@ -354,7 +331,7 @@ class BoxKernel {
         }
         const auto one = [&](ptrdiff_t i) __attribute__((always_inline)) {
             if constexpr (L == Layout::AC4)
-                store(dst + i, keepAlpha<S>(load(alpha + i), at(i)));
+                store(dst + i, keepAlpha<S>(load(dst + i), at(i)));
             else
                 store(dst + i, at(i));
         };
@@ -365,7 +342,7 @@ class BoxKernel {
 
     TpxiSizeL mask_;
     Reach reach_;
-    BoxMemory<S> memory_;
+    BoxMemory memory_;
     ByProduct byProduct_;
     ByShift byShift_;
     ByRounding byRounding_;
@@ -473,21 +450,18 @@ TpxStatus boxFilter(const BoxCall<S>& call) {
     const BorderWord border = readFilterBorder(call.border);
     if (const TpxStatus status = checkBox(call, border); status != tpxOk) return status;
 
-    // The sums of columns come first, then the strips; the whole copy of a small region may go on into the
-    // ring.
+    // The sums of columns come first, then the strips; the whole copy of a small region, and in place the
+    // bands, have all that follows.
     const BoxAreas areas = boxAreasOf<S>(call.roi, call.mask, N);
     Tpx8u* const strips = call.buffer + areas.columns;
-    S* const ring = reinterpret_cast<S*>(alignUp(strips + areas.strips));
     S value[N] = {};
     if (border.kind == Border::Const)
         for (int c = 0; c < coloursOf(L); c++) value[c] = peek(call.value + c);
     const FilterCall<S, S> filter = {call.src, call.dst, call.roi, call.mask, border, value, strips};
-    const BoxKernel<L, S> kernel(
-        call.mask,
-        {call.buffer, ptrdiff_t(areas.columns), {ring, ptrdiff_t(ringStep<int(sizeof(S))>(call.roi, N))}});
+    const BoxKernel<L, S> kernel(call.mask, {call.buffer, ptrdiff_t(areas.columns)});
     const bool byStrips = isSmallerThanRegion(call.mask, call.roi);
     if (call.src.data == call.dst.data)
-        filterRegionInPlace<N>(filter, byStrips, kernel);
+        filterInPlace<N>(filter, byStrips, areas.all() - areas.columns, kernel);
     else
         filterRegion<N>(filter, byStrips, kernel);
     return tpxOk;

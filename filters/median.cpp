@@ -105,11 +105,13 @@ TpxStatus median(const Call<T>& call) {
     T value[N];
     for (T& sample : value) sample = call.borderValue;
     const FilterCall<T, T> filter{call.src, call.dst, call.roi, call.mask, border, value, call.buffer};
+    const bool byStrips = isSmallerThanRegion(call.mask, call.roi);
     withMedianOf<L, T>(call.mask, [&](auto kernel) {
         if (inPlace)
-            filterInPlace<N>(filter, int64_t(bufferBytes(call.roi, call.mask, kTypeOf<T>, N)), kernel);
+            filterInPlace<N>(filter, byStrips, int64_t(bufferBytes(call.roi, call.mask, kTypeOf<T>, N)),
+                             kernel);
         else
-            filterRegion<N>(filter, isSmallerThanRegion(call.mask, call.roi), kernel);
+            filterRegion<N>(filter, byStrips, kernel);
     });
     return tpxOk;
 }

@@ -209,6 +209,32 @@ struct Args {
     Tpx8u* buffer;
 };
 
+// Sums of floats are rounded on their way down a column. In place they are the same sums, at the sides too.
+TEST(Box, FloatsInPlaceAreThoseOutOfPlace) {
+    for (const Form<Tpx32f>& form : forms<Tpx32f>())
+        for (const FilterMask mask : {FilterMask{7, 9}, {3, 6}, {16, 14}, {21, 40}}) {
+            FilterSource<Tpx32f> src(60, 700, form.channels, mask, tpxBorderMirror, {}, 1);
+            src.image().fill([](int x, int y, int k) {
+                return float((x * 7919 + y * 104729 + k * 31) % 10007) * (y % 50 == 0 ? 1e5f : 0.1f);
+            });
+            const TpxiSize size = src.size(), maskSize = {mask.width, mask.height};
+            GuardedImage<Tpx32f> dst(60, 700, form.channels);
+            dst.copySamplesFrom(src.image()); // for alpha
+            int bytes = 0;
+            ASSERT_EQ(tpxiFilterBoxBorderGetBufferSize(size, maskSize, tpxDataType32f, form.channels, &bytes),
+                      tpxOk);
+            GuardedBytes buffer(static_cast<size_t>(bytes), 0);
+            const auto run = [&](Tpx32f* to, int step) {
+                return form.filter(src.data(), src.step(), to, step, size, maskSize, tpxBorderMirror, nullptr,
+                                   buffer.data());
+            };
+            ASSERT_EQ(run(dst.data(), dst.step()), tpxOk);
+            ASSERT_EQ(run(const_cast<Tpx32f*>(src.data()), src.step()), tpxOk);
+            ASSERT_TRUE(matches(dst, [&](int x, int y, int k) { return src.at(x, y, k); }))
+                << form.channels << " channels, mask " << mask.width << " x " << mask.height;
+        }
+}
+
 TEST(Box, ChecksInTheirOrder) {
     GuardedImage<Tpx8u> src(8, 8, 1), dst(8, 8, 1);
     std::vector<Tpx8u> buffer(8192);
