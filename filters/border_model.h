@@ -155,7 +155,8 @@ class Cut {
     }
 
  private:
-    void run(const Region<S, D>& region) {
+    // By value: as far as compilers know, results could be stored over a region that is shared.
+    void run(Region<S, D> region) {
         if (region.size.width > 0 && region.size.height > 0) kernel_(region);
     }
     void direct(int64_t x, int64_t y, TpxiSizeL size) {

@@ -125,7 +125,7 @@ struct RowOfSums {
 };
 
 template <int Side, class Mean>
-void meansOfSquare(const Region<Tpx8u, Tpx8u>& region, Mean mean) {
+void meansOfSquare(Region<Tpx8u, Tpx8u> region, Mean mean) {
     constexpr ptrdiff_t kBlock = kLanes<Tpx8u>;
     // Rows that lie multiples of 2048 bytes apart share a set or two of the first-level cache, which does not
     // hold a line of many of them.

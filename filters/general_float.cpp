@@ -46,7 +46,7 @@ template <bool Short, int Registers, class Rows>
         sums.upper[k] = sums.lower[k] = splat<V32f>(-0.0f); // the number that changes no other
     // Coefficients from the last to the first.
     const Tpx32f* const first = b.kernel32 + width * height - 1;
-    const auto addRow = [&]<bool Upper, bool Lower>(ptrdiff_t r) {
+    const auto addRow = [&]<bool Upper, bool Lower>(ptrdiff_t r) __attribute__((always_inline)) {
         auto row = rows[r] + i;
         const Tpx32f *forUpper = first - r * width, *forLower = forUpper + width;
         for (ptrdiff_t x = 0; x < width; x++, row += channels, forUpper--, forLower--)

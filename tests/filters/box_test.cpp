@@ -11,14 +11,6 @@ namespace {
 template <class T>
 using BoxFilter = TpxStatus (*)(const T*, int, T*, int, TpxiSize, TpxiSize, TpxBorderType, const T*, Tpx8u*);
 
-template <class T>
-constexpr TpxDataType typeOf() {
-    return std::is_same_v<T, Tpx8u>    ? tpxDataType8u
-           : std::is_same_v<T, Tpx16u> ? tpxDataType16u
-           : std::is_same_v<T, Tpx16s> ? tpxDataType16s
-                                       : tpxDataType32f;
-}
-
 // The sum times the reciprocal in single precision, to nearest.
 template <class T>
 T meanOf(double sum, FilterMask mask) {

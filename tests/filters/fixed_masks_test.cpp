@@ -24,13 +24,6 @@ using SizeCall = TpxStatus (*)(TpxiSize, int, TpxDataType, TpxDataType, int, int
 template <class S, class D>
 using FilterCall = TpxStatus (*)(const S*, int, D*, int, TpxiSize, int, TpxBorderType, S, Tpx8u*);
 
-template <class T>
-constexpr TpxDataType typeOf() {
-    return std::is_same_v<T, Tpx8u>    ? tpxDataType8u
-           : std::is_same_v<T, Tpx16s> ? tpxDataType16s
-                                       : tpxDataType32f;
-}
-
 template <class D>
 D saturated(double x) {
     if (std::is_floating_point_v<D>) return D(x);

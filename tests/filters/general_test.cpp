@@ -14,14 +14,6 @@ namespace {
 
 // ---- The caller's side ------------------------------------------------------------------------------------
 
-template <class T>
-constexpr TpxDataType typeOf() {
-    return std::is_same_v<T, Tpx8u>    ? tpxDataType8u
-           : std::is_same_v<T, Tpx16u> ? tpxDataType16u
-           : std::is_same_v<T, Tpx16s> ? tpxDataType16s
-                                       : tpxDataType32f;
-}
-
 struct FilterSetup {
     TpxiSize kernel;
     std::vector<double> weights; // in raster order

@@ -10,14 +10,6 @@
 namespace tpx::test {
 namespace {
 
-template <class T>
-constexpr TpxDataType typeOf() {
-    return std::is_same_v<T, Tpx8u>    ? tpxDataType8u
-           : std::is_same_v<T, Tpx16u> ? tpxDataType16u
-           : std::is_same_v<T, Tpx16s> ? tpxDataType16s
-                                       : tpxDataType32f;
-}
-
 // The sample of index `rank` in ascending order.
 template <class T>
 T ranked(std::vector<T>& samples, size_t rank) {

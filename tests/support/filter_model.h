@@ -7,6 +7,14 @@
 
 namespace tpx::test {
 
+template <class T>
+constexpr TpxDataType typeOf() {
+    return std::is_same_v<T, Tpx8u>    ? tpxDataType8u
+           : std::is_same_v<T, Tpx16u> ? tpxDataType16u
+           : std::is_same_v<T, Tpx16s> ? tpxDataType16s
+                                       : tpxDataType32f;
+}
+
 struct FilterMask {
     int width, height;
     int left() const { return (width - 1) / 2; }
