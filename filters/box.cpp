@@ -135,7 +135,7 @@ void meansOfSquare(Region<Tpx8u, Tpx8u> region, Mean mean) {
     const auto src = region.src.from(-(Side / 2), -(Side / 2));
     for (int64_t y = 0; y < region.size.height; y += band) {
         const int64_t left = region.size.height - y, rows = left < band ? left : band;
-        const auto column = [&](ptrdiff_t x, auto put) {
+        const auto column = [&](ptrdiff_t x, auto put) __attribute__((always_inline)) {
             const Tpx8u* from = src.from(x, ptrdiff_t(y)).data;
             Tpx8u* to = region.dst.from(x, ptrdiff_t(y)).data;
             RowOfSums<Side> ring[Side];

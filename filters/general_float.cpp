@@ -97,9 +97,10 @@ template <class T, bool Short, int Registers, class Rows>
     for (int k = 0; k < Registers; k++) storeResults(dst.lower + i + k * kRegister, sums.lower[k], rules);
 }
 
+// Not inlined: the addresses of the loop over taps have the registers to themselves.
 template <class T, class Rows>
-void longRows(const FilterBlock& b, const RulesOf<T>& rules, const Rows& rows, ptrdiff_t channels,
-              ResultRows<T> dst, ptrdiff_t len) {
+[[gnu::noinline]] void longRows(const FilterBlock& b, const RulesOf<T>& rules, const Rows& rows,
+                                ptrdiff_t channels, ResultRows<T> dst, ptrdiff_t len) {
     ptrdiff_t i = 0;
     for (; i + 4 * kRegister <= len; i += 4 * kRegister)
         resultsAt<T, false, 4>(b, rules, rows, channels, dst, i, 0);
