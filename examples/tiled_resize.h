@@ -5,7 +5,7 @@
 
 #include "image.h"
 
-enum class ResizeKind { nearest, linear };
+enum class ResizeKind { nearest, linear, cubic, lanczos, super, antialiasing };
 
 // Plan and work buffers are made once; run() may then be called for any number of images of these sizes. An
 // object serves one run() at a time, because its work buffers do.
