@@ -26,7 +26,8 @@ struct TapColumns {
 
 // Adds `taps` weighted pixels to the sums of a position; eight rows lie side by side.
 template <int N, int Taps>
-inline void addTaps(const Tpx32f* pixels, const Tpx32f* weights, int taps, bool first, V32f (&sums)[N]) {
+[[gnu::always_inline]] inline void addTaps(const Tpx32f* pixels, const Tpx32f* weights, int taps, bool first,
+                                           V32f (&sums)[N]) {
     int t = 0;
     if (first) {
         const V32f weight = splat<V32f>(*weights);
@@ -49,7 +50,7 @@ class TurnedSums {
         for (int c = 0; c < N; c++) store(sums_ + (position % kPositions * N + c) * kTapRows, sums[c]);
     }
     // Samples of the rows from `at` on.
-    void flush(Tpx32f* const* rows, int64_t at) const {
+    [[gnu::always_inline]] void flush(Tpx32f* const* rows, int64_t at) const {
         for (int i = 0; i < kPositions * N; i += 8)
             for (int half = 0; half < 2; half++) {
                 const Tpx32f* const from = sums_ + i * kTapRows + 4 * half;
@@ -95,7 +96,7 @@ inline void passAlongX(const TapColumns& columns, const Tpx32f* turned, Tpx32f* 
 
 // Single precision to a register of samples: integers are rounded with the thread's mode and saturated.
 template <class T, int M>
-inline Vec<T> samplesOf(const V32f* x) {
+[[gnu::always_inline]] inline Vec<T> samplesOf(const V32f* x) {
     if constexpr (std::is_same_v<T, Tpx32f>) {
         return *x;
     } else {
@@ -118,7 +119,7 @@ inline void blendAlongY(const RowRing<Tpx32f>& ring, const Tpx32f* weights, int 
     const Tpx32f* rows[Taps == kAnyTaps ? 1 : Taps];
     for (int t = 0; t < Taps; t++) rows[t] = ring.at(t);
 
-    const auto sums = [&]<int M>(int64_t i, V32f(&sum)[M]) {
+    const auto sums = [&]<int M>(int64_t i, V32f(&sum)[M]) [[gnu::always_inline]] {
         const auto add = [&](const Tpx32f* row, int t) {
             const V32f weight = splat<V32f>(peek(weights + t));
             for (int m = 0; m < M; m++) {
@@ -133,7 +134,7 @@ inline void blendAlongY(const RowRing<Tpx32f>& ring, const Tpx32f* weights, int 
             for (int t = 0; t < Taps; t++) add(rows[t], t);
         }
     };
-    const auto one = [&](int64_t i) {
+    const auto one = [&](int64_t i) [[gnu::always_inline]] {
         V32f sum[kPerRegister];
         sums(i, sum);
         return samplesOf<T, kPerRegister>(sum);

@@ -23,7 +23,7 @@ inline V32f loadFoursAsFloat(const T* low, const T* high) {
 // `count` samples of eight rows: out[8 * i + k] = rows[k][i]. No sample but those is read.
 template <class T>
 inline void turnRows(const T* const* rows, int64_t count, Tpx32f* out) {
-    const auto four = [&](int64_t i) {
+    const auto four = [&](int64_t i) [[gnu::always_inline]] {
         const auto two = [&](int k) { return loadFoursAsFloat(rows[k] + i, rows[k + 4] + i); };
         const auto turned = transpose(Several<V32f, 4>{{two(0), two(1), two(2), two(3)}});
         for (int k = 0; k < 4; k++) store(out + (i + k) * kTapRows, turned.at[k]);
