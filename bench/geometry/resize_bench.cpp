@@ -52,22 +52,33 @@ struct Resize {
     std::vector<Tpx8u> spec;
     std::vector<Tpx8u> buffer;
 
-    explicit Resize(const Scaling& s)
+    Resize(const Scaling& s, bool antialiasing)
         : src(s.from, s.channels, 0, std::is_integral_v<T> ? T(-1) : T(1)),
           dst(s.to, s.channels),
           other(s.to, s.channels) {
         int specBytes = 0;
         int bytes = 0;
-        check(Plan<T>::getSize(s.from, s.to, interpolationOf(s.kind), 0, &specBytes, &bytes));
+        check(Plan<T>::getSize(s.from, s.to, interpolationOf(s.kind), antialiasing, &specBytes, &bytes));
         spec.resize(specBytes);
         buffer.resize(bytes);
-        check(s.kind == Kind::nearest  ? Plan<T>::nearestInit(s.from, s.to, plan())
-              : s.kind == Kind::linear ? Plan<T>::linearInit(s.from, s.to, plan())
-              : s.kind == Kind::cubic
-                  ? Plan<T>::cubicInit(s.from, s.to, kCubicB, kCubicC, plan(), buffer.data())
-                  : Plan<T>::lanczosInit(s.from, s.to, 3, plan(), buffer.data()));
+        check(init(s, antialiasing));
         check(Plan<T>::getBufferSize(plan(), s.to, s.channels, &bytes));
         buffer.resize(bytes);
+    }
+    TpxStatus init(const Scaling& s, bool antialiasing) {
+        switch (s.kind) {
+            case Kind::nearest:
+                return Plan<T>::nearestInit(s.from, s.to, plan());
+            case Kind::linear:
+                return Plan<T>::linearInit(s.from, s.to, plan());
+            case Kind::cubic:
+                return antialiasing ? tpxiResizeAntialiasingCubicInit(s.from, s.to, kCubicB, kCubicC, plan(),
+                                                                      buffer.data())
+                                    : Plan<T>::cubicInit(s.from, s.to, kCubicB, kCubicC, plan(), buffer.data());
+            default:
+                return antialiasing ? tpxiResizeAntialiasingLanczosInit(s.from, s.to, 3, plan(), buffer.data())
+                                    : Plan<T>::lanczosInit(s.from, s.to, 3, plan(), buffer.data());
+        }
     }
     TpxiResizeSpec* plan() { return reinterpret_cast<TpxiResizeSpec*>(spec.data()); }
 
@@ -81,7 +92,7 @@ struct Resize {
 };
 
 template <typename T>
-std::function<void(const Image<T>&, const Image<T>&)> scalarResize(const Scaling& s) {
+std::function<void(const Image<T>&, const Image<T>&)> scalarResize(const Scaling& s, bool antialiasing) {
     constexpr ptrdiff_t kSize = sizeof(T);
     if (s.kind == Kind::linear)
         return [s, x = tpx::model::Axis(s.from.width, s.to.width),
@@ -90,11 +101,12 @@ std::function<void(const Image<T>&, const Image<T>&)> scalarResize(const Scaling
                                      x, y);
         };
     if (s.kind != Kind::nearest) {
-        const auto kernel =
-            s.kind == Kind::cubic ? tpx::model::cubicKernel(kCubicB, kCubicC) : tpx::model::lanczosKernel(3);
-        return [s, x = tpx::model::TapAxis(s.from.width, s.to.width, kernel),
-                y = tpx::model::TapAxis(s.from.height, s.to.height, kernel)](const Image<T>& src,
-                                                                             const Image<T>& dst) {
+        const auto kernel = s.kind == Kind::cubic ? tpx::model::cubicKernel(kCubicB, kCubicC)
+                            : antialiasing        ? tpx::model::directLanczosKernel(3)
+                                                  : tpx::model::lanczosKernel(3);
+        return [s, x = tpx::model::TapAxis(s.from.width, s.to.width, kernel, antialiasing),
+                y = tpx::model::TapAxis(s.from.height, s.to.height, kernel, antialiasing)](
+                   const Image<T>& src, const Image<T>& dst) {
             tpx::model::resizeTaps(src.data(), src.step() / kSize, dst.data(), dst.step() / kSize, s.channels,
                                    s.from, x, y);
         };
@@ -108,16 +120,17 @@ std::function<void(const Image<T>&, const Image<T>&)> scalarResize(const Scaling
 
 // `F` is Linear<T>, which all but nearest have, or Nearest<T>.
 template <typename T, typename F>
-void addResize(Kind kind, const char* name, F function, int channels) {
+void addResize(Kind kind, const char* name, F function, int channels, bool antialiasing = false) {
     for (const auto& [from, to] : kScalings) {
+        if (antialiasing && from.width < to.width) continue; // the plain kernel
         const Scaling s{kind, Plan<T>::kType, channels, from, to};
         const double srcSamples = static_cast<double>(from.width) * from.height * channels;
         const double dstSamples = static_cast<double>(to.width) * to.height * channels;
         const Job job{"Resize", name, text(from) + " to " + text(to), dstSamples,
                       (srcSamples + dstSamples) * sizeof(T)};
         addJob(job, [=] {
-            const auto resize = std::make_shared<Resize<T>>(s);
-            const auto scalar = scalarResize<T>(s);
+            const auto resize = std::make_shared<Resize<T>>(s, antialiasing);
+            const auto scalar = scalarResize<T>(s, antialiasing);
             const Image<T> expected(s.to, channels);
             check(resize->run(function, resize->dst));
             scalar(resize->src, expected);
@@ -141,6 +154,11 @@ void addResize(Kind kind, const char* name, F function, int channels) {
 #define LANCZOS3(T, types, channels)                                                 \
     addResize<T, Linear<T>>(Kind::lanczos3, "tpxiResizeLanczos_" #types ", 3 lobes", \
                             tpxiResizeLanczos_##types, channels)
+#define ANTIALIASING(T, types, channels)                                                       \
+    addResize<T, Linear<T>>(Kind::cubic, "tpxiResizeAntialiasing_" #types ", cubic",           \
+                            tpxiResizeAntialiasing_##types, channels, true);                   \
+    addResize<T, Linear<T>>(Kind::lanczos3, "tpxiResizeAntialiasing_" #types ", Lanczos of 3", \
+                            tpxiResizeAntialiasing_##types, channels, true)
 
 } // namespace
 
@@ -161,6 +179,9 @@ void addResizes() {
     CUBIC(Tpx32f, 32f_C1R, 1);
     LANCZOS3(Tpx8u, 8u_C1R, 1);
     LANCZOS3(Tpx8u, 8u_C3R, 3);
+    ANTIALIASING(Tpx8u, 8u_C1R, 1);
+    ANTIALIASING(Tpx16u, 16u_C1R, 1);
+    ANTIALIASING(Tpx32f, 32f_C1R, 1);
 }
 
 } // namespace bench
