@@ -1,6 +1,7 @@
 // tpxiFilterMedianBorder: medians of any odd mask, over a border and in place.
 #include "filters/in_place.h"
 #include "filters/median_choice.h"
+#include "frame/entry/entry.h"
 #include "frame/images/pointwise.h"
 #include "frame/runs/routines.h"
 
@@ -106,7 +107,7 @@ TpxStatus median(const Call<T>& call) {
     for (T& sample : value) sample = call.borderValue;
     const FilterCall<T, T> filter{call.src, call.dst, call.roi, call.mask, border, value, call.buffer};
     const bool byStrips = isSmallerThanRegion(call.mask, call.roi);
-    withMedianOf<L, T>(call.mask, [&](auto kernel) {
+    withMedianOf<L, T>(call.mask, [&](RegionKernel<T> kernel) {
         if (inPlace)
             filterInPlace<N>(filter, byStrips, int64_t(bufferBytes(call.roi, call.mask, kTypeOf<T>, N)),
                              kernel);

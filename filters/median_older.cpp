@@ -2,6 +2,7 @@
 // surroundings are read from memory.
 #include "filters/fixed_masks.h"
 #include "filters/median_choice.h"
+#include "filters/median_kernels.h"
 #include "frame/images/pointwise.h"
 
 namespace tpx {
@@ -42,7 +43,7 @@ TpxStatus median(const Call<T>& call, TpxiSizeL mask, TpxiPointL anchor, const T
     }
     Region<T, T> region = call.region();
     region.src = region.src.from((mask.width / 2 - anchor.x) * N, mask.height / 2 - anchor.y);
-    withMedianOf<L, T>(mask, [&](auto kernel) { kernel(region); });
+    withMedianOf<L, T>(mask, [&](RegionKernel<T> kernel) { kernel(region); });
     return tpxOk;
 }
 

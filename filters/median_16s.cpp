@@ -1,0 +1,11 @@
+// The median kernels of 16s.
+#include "filters/median_of_mask.h"
+
+namespace tpx {
+
+template void withMedianOf<Layout::C1, Tpx16s>(TpxiSizeL, CallRef<RegionKernel<Tpx16s>>);
+template void withMedianOf<Layout::C3, Tpx16s>(TpxiSizeL, CallRef<RegionKernel<Tpx16s>>);
+template void withMedianOf<Layout::C4, Tpx16s>(TpxiSizeL, CallRef<RegionKernel<Tpx16s>>);
+template void withMedianOf<Layout::AC4, Tpx16s>(TpxiSizeL, CallRef<RegionKernel<Tpx16s>>);
+
+} // namespace tpx
