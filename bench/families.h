@@ -19,5 +19,6 @@ void addBoxes();
 void addMedians();
 void addGeneralFilters();
 void addResizes();
+void addSuperResizes();
 
 } // namespace bench

@@ -120,6 +120,7 @@ int run(int argc, char** argv) {
     addMedians();
     addGeneralFilters();
     addResizes();
+    addSuperResizes();
     Progress progress;
     benchmark::RunSpecifiedBenchmarks(&progress);
     benchmark::Shutdown();

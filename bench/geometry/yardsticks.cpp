@@ -40,7 +40,9 @@ struct Pairs {
 template <typename T, typename F>
 Contender libyuvContender(const char* name, F scale, const Scaling& s, int planes, int channels) {
     const auto images = std::make_shared<Pairs<T>>(s, planes, channels);
-    const auto filter = s.kind == Kind::nearest ? libyuv::kFilterNone : libyuv::kFilterBilinear;
+    const auto filter = s.kind == Kind::area     ? libyuv::kFilterBox
+                        : s.kind == Kind::linear ? libyuv::kFilterBilinear
+                                                 : libyuv::kFilterNone;
     return {name, [=] {
                 for (int i = 0; i < planes; ++i) {
                     const Image<T>& from = *images->from[i];
@@ -52,7 +54,7 @@ Contender libyuvContender(const char* name, F scale, const Scaling& s, int plane
 }
 
 void addLibyuv(const Scaling& s, std::vector<Contender>& list) {
-    if (s.kind != Kind::nearest && s.kind != Kind::linear) return; // it has no longer kernels
+    if (s.kind == Kind::cubic || s.kind == Kind::lanczos3) return; // it has no such kernels
     if (s.type == tpxDataType8u && s.channels == 1)
         list.push_back(libyuvContender<Tpx8u>("libyuv", libyuv::ScalePlane, s, 1, 1));
     if (s.type == tpxDataType8u && s.channels == 3) {
@@ -126,7 +128,8 @@ Contender zimgContender(const Scaling& s) {
 }
 
 void addZimg(const Scaling& s, std::vector<Contender>& list) {
-    if (s.channels == 4) return; // its fourth plane is an alpha that takes part in the colours
+    if (s.kind == Kind::area) return; // it has no mean of what is covered
+    if (s.channels == 4) return;      // its fourth plane is an alpha that takes part in the colours
     if (s.type == tpxDataType8u) list.push_back(zimgContender<Tpx8u>(s));
     if (s.type == tpxDataType16u) list.push_back(zimgContender<Tpx16u>(s));
     if (s.type == tpxDataType32f) list.push_back(zimgContender<Tpx32f>(s));

@@ -11,7 +11,7 @@
 
 namespace bench {
 
-enum class Kind { nearest, linear, cubic, lanczos3 };
+enum class Kind { nearest, linear, cubic, lanczos3, area };
 inline constexpr float kCubicB = 0, kCubicC = 0.5f;
 
 struct Scaling {

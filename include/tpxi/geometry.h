@@ -401,6 +401,92 @@ TPX_API TpxStatus tpxiResizeLinear_64f_C4R_L(const Tpx64f* pSrc, TpxSizeL srcSte
                                              TpxBorderType border, const Tpx64f* pBorderValue,
                                              const TpxiResizeSpec* pSpec, Tpx8u* pBuffer);
 
+/* ---- Resize: tpxiResizeSuper -----------------------------------------------------------------------------
+ * Computes one tile of the destination as tpxiResizeNearest does: every destination pixel is the mean of the
+ * source pixels that it covers, weighted by how much of each it covers. The source is at least as large as the
+ * destination, each way. Nothing outside the source rectangle that tpxiResizeGetSrcRoi tells is read, and any
+ * tiling gives the same bytes as one call for the whole image. Sums are in single precision: each row along x
+ * from the left, then the rows from the top; their product with the one factor of the plan is converted with
+ * the thread's rounding mode and saturated (32f: stored as it is). Equal sizes copy.
+ *
+ * Statuses, in order: tpxErrNullPointer; tpxWarnNoOperation (a size of exactly 0); tpxErrContext (not a plan of
+ * this width; _L: a plan of 64f); tpxErrSize (below 1); tpxErrStep (a step that is not a whole number of
+ * samples); tpxErrOutOfRange (an offset outside the destination); tpxErrUnsupportedMode (an antialiasing plan);
+ * tpxErrContext (a plan of another kind); tpxWarnValueAdjusted (a tile larger than the plan's destination: the
+ * part that fits is done); tpxOk. */
+TPX_API TpxStatus tpxiResizeSuper_8u_C1R(const Tpx8u* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
+                                         TpxiPoint dstOffset, TpxiSize dstSize, const TpxiResizeSpec* pSpec,
+                                         Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_8u_C3R(const Tpx8u* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
+                                         TpxiPoint dstOffset, TpxiSize dstSize, const TpxiResizeSpec* pSpec,
+                                         Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_8u_C4R(const Tpx8u* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
+                                         TpxiPoint dstOffset, TpxiSize dstSize, const TpxiResizeSpec* pSpec,
+                                         Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_16u_C1R(const Tpx16u* pSrc, int srcStep, Tpx16u* pDst, int dstStep,
+                                          TpxiPoint dstOffset, TpxiSize dstSize, const TpxiResizeSpec* pSpec,
+                                          Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_16u_C3R(const Tpx16u* pSrc, int srcStep, Tpx16u* pDst, int dstStep,
+                                          TpxiPoint dstOffset, TpxiSize dstSize, const TpxiResizeSpec* pSpec,
+                                          Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_16u_C4R(const Tpx16u* pSrc, int srcStep, Tpx16u* pDst, int dstStep,
+                                          TpxiPoint dstOffset, TpxiSize dstSize, const TpxiResizeSpec* pSpec,
+                                          Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_16s_C1R(const Tpx16s* pSrc, int srcStep, Tpx16s* pDst, int dstStep,
+                                          TpxiPoint dstOffset, TpxiSize dstSize, const TpxiResizeSpec* pSpec,
+                                          Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_16s_C3R(const Tpx16s* pSrc, int srcStep, Tpx16s* pDst, int dstStep,
+                                          TpxiPoint dstOffset, TpxiSize dstSize, const TpxiResizeSpec* pSpec,
+                                          Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_16s_C4R(const Tpx16s* pSrc, int srcStep, Tpx16s* pDst, int dstStep,
+                                          TpxiPoint dstOffset, TpxiSize dstSize, const TpxiResizeSpec* pSpec,
+                                          Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_32f_C1R(const Tpx32f* pSrc, int srcStep, Tpx32f* pDst, int dstStep,
+                                          TpxiPoint dstOffset, TpxiSize dstSize, const TpxiResizeSpec* pSpec,
+                                          Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_32f_C3R(const Tpx32f* pSrc, int srcStep, Tpx32f* pDst, int dstStep,
+                                          TpxiPoint dstOffset, TpxiSize dstSize, const TpxiResizeSpec* pSpec,
+                                          Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_32f_C4R(const Tpx32f* pSrc, int srcStep, Tpx32f* pDst, int dstStep,
+                                          TpxiPoint dstOffset, TpxiSize dstSize, const TpxiResizeSpec* pSpec,
+                                          Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_8u_C1R_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pDst, TpxSizeL dstStep,
+                                           TpxiPointL dstOffset, TpxiSizeL dstSize, const TpxiResizeSpec* pSpec,
+                                           Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_8u_C3R_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pDst, TpxSizeL dstStep,
+                                           TpxiPointL dstOffset, TpxiSizeL dstSize, const TpxiResizeSpec* pSpec,
+                                           Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_8u_C4R_L(const Tpx8u* pSrc, TpxSizeL srcStep, Tpx8u* pDst, TpxSizeL dstStep,
+                                           TpxiPointL dstOffset, TpxiSizeL dstSize, const TpxiResizeSpec* pSpec,
+                                           Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_16u_C1R_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pDst,
+                                            TpxSizeL dstStep, TpxiPointL dstOffset, TpxiSizeL dstSize,
+                                            const TpxiResizeSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_16u_C3R_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pDst,
+                                            TpxSizeL dstStep, TpxiPointL dstOffset, TpxiSizeL dstSize,
+                                            const TpxiResizeSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_16u_C4R_L(const Tpx16u* pSrc, TpxSizeL srcStep, Tpx16u* pDst,
+                                            TpxSizeL dstStep, TpxiPointL dstOffset, TpxiSizeL dstSize,
+                                            const TpxiResizeSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_16s_C1R_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pDst,
+                                            TpxSizeL dstStep, TpxiPointL dstOffset, TpxiSizeL dstSize,
+                                            const TpxiResizeSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_16s_C3R_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pDst,
+                                            TpxSizeL dstStep, TpxiPointL dstOffset, TpxiSizeL dstSize,
+                                            const TpxiResizeSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_16s_C4R_L(const Tpx16s* pSrc, TpxSizeL srcStep, Tpx16s* pDst,
+                                            TpxSizeL dstStep, TpxiPointL dstOffset, TpxiSizeL dstSize,
+                                            const TpxiResizeSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_32f_C1R_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pDst,
+                                            TpxSizeL dstStep, TpxiPointL dstOffset, TpxiSizeL dstSize,
+                                            const TpxiResizeSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_32f_C3R_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pDst,
+                                            TpxSizeL dstStep, TpxiPointL dstOffset, TpxiSizeL dstSize,
+                                            const TpxiResizeSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiResizeSuper_32f_C4R_L(const Tpx32f* pSrc, TpxSizeL srcStep, Tpx32f* pDst,
+                                            TpxSizeL dstStep, TpxiPointL dstOffset, TpxiSizeL dstSize,
+                                            const TpxiResizeSpec* pSpec, Tpx8u* pBuffer);
+
 TPX_EXTERN_C_END
 
 #endif

@@ -1,0 +1,249 @@
+// Super-sampling in single precision, for every type and ratio.
+//
+// The order of summation: each source row is weighted and summed along x from the left, then the sums of its
+// rows are weighted and summed from the top; the first product begins a sum. The order is the same for every
+// pixel, wherever its tile begins, so any tiling gives the same bytes. Whatever is faster has to give what this
+// order gives.
+#pragma once
+
+#include "frame/runs/runs.h"
+#include "frame/simd/rounding.h"
+#include "geometry/resize/super_runs.h"
+
+namespace tpx {
+
+// The weighted sum of a run. edge(e, k) is the product of tap k and its weight, 0 where that is 0; taps between
+// the first and the last but one are covered whole.
+template <class Tap, class Edge>
+inline auto sumOfRun(int64_t taps, Tap tap, Edge edge) {
+    auto sum = edge(0, 0);
+    for (int64_t k = 1; k < taps - 2; k++) sum += tap(k);
+    if (taps > 2) sum += edge(1, taps - 2);
+    return sum += edge(2, taps - 1);
+}
+
+// ---- Eight samples of one channel at positions ---------------------------------------------------------
+
+template <class T>
+inline V32f gatherEight(const T* p, const Tpx32s* at) {
+    const auto sample = [=](int k) { return peek(p + at[k]); };
+    if constexpr (std::is_same_v<T, Tpx32f>) {
+        return V32f{sample(0), sample(1), sample(2), sample(3), sample(4), sample(5), sample(6), sample(7)};
+    } else {
+        const auto piece = [=](int k) { return Tpx16s(sample(k)); };
+        using Lanes = Vec<std::conditional_t<std::is_signed_v<T>, Tpx16s, Tpx16u>>;
+        const auto wide = widen(bitsAs<Lanes>(
+            fromPieces(piece(0), piece(1), piece(2), piece(3), piece(4), piece(5), piece(6), piece(7))));
+        return toFloat(Pair<V32s>{V32s(wide.low), V32s(wide.high)});
+    }
+}
+
+// Integers: four neighbouring positions whose samples lie within 16 bytes are a load and a shuffle, prepared
+// once for all rows. Every tap uses it, at an address further on.
+template <class T>
+struct EightByWindows {
+    static constexpr int kSpan = 16 / sizeof(T);
+
+    static bool fits(const Tpx32s* at) { return at[3] - at[0] < kSpan && at[7] - at[4] < kSpan; }
+    // 32 bytes. Signed samples go to the upper halves of their lanes.
+    static void prepare(const Tpx32s* at, Tpx8u* shuffle) {
+        constexpr int kPlace = std::is_signed_v<T> ? 2 : 0;
+        __builtin_memset(shuffle, 0x80, 32);
+        for (int k = 0; k < 8; k++, shuffle += 4)
+            for (int b = 0; b < int(sizeof(T)); b++)
+                shuffle[kPlace + b] = Tpx8u((at[k] - at[k & 4]) * int(sizeof(T)) + b);
+    }
+    static V32f load(const T* p, const Tpx32s* at, const Tpx8u* shuffle) {
+        const auto four = [](const T* from, const Tpx8u* control) {
+            const auto lanes = bitsAs<V32s>(shuffleBytes(bitsAs<V8u>(tpx::load(from)), tpx::load(control)));
+            return std::is_signed_v<T> ? V32s(lanes >> 16) : lanes;
+        };
+        return toFloat(Pair<V32s>{four(p + at[0], shuffle), four(p + at[4], shuffle + 16)});
+    }
+};
+
+// ---- A band of a row --------------------------------------------------------------------------------------
+
+// Sums source rows along x, for a band of neighbouring positions whose tables and sums stay in the first-level
+// cache.
+template <class T, int N>
+class SuperRow {
+    static constexpr int kLongest = 512; // samples
+    static constexpr bool kWindows = N == 1 && sizeof(T) < 4;
+
+ public:
+    static constexpr int kPositions = kLongest / N;
+    // Floats of a row of sums: whole registers are read of it, and pixels of three are written as four.
+    static constexpr int kRow = kLongest + 16;
+
+    // `last` is the last source column that the tile may read.
+    SuperRow(const TpxiResizeAxis& axis, int64_t x, int64_t width, int64_t last)
+        : width_(width), whole_(axis.dstRatio == 1) {
+        Runs runs(axis, x);
+        taps_ = runs.taps;
+        first_ = runs.first();
+        int64_t inside = 0; // positions all of whose taps, or pixels loaded as four samples, are
+        for (int64_t j = 0; j < width; j++, runs.next()) {
+            at_[j] = Tpx32s(runs.first() - first_);
+            edges_[0][j] = runs.weight(0);
+            edges_[1][j] = taps_ > 2 ? runs.weight(taps_ - 2) : 0;
+            edges_[2][j] = runs.weight(taps_ - 1);
+            const bool isInside = N == 1   ? runs.first() + taps_ - 1 <= last
+                                  : N == 3 ? runs.last() < last
+                                           : true;
+            if (isInside) inside = j + 1;
+        }
+        vectors_ = N == 1 ? inside / 8 * 8 : inside;
+        if constexpr (kWindows) {
+            using Eight = EightByWindows<T>;
+            const int64_t end = last - first_ + 1;
+            for (; windows_ < vectors_; windows_ += 8) {
+                const Tpx32s* const at = at_ + windows_;
+                if (!Eight::fits(at) || at[4] + taps_ - 1 + Eight::kSpan > end) break;
+                Eight::prepare(at, shuffles_ + 4 * windows_);
+            }
+        }
+    }
+
+    // The source column at which a row is given.
+    int64_t first() const { return first_; }
+
+    void operator()(const T* src, Tpx32f* out) const {
+        if (taps_ == 1)
+            convert(src, out);
+        else if (whole_)
+            sum<true>(src, out);
+        else
+            sum<false>(src, out);
+    }
+
+ private:
+    void convert(const T* src, Tpx32f* out) const {
+        constexpr int L = kLanes<Tpx32f>;
+        int64_t i = 0;
+        for (; i + L <= width_ * N; i += L) {
+            if constexpr (std::is_same_v<T, Tpx32f>)
+                store(out + i, load(src + i));
+            else
+                store(out + i, loadAs<Tpx32f>(src + i));
+        }
+        for (; i < width_ * N; i++) out[i] = Tpx32f(peek(src + i));
+    }
+
+    // Whole: all weights are 1.
+    template <bool Whole>
+    void sum(const T* src, Tpx32f* out) const {
+        const int64_t taps = taps_, windows = windows_, vectors = vectors_, width = width_;
+        int64_t j = 0;
+        if constexpr (N == 1) {
+            const auto eight = [&](auto tap) {
+                store(out + j, sumOfRun(taps, tap, [&](int e, int64_t k) {
+                          if constexpr (Whole) return tap(k);
+                          const V32f weight = load(edges_[e] + j), product = weight * tap(k);
+                          return std::is_same_v<T, Tpx32f> ? masked(weight != V32f{}, product) : product;
+                      }));
+            };
+            if constexpr (kWindows)
+                for (; j < windows; j += 8)
+                    eight([&](int64_t k) {
+                        return EightByWindows<T>::load(src + k, at_ + j, shuffles_ + 4 * j);
+                    });
+            for (; j < vectors; j += 8) eight([&](int64_t k) { return gatherEight(src + k, at_ + j); });
+        } else {
+            for (; j < vectors; j++) {
+                const T* const pixel = src + int64_t(at_[j]) * N;
+                const auto tap = [&](int64_t k) { return loadFour(pixel + k * N); };
+                storeFour(out + j * N, sumOfRun(taps, tap, [&](int e, int64_t k) {
+                              if constexpr (Whole) return tap(k);
+                              const Tpx32f w = edges_[e][j];
+                              return w != 0 ? Four<float>{w, w, w, w} * tap(k) : Four<float>{};
+                          }));
+            }
+        }
+        for (; j < width; j++)
+            for (int c = 0; c < N; c++) {
+                const T* const sample = src + int64_t(at_[j]) * N + c;
+                const auto tap = [&](int64_t k) { return Tpx32f(peek(sample + k * N)); };
+                out[j * N + c] = sumOfRun(taps, tap, [&](int e, int64_t k) {
+                    const Tpx32f weight = edges_[e][j];
+                    return weight != 0 ? weight * tap(k) : 0;
+                });
+            }
+    }
+
+    int64_t width_, first_, taps_;
+    bool whole_;
+    int64_t windows_ = 0, vectors_; // positions before which windows, and then other registers, serve
+    Tpx32s at_[kPositions];         // columns from the first one
+    Tpx32f edges_[3][kPositions];
+    Tpx8u shuffles_[kWindows ? 4 * kPositions : 1];
+};
+
+// ---- Rows, and the tile ---------------------------------------------------------------------------------
+
+// sum (+)= weight * row, in whole registers.
+inline void accumulate(const Tpx32f* row, Tpx32f weight, bool begins, Tpx32f* sum, int64_t count) {
+    const V32f w = splat<V32f>(weight);
+    const auto each = [=](auto rule) {
+        for (int64_t i = 0; i < count; i += kLanes<Tpx32f>) store(sum + i, rule(load(row + i), load(sum + i)));
+    };
+    if (begins && weight == 1)
+        each([](V32f x, V32f) { return x; });
+    else if (begins)
+        each([=](V32f x, V32f) { return x * w; });
+    else if (weight == 1)
+        each([](V32f x, V32f s) { return s + x; });
+    else
+        each([=](V32f x, V32f s) { return s + x * w; });
+}
+
+template <class T>
+inline void storeMeans(const Tpx32f* sum, Tpx32f factor, T* dst, int64_t count) {
+    constexpr int L = kLanes<T>, kParts = L / kLanes<Tpx32f>;
+    const V32f f = splat<V32f>(factor);
+    for (int64_t i = 0; i < count; i += L) {
+        Vec<T> means;
+        if constexpr (std::is_same_v<T, Tpx32f>) {
+            means = load(sum + i) * f;
+        } else {
+            Several<V32f, kParts> parts;
+            for (int k = 0; k < kParts; k++) parts.at[k] = load(sum + i + k * kLanes<Tpx32f>) * f;
+            means = toSamples<T, Rounding::OfThread>(parts);
+        }
+        if (i + L <= count)
+            store(dst + i, means);
+        else
+            copyShort(dst + i, &means, (count - i) * int64_t(sizeof(T)));
+    }
+}
+
+template <class T, int N>
+void averageByFloats(const Tile<T>& tile) {
+    using Row = SuperRow<T, N>;
+    const Tpx32f factor = superFactor(tile.plan);
+    const int64_t last = Runs(tile.plan.axisX, tile.x + tile.width - 1).last();
+    alignas(32) Tpx32f row[Row::kRow] = {}, sum[Row::kRow] = {};
+    for (int64_t x = 0; x < tile.width; x += Row::kPositions) {
+        const int64_t width = minOf<int64_t>(tile.width - x, Row::kPositions);
+        const Row sumRow(tile.plan.axisX, tile.x + x, width, last);
+        const ImageView<const T> src = tile.src.from(sumRow.first() * N, 0);
+        const ImageView<T> dst = tile.dst.from(x * N, 0);
+        int64_t held = -1; // the source row whose sums are there; two destination rows may share one
+        Runs runs(tile.plan.axisY, tile.y);
+        for (int64_t i = 0; i < tile.height; i++, runs.next()) {
+            bool begins = true;
+            for (int64_t k = 0; k < runs.taps; k++) {
+                const Tpx32f weight = runs.weight(k);
+                if (weight == 0) continue;
+                const int64_t y = runs.first() + k;
+                if (y != held) sumRow(src.row(y), row);
+                held = y;
+                accumulate(row, weight, begins, sum, width * N);
+                begins = false;
+            }
+            storeMeans(sum, factor, dst.row(i), width * N);
+        }
+    }
+}
+
+} // namespace tpx
