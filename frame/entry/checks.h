@@ -40,6 +40,7 @@ template <class T>
 inline constexpr TpxDataType kDataType = std::is_same_v<T, Tpx8u>    ? tpxDataType8u
                                          : std::is_same_v<T, Tpx16u> ? tpxDataType16u
                                          : std::is_same_v<T, Tpx16s> ? tpxDataType16s
+                                         : std::is_same_v<T, Tpx64f> ? tpxDataType64f
                                                                      : tpxDataType32f;
 
 // ---- One length inside: entries widen what the short forms are given -------------------------------------

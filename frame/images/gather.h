@@ -74,13 +74,22 @@ inline Pair<RealVec<T>> loadPairs(At at) {
     }
 }
 
+// Four neighbours at either of two addresses, as floats.
+template <class T>
+inline V32f loadFoursAt(const T* low, const T* high) {
+    if constexpr (std::is_same_v<T, Tpx32f>)
+        return loadFours(low, high);
+    else
+        return toFloat({loadAs<Tpx32s>(low), loadAs<Tpx32s>(high)});
+}
+
 // Likewise for four neighbours: the first samples of all lanes, the second ones, and so on.
 template <class At, class T = SampleAt<At>>
 inline Several<RealVec<T>, 4> loadQuads(At at) {
     if constexpr (sizeof(T) == 8) {
         return transpose(Several<V64f, 4>{{load(at(0)), load(at(1)), load(at(2)), load(at(3))}});
     } else {
-        const auto two = [&](int k) { return joinHalves<V32f>(loadFour(at(k)), loadFour(at(k + 4))); };
+        const auto two = [&](int k) { return loadFoursAt(at(k), at(k + 4)); };
         return transpose(Several<V32f, 4>{{two(0), two(1), two(2), two(3)}});
     }
 }
@@ -99,6 +108,14 @@ inline Several<Four<RealOf<T>>, Count> loadPixels(const T* p) {
     else // ends with the pixel
         pixels.at[Count - 1] = upperThree(loadFour(last - 1));
     return pixels;
+}
+
+// Two neighbouring pixels as floats, one in either half. Of three samples, the first one's fourth lane is some
+// sample, and so is the second one's first; upperThree brings its samples to the front.
+template <int N, class T>
+inline V32f loadTwoPixels(const T* p) {
+    static_assert(N == 3 || N == 4);
+    return loadFoursAt(p, p + (N == 4 ? 4 : 2));
 }
 
 // ---- Bytes, as pairs of neighbours for products of bytes -------------------------------------------------

@@ -29,6 +29,16 @@ inline Four<float> loadFour(const T* p) {
 inline void storeFour(float* p, Four<float> a) { __builtin_memcpy(p, &a, sizeof a); }
 inline void storeFour(double* p, Four<double> a) { store(p, a); }
 
+// One value in all four.
+template <class T>
+inline Four<T> fourTimes(T value) {
+    return Four<T>{value, value, value, value};
+}
+
+// The halves of a register of floats.
+inline Four<float> lowHalf(V32f a) { return Four<float>(_mm256_castps256_ps128(a)); }
+inline Four<float> highHalf(V32f a) { return Four<float>(_mm256_extractf128_ps(a, 1)); }
+
 // Lane K in all four.
 template <int K, class V>
 inline V broadcastLane(V a) {
@@ -42,8 +52,9 @@ inline V upperThree(V a) {
     return V(__builtin_shufflevector(a, a, 1, 2, 3, 3));
 }
 
-// As toInteger.
+// As toInteger, and as minOf.
 inline V32s toInteger(Four<float> a) { return V32s(_mm_cvtps_epi32(__m128(a))); }
+inline Four<float> minOf(Four<float> a, Four<float> b) { return Four<float>(_mm_min_ps(__m128(a), __m128(b))); }
 
 // Four floats in both halves of a register; four from either of two addresses.
 inline V32f loadFourTwice(const float* p) {
