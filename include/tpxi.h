@@ -34,5 +34,6 @@
 #include "tpxi/statistics.h"
 #include "tpxi/threshold.h"
 #include "tpxi/transforms.h"
+#include "tpxi/warp.h"
 
 #endif
