@@ -20,5 +20,6 @@ void addMedians();
 void addGeneralFilters();
 void addResizes();
 void addSuperResizes();
+void addWarps();
 
 } // namespace bench

@@ -121,6 +121,7 @@ int run(int argc, char** argv) {
     addGeneralFilters();
     addResizes();
     addSuperResizes();
+    addWarps();
     Progress progress;
     benchmark::RunSpecifiedBenchmarks(&progress);
     benchmark::Shutdown();

@@ -1,0 +1,113 @@
+#include "../families.h"
+#include "../frame/image.h"
+#include "../frame/pointwise.h"
+#include "models/warp.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace bench {
+namespace {
+
+template <typename T>
+using Warp = TpxStatus (*)(const T*, int, T*, int, TpxiPoint, TpxiSize, const TpxiWarpSpec*, Tpx8u*);
+
+template <typename T>
+constexpr TpxDataType kType = std::is_same_v<T, Tpx8u>    ? tpxDataType8u
+                              : std::is_same_v<T, Tpx16u> ? tpxDataType16u
+                              : std::is_same_v<T, Tpx32f> ? tpxDataType32f
+                                                          : tpxDataType64f;
+
+// A picture turned about its middle, from the destination to the source.
+tpx::model::AffineWarp rotation(TpxiSize size, double degrees, TpxInterpolationType interpolation) {
+    const double a = degrees * std::numbers::pi / 180;
+    const double c = std::cos(a);
+    const double s = std::sin(a);
+    const double x = (size.width - 1) / 2.0;
+    const double y = (size.height - 1) / 2.0;
+    return {{{c, -s, x - c * x + s * y}, {s, c, y - s * x - c * y}},
+            size,
+            interpolation,
+            0,
+            0.5,
+            tpxBorderTransparent,
+            {}};
+}
+
+std::vector<Tpx8u> planOf(const tpx::model::AffineWarp& warp, TpxDataType type, int channels) {
+    int bytes = 0;
+    int initBytes = 0;
+    check(tpxiWarpAffineGetSize(warp.src, warp.src, type, warp.toSource, warp.interpolation, 1, warp.border,
+                                &bytes, &initBytes));
+    std::vector<Tpx8u> plan(bytes);
+    std::vector<Tpx8u> init(initBytes);
+    auto* spec = reinterpret_cast<TpxiWarpSpec*>(plan.data());
+    if (warp.interpolation == tpxInterpolationCubic)
+        check(tpxiWarpAffineCubicInit(warp.src, warp.src, type, warp.toSource, 1, channels, warp.B, warp.C,
+                                      warp.border, nullptr, 0, spec, init.data()));
+    else
+        check((warp.interpolation == tpxInterpolationLinear ? tpxiWarpAffineLinearInit
+                                                            : tpxiWarpAffineNearestInit)(
+            warp.src, warp.src, type, warp.toSource, 1, channels, warp.border, nullptr, 0, spec));
+    return plan;
+}
+
+template <typename T>
+void addWarp(const char* name, Warp<T> function, TpxInterpolationType interpolation, int channels,
+             double degrees) {
+    for (const TpxiSize size : {TpxiSize{640, 480}, TpxiSize{1920, 1080}}) {
+        const double samples = static_cast<double>(size.width) * size.height * channels;
+        const std::string angle = std::to_string(static_cast<int>(degrees)) + " degrees";
+        addJob({"Warp", std::string(name) + ", " + angle, text(size), samples, samples * sizeof(T) * 2}, [=] {
+            const auto warp = rotation(size, degrees, interpolation);
+            const auto plan = std::make_shared<std::vector<Tpx8u>>(planOf(warp, kType<T>, channels));
+            const auto src =
+                std::make_shared<Image<T>>(size, channels, 0, std::is_integral_v<T> ? T(-1) : T(1));
+            const auto dst = std::make_shared<Image<T>>(size, channels);
+            const auto ours = [=] {
+                Tpx8u buffer[64];
+                return function(src->data(), src->step(), dst->data(), dst->step(), {0, 0}, size,
+                                reinterpret_cast<const TpxiWarpSpec*>(plan->data()), buffer);
+            };
+            const auto scalar = [=](const Image<T>& to) {
+                constexpr ptrdiff_t kSize = sizeof(T);
+                tpx::model::warpAffine(warp, src->data(), src->step() / kSize, to.data(), to.step() / kSize,
+                                       channels, size);
+            };
+            const Image<T> expected(size, channels);
+            check(ours());
+            scalar(expected);
+            checkSame(*dst, expected,
+                      interpolation == tpxInterpolationNearest ? 0
+                      : std::is_integral_v<T>                  ? 1
+                                                               : 1e-5);
+            return std::vector<Contender>{{kOurs, [=] { ours(); }},
+                                          {kCopy, [=] { copyImage(*src, *dst); }},
+                                          {kScalar, [=] { scalar(*dst); }}};
+        });
+    }
+}
+
+#define WARP(T, kind, types, channels, degrees)                                                           \
+    addWarp<T>("tpxiWarpAffine" #kind "_" #types, tpxiWarpAffine##kind##_##types, tpxInterpolation##kind, \
+               channels, degrees)
+
+} // namespace
+
+void addWarps() {
+    WARP(Tpx8u, Nearest, 8u_C1R, 1, 15);
+    WARP(Tpx8u, Nearest, 8u_C3R, 3, 15);
+    WARP(Tpx8u, Linear, 8u_C1R, 1, 15);
+    WARP(Tpx8u, Linear, 8u_C3R, 3, 15);
+    WARP(Tpx8u, Linear, 8u_C4R, 4, 15);
+    WARP(Tpx16u, Linear, 16u_C1R, 1, 15);
+    WARP(Tpx32f, Linear, 32f_C1R, 1, 15);
+    WARP(Tpx64f, Linear, 64f_C1R, 1, 15);
+    WARP(Tpx8u, Cubic, 8u_C1R, 1, 15);
+    WARP(Tpx8u, Cubic, 8u_C3R, 3, 15);
+    WARP(Tpx32f, Cubic, 32f_C1R, 1, 15);
+    WARP(Tpx8u, Nearest, 8u_C1R, 1, 90);
+    WARP(Tpx8u, Linear, 8u_C3R, 3, 90);
+}
+
+} // namespace bench
