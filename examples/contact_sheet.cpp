@@ -15,7 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // Four pixels leave two of them at half size, the least that linear resize takes.
-constexpr SizeLimits kLimits = {.minSide = 4, .maxSide = 32768, .maxPixels = 1LL << 25};
+constexpr SizeLimits kLimits = {.minSide = 6, .maxSide = 32768, .maxPixels = 1LL << 25};
 
 constexpr char kUsage[] =
     "usage: contact_sheet [-f|--force] [INPUT.png [OUTPUT.png]]\n"

@@ -50,8 +50,10 @@ if(CASE STREQUAL "shipped_photograph")
     expectFiles(contact_sheet.png)
     foreach(line IN ITEMS
             "tpxiResizeLinear_8u_C3R +600 x 400 +900 x 600 +2" "tpxiResizeLinear_8u_C3R +600 x 400 +300 x 400 +2"
-            "tpxiResizeLinear_8u_C3R +600 x 400 +300 x 200 +2" "tpxiResizeNearest_8u_C3R +600 x 400 +300 x 200 +2"
             "tpxiResizeNearest_8u_C3R +50 x 33 +300 x 198 +2" "tpxiResizeLinear_8u_C3R +50 x 33 +300 x 198 +2"
+            "tpxiResizeCubic_8u_C3R +50 x 33 +300 x 198 +2" "tpxiResizeLanczos_8u_C3R +50 x 33 +300 x 198 +2"
+            "tpxiResizeSuper_8u_C3R +1200 x 800 +300 x 200 +2"
+            "tpxiResizeAntialiasing_8u_C3R +1200 x 800 +300 x 200 +2"
             "tpxiSqr_8u_C3RSfs +600 x 400 +600 x 400 +1" "tpxiSqrt_8u_C3RSfs +600 x 400 +600 x 400 +1"
             "tpxiLn_8u_C3RSfs +600 x 400 +600 x 400 +1" "tpxiExp_32f_C3R +600 x 400 +600 x 400 +1")
         if(NOT out MATCHES "${line} +[0-9]+\\.[0-9]+\n")
@@ -102,7 +104,7 @@ elseif(CASE STREQUAL "bad_size")
     writeHeader(huge.png "\\0\\0\\234\\100\\0\\0\\234\\100" "\\336\\156\\231\\122")
     writeHeader(many.png "\\0\\0\\200\\0\\0\\0\\004\\001" "\\374\\033\\051\\154")
     expect(1 "zero.png: Invalid IHDR data" zero.png out.png)
-    expect(1 "tiny.png: the image is 3 x 5, the least is 4 x 4" tiny.png out.png)
+    expect(1 "tiny.png: the image is 3 x 5, the least is 6 x 6" tiny.png out.png)
     expect(1 "huge.png: the image is 40000 x 40000, the most is 32768 on a side" huge.png out.png)
     expect(1 "many.png: the image is 32768 x 1025, the most is" many.png out.png)
     expectFiles(huge.png many.png tiny.png zero.png)
