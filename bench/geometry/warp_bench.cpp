@@ -18,11 +18,12 @@ constexpr TpxDataType kType = std::is_same_v<T, Tpx8u>    ? tpxDataType8u
                               : std::is_same_v<T, Tpx32f> ? tpxDataType32f
                                                           : tpxDataType64f;
 
-// A picture turned about its middle, from the destination to the source.
+// A picture turned about its middle, from the destination to the source. Quarter turns are exact: positions on
+// the image's edge would else be inside or outside by their rounding.
 tpx::model::AffineWarp rotation(TpxiSize size, double degrees, TpxInterpolationType interpolation) {
     const double a = degrees * std::numbers::pi / 180;
-    const double c = std::cos(a);
-    const double s = std::sin(a);
+    const double c = degrees == 90 ? 0 : std::cos(a);
+    const double s = degrees == 90 ? 1 : std::sin(a);
     const double x = (size.width - 1) / 2.0;
     const double y = (size.height - 1) / 2.0;
     return {{{c, -s, x - c * x + s * y}, {s, c, y - s * x - c * y}},
