@@ -35,7 +35,7 @@ inline int64_t firstWhere(Span span, double guess, Holds holds) {
     for (int64_t step = 1; yes - no > 1; step *= 2) {
         const bool held = holds(at);
         (held ? yes : no) = at;
-        if (held ? no >= span.begin : yes < span.end) break; // found on both sides
+        if (held ? no >= span.begin : yes < span.end) break; // halving is faster from here on
         at = held ? maxOf(at - step, no + 1) : minOf(at + step, yes - 1);
     }
     while (yes - no > 1) {
