@@ -50,15 +50,16 @@ void interpolateLinear(const Taps<RealOf<T>>& taps, Tpx8u* dst, int count) {
     }
 }
 
-// Of smooth edges.
+// Of smooth edges. Shares of nearest are in single precision, whatever the samples.
 template <class T, int N, class Real>
 void mixPixels(const Tpx8u* src, const Real* share, Tpx8u* dst, int count) {
+    using Mixed = RealOf<T>;
     for (int i = 0; i < count; i++)
         for (int c = 0; c < N; c++) {
             const int at = i * N + c;
             T* const to = reinterpret_cast<T*>(dst) + at;
-            const Real s = Real(peek(reinterpret_cast<const T*>(src) + at)), d = Real(peek(to));
-            const Real mixed = d + (s - d) * share[i];
+            const Mixed s = Mixed(peek(reinterpret_cast<const T*>(src) + at)), d = Mixed(peek(to));
+            const Mixed mixed = d + (s - d) * Mixed(share[i]);
             if constexpr (std::is_floating_point_v<T>)
                 poke(to, T(mixed));
             else

@@ -497,6 +497,21 @@ TYPED_TEST(WarpAffine, SmoothEdgesFadeWithinAPixel) {
         }
 }
 
+// Where the old value is the new one, nothing changes to the last bit of the type.
+TYPED_TEST(WarpAffine, SmoothEdgesKeepTheTypesPrecision) {
+    using T = typename TypeParam::T;
+    Job job{{6, 5}, {12, 11}, {{{1, 0, -2.25}, {0, 1, -3.5}}}, 1, tpxInterpolationNearest, tpxBorderTransparent,
+            3};
+    job.smoothEdge = 1;
+    const Plan<TypeParam> plan(job);
+    GuardedImage<T> src(6, 5, 3), dst(12, 11, 3);
+    const auto value = [](int, int, int) { return T(100 / 3.0); };
+    src.fill(value);
+    dst.fill(value);
+    ASSERT_EQ(tpxOk, plan.run(src, dst));
+    EXPECT_TRUE(matches(dst, value));
+}
+
 // ---- Sizes -----------------------------------------------------------------------------------------------
 
 struct SizeCase {
