@@ -216,18 +216,12 @@ TpxStatus resizeLinear(const TileCall<T>& call, TpxBorderType word) {
 
 // ---- Entries ---------------------------------------------------------------------------------------------
 
-#define TPX_RESIZE_LINEAR(T, L, R, Step, Point, Size)                                             \
-    TPX_ENTRY(tpxiResizeLinear_##T##_##L##R)                                                      \
-    (const Tpx##T* pSrc, Step srcStep, Tpx##T* pDst, Step dstStep, Point dstOffset, Size dstSize, \
-     TpxBorderType border, const Tpx##T*, const TpxiResizeSpec* pSpec, Tpx8u* pBuffer) {          \
-        return tpx::resizeLinear<tpx::Layout::L, Tpx##T>({tpx::kFormOf<Size>,                     \
-                                                          {pSrc, srcStep},                        \
-                                                          {pDst, dstStep},                        \
-                                                          tpx::wide(dstOffset),                   \
-                                                          tpx::wide(dstSize),                     \
-                                                          pSpec,                                  \
-                                                          pBuffer},                               \
-                                                         border);                                 \
+#define TPX_RESIZE_LINEAR(T, L, R, Step, Point, Size)                                                 \
+    TPX_ENTRY(tpxiResizeLinear_##T##_##L##R)                                                          \
+    (const Tpx##T* pSrc, Step srcStep, Tpx##T* pDst, Step dstStep, Point dstOffset, Size dstSize,     \
+     TpxBorderType border, const Tpx##T*, const TpxiResizeSpec* pSpec, Tpx8u* pBuffer) {              \
+        return tpx::resizeLinear<tpx::Layout::L>(                                                     \
+            tpx::tileCall(pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, pSpec, pBuffer), border); \
     }
 #define TPX_RESIZE_LINEAR_LAYOUTS(T)                               \
     TPX_RESIZE_LINEAR(T, C1, R, int, TpxiPoint, TpxiSize)          \

@@ -22,13 +22,8 @@ TpxStatus resizeNearest(const TileCall<T>& call) {
     TPX_ENTRY(tpxiResizeNearest_##T##_##L##R)                                                     \
     (const Tpx##T* pSrc, Step srcStep, Tpx##T* pDst, Step dstStep, Point dstOffset, Size dstSize, \
      const TpxiResizeSpec* pSpec, Tpx8u* pBuffer) {                                               \
-        return tpx::resizeNearest<tpx::Layout::L, Tpx##T>({tpx::kFormOf<Size>,                    \
-                                                           {pSrc, srcStep},                       \
-                                                           {pDst, dstStep},                       \
-                                                           tpx::wide(dstOffset),                  \
-                                                           tpx::wide(dstSize),                    \
-                                                           pSpec,                                 \
-                                                           pBuffer});                             \
+        return tpx::resizeNearest<tpx::Layout::L>(                                                \
+            tpx::tileCall(pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, pSpec, pBuffer));     \
     }
 #define TPX_RESIZE_NEAREST_LAYOUTS(T)                               \
     TPX_RESIZE_NEAREST(T, C1, R, int, TpxiPoint, TpxiSize)          \

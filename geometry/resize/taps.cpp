@@ -67,6 +67,14 @@ void withTaps(int taps, Act act) {
             return act(std::integral_constant<int, 4>());
         case 6:
             return act(std::integral_constant<int, 6>());
+        case 8: // 8 to 14 are those of stretched kernels
+            return act(std::integral_constant<int, 8>());
+        case 10:
+            return act(std::integral_constant<int, 10>());
+        case 12:
+            return act(std::integral_constant<int, 12>());
+        case 14:
+            return act(std::integral_constant<int, 14>());
         default:
             return act(std::integral_constant<int, kAnyTaps>());
     }
@@ -142,18 +150,12 @@ TpxStatus resizeByTaps(const TileCall<T>& call, TpxBorderType word, TpxInterpola
 
 // ---- Entries ---------------------------------------------------------------------------------------------
 
-#define TPX_RESIZE_TAPS(STEM, KIND, T, L, R, Step, Point, Size)                                   \
-    TPX_ENTRY(STEM##_##T##_##L##R)                                                                \
-    (const Tpx##T* pSrc, Step srcStep, Tpx##T* pDst, Step dstStep, Point dstOffset, Size dstSize, \
-     TpxBorderType border, const Tpx##T*, const TpxiResizeSpec* pSpec, Tpx8u* pBuffer) {          \
-        return tpx::resizeByTaps<tpx::Layout::L, Tpx##T>({tpx::kFormOf<Size>,                     \
-                                                          {pSrc, srcStep},                        \
-                                                          {pDst, dstStep},                        \
-                                                          tpx::wide(dstOffset),                   \
-                                                          tpx::wide(dstSize),                     \
-                                                          pSpec,                                  \
-                                                          pBuffer},                               \
-                                                         border, KIND);                           \
+#define TPX_RESIZE_TAPS(STEM, KIND, T, L, R, Step, Point, Size)                                             \
+    TPX_ENTRY(STEM##_##T##_##L##R)                                                                          \
+    (const Tpx##T* pSrc, Step srcStep, Tpx##T* pDst, Step dstStep, Point dstOffset, Size dstSize,           \
+     TpxBorderType border, const Tpx##T*, const TpxiResizeSpec* pSpec, Tpx8u* pBuffer) {                    \
+        return tpx::resizeByTaps<tpx::Layout::L>(                                                           \
+            tpx::tileCall(pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, pSpec, pBuffer), border, KIND); \
     }
 #define TPX_RESIZE_TAPS_LAYOUTS(STEM, KIND, T)                               \
     TPX_RESIZE_TAPS(STEM, KIND, T, C1, R, int, TpxiPoint, TpxiSize)          \

@@ -20,6 +20,13 @@ struct TileCall {
     Tpx8u* buffer;
 };
 
+// That of an entry, whose numbers tell its form by their width.
+template <class T, class Step, class Point, class Size>
+inline TileCall<T> tileCall(const T* src, Step srcStep, T* dst, Step dstStep, Point offset, Size size,
+                            const TpxiResizeSpec* spec, Tpx8u* buffer) {
+    return {kFormOf<Size>, {src, srcStep}, {dst, dstStep}, wide(offset), wide(size), spec, buffer};
+}
+
 // A plan of 64f serves the 64f calls alone. The short calls of the other types have never looked at the type.
 template <class T>
 inline bool isPlanFor(Form form, const TpxiResizeSpec& plan) {

@@ -5,8 +5,8 @@
 #include <limits>
 
 #include "models/super.h"
-#include "tests/support/checks.h"
 #include "tests/support/guarded.h"
+#include "tests/support/resize_faults.h"
 
 namespace {
 
@@ -324,21 +324,9 @@ TYPED_TEST(ResizeSuper, TakesNegativeSteps) {
 
 // ---- Checks -------------------------------------------------------------------------------------------
 
-template <class T>
-struct Args {
-    const T* src;
-    int srcStep;
-    T* dst;
-    int dstStep;
-    TpxiPoint at;
-    TpxiSize size;
-    const TpxiResizeSpec* spec;
-    Tpx8u* buffer;
-};
-
 TYPED_TEST(ResizeSuper, ChecksArgumentsInOrder) {
     using T = typename TypeParam::T;
-    using A = Args<T>;
+    using A = ResizeArgs<T>;
     const TpxiSize size{8, 8};
     const TpxiSizeL sizeL{8, 8};
     GuardedImage<T> src(8, 8, 4), dst(8, 8, 4);
@@ -360,29 +348,11 @@ TYPED_TEST(ResizeSuper, ChecksArgumentsInOrder) {
             tpxiResizeLinearInit_32f(size, size, linear);
             tpxiResizeAntialiasingLinearInit(size, size, antialiasing, init.data());
         }
-        const A good{src.data(), src.step(), dst.data(), dst.step(), {0, 0}, size, plan.spec(), buffer.data()};
-        std::vector<Fault<A>> faults{{"source", [](A& a) { a.src = nullptr; }, tpxErrNullPointer},
-                                     {"destination", [](A& a) { a.dst = nullptr; }, tpxErrNullPointer},
-                                     {"plan", [](A& a) { a.spec = nullptr; }, tpxErrNullPointer},
-                                     {"buffer", [](A& a) { a.buffer = nullptr; }, tpxErrNullPointer},
-                                     {"width", [](A& a) { a.size.width = 0; }, tpxWarnNoOperation},
-                                     {"height", [](A& a) { a.size.height = 0; }, tpxWarnNoOperation},
-                                     {"plan", [&](A& a) { a.spec = otherWidth.spec(); }, tpxErrContext},
-                                     {"width", [](A& a) { a.size.width = -1; }, tpxErrSize},
-                                     {"height", [](A& a) { a.size.height = -7; }, tpxErrSize}};
-        if (longForm)
-            faults.insert(faults.begin() + 6, {"plan", [&](A& a) { a.spec = doubles; }, tpxErrContext});
-        if (sizeof(T) > 1) {
-            faults.push_back({"source step", [](A& a) { a.srcStep++; }, tpxErrStep});
-            faults.push_back({"destination step", [](A& a) { a.dstStep++; }, tpxErrStep});
-        }
-        for (int at : {-1, 8}) {
-            faults.push_back({"x", [=](A& a) { a.at.x = at; }, tpxErrOutOfRange});
-            faults.push_back({"y", [=](A& a) { a.at.y = at; }, tpxErrOutOfRange});
-        }
-        faults.push_back({"plan", [&](A& a) { a.spec = antialiasing; }, tpxErrUnsupportedMode});
-        faults.push_back({"plan", [&](A& a) { a.spec = linear; }, tpxErrContext});
-        expectCheckOrder(good, faults, [&](const A& a) -> TpxStatus {
+        const A good{src.data(), src.step(),         dst.data(),  dst.step(),   {0, 0},
+                     size,       tpxBorderReplicate, plan.spec(), buffer.data()};
+        RefusedPlans refused{{otherWidth.spec()}, antialiasing, linear};
+        if (longForm) refused.ofOtherCalls.push_back(doubles);
+        expectCheckOrder(good, resizeFaults<T>(false, refused, 8), [&](const A& a) -> TpxStatus {
             TpxStatus status = tpxOk;
             for (const int channels : {1, 3, 4}) {
                 const TpxStatus one =

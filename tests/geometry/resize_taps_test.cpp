@@ -4,8 +4,8 @@
 #include <cfenv>
 
 #include "models/resize.h"
-#include "tests/support/checks.h"
 #include "tests/support/guarded.h"
+#include "tests/support/resize_faults.h"
 
 namespace {
 
@@ -424,18 +424,7 @@ TYPED_TEST(ResizeTaps, OvershootSaturatesAndTheThreadsRoundingHolds) {
 
 TYPED_TEST(ResizeTaps, ChecksInOrder) {
     using T = typename TypeParam::T;
-    struct Arguments {
-        const T* src;
-        int srcStep;
-        T* dst;
-        int dstStep;
-        TpxiPoint at;
-        TpxiSize size;
-        TpxBorderType border;
-        const TpxiResizeSpec* spec;
-        Tpx8u* buffer;
-    };
-    using A = Arguments;
+    using A = ResizeArgs<T>;
     const TpxiSize size{8, 8};
     GuardedImage<T> src(8, 8, 1), dst(8, 8, 1);
     src.randomise(1);
@@ -457,32 +446,11 @@ TYPED_TEST(ResizeTaps, ChecksInOrder) {
 
             const A good{src.data(), src.step(),         dst.data(),  dst.step(),   {0, 0},
                          size,       tpxBorderReplicate, plan.spec(), buffer.data()};
-            std::vector<Fault<A>> faults;
-            for (TpxBorderType border : {0x100u, 0x101u, 0u, 6u, 0x10u, 0xF6u, 0xFFFFFFFFu})
-                faults.push_back({"border", [=](A& a) { a.border = border; }, tpxErrBorder});
-            faults.push_back({"source", [](A& a) { a.src = nullptr; }, tpxErrNullPointer});
-            faults.push_back({"destination", [](A& a) { a.dst = nullptr; }, tpxErrNullPointer});
-            faults.push_back({"plan", [](A& a) { a.spec = nullptr; }, tpxErrNullPointer});
-            faults.push_back({"buffer", [](A& a) { a.buffer = nullptr; }, tpxErrNullPointer});
-            faults.push_back({"width", [](A& a) { a.size.width = 0; }, tpxWarnNoOperation});
-            faults.push_back({"height", [](A& a) { a.size.height = 0; }, tpxWarnNoOperation});
-            faults.push_back({"plan", [&](A& a) { a.spec = otherWidth.spec(); }, tpxErrContext});
-            if (longForm) faults.push_back({"plan", [&](A& a) { a.spec = doubles; }, tpxErrContext});
-            faults.push_back({"width", [](A& a) { a.size.width = -1; }, tpxErrSize});
-            faults.push_back({"height", [](A& a) { a.size.height = -7; }, tpxErrSize});
-            if (sizeof(T) > 1) {
-                faults.push_back({"source step", [](A& a) { a.srcStep++; }, tpxErrStep});
-                faults.push_back({"destination step", [](A& a) { a.dstStep++; }, tpxErrStep});
-            }
-            for (int at : {-1, 8}) {
-                faults.push_back({"x", [=](A& a) { a.at.x = at; }, tpxErrOutOfRange});
-                faults.push_back({"y", [=](A& a) { a.at.y = at; }, tpxErrOutOfRange});
-            }
-            faults.push_back({"plan", [&](A& a) { a.spec = otherSharpness.spec(); }, tpxErrUnsupportedMode});
-            if (family != Antialiasing)
-                faults.push_back({"plan", [&](A& a) { a.spec = otherKind.spec(); }, tpxErrContext});
-
-            expectCheckOrder(good, faults, [&](const A& a) -> TpxStatus {
+            RefusedPlans refused{{otherWidth.spec()},
+                                 otherSharpness.spec(),
+                                 family == Antialiasing ? nullptr : otherKind.spec()};
+            if (longForm) refused.ofOtherCalls.push_back(doubles);
+            expectCheckOrder(good, resizeFaults<T>(true, refused, 8), [&](const A& a) -> TpxStatus {
                 TpxStatus status = tpxOk;
                 for (int n = 0; n < 3; n++) {
                     const TpxStatus one =

@@ -4,8 +4,8 @@
 #include <cfenv>
 
 #include "models/resize.h"
-#include "tests/support/checks.h"
 #include "tests/support/guarded.h"
+#include "tests/support/resize_faults.h"
 #include "tests/support/resize_plan.h"
 
 namespace {
@@ -317,23 +317,9 @@ TEST(ResizeLinear, StaysInsidePlansOfOtherTypes) {
 
 // ---- Checks -------------------------------------------------------------------------------------------
 
-template <class T>
-struct Args {
-    const T* src;
-    int srcStep;
-    T* dst;
-    int dstStep;
-    TpxiPoint at;
-    TpxiSize size;
-    TpxBorderType border;
-    const TpxiResizeSpec* spec;
-    Tpx8u* buffer;
-};
-
-// A plan of the other width, of the other kind, and with the mark of antialiasing.
 TYPED_TEST(Resize, ChecksArgumentsInOrder) {
     using T = typename TypeParam::T;
-    using A = Args<T>;
+    using A = ResizeArgs<T>;
     const TpxiSize size{8, 8};
     GuardedImage<T> src(8, 8, 1), dst(8, 8, 1);
     src.randomise(1);
@@ -356,36 +342,14 @@ TYPED_TEST(Resize, ChecksArgumentsInOrder) {
 
             const A good{src.data(), src.step(),         dst.data(),  dst.step(),   {0, 0},
                          size,       tpxBorderReplicate, plan.spec(), buffer.data()};
-            std::vector<Fault<A>> faults;
-            if (linear)
-                for (TpxBorderType border : {0x100u, 0x101u, 0u, 6u, 0x10u, 0xF6u, 0xFFFFFFFFu})
-                    faults.push_back({"border", [=](A& a) { a.border = border; }, tpxErrBorder});
-            faults.push_back({"source", [](A& a) { a.src = nullptr; }, tpxErrNullPointer});
-            faults.push_back({"destination", [](A& a) { a.dst = nullptr; }, tpxErrNullPointer});
-            faults.push_back({"plan", [](A& a) { a.spec = nullptr; }, tpxErrNullPointer});
-            faults.push_back({"buffer", [](A& a) { a.buffer = nullptr; }, tpxErrNullPointer});
-            faults.push_back({"width", [](A& a) { a.size.width = 0; }, tpxWarnNoOperation});
-            faults.push_back({"height", [](A& a) { a.size.height = 0; }, tpxWarnNoOperation});
-            faults.push_back({"plan", [&](A& a) { a.spec = otherWidth.spec(); }, tpxErrContext});
-            if ((sizeof(T) == 8) == false && longForm)
-                faults.push_back({"plan", [&](A& a) { a.spec = doubles.spec(); }, tpxErrContext});
+            // 64f compares the type with the plan's width; the long calls of other types refuse plans of 64f.
+            RefusedPlans refused{{otherWidth.spec()}, antialiased.spec(), nullptr};
             if (sizeof(T) == 8)
-                faults.push_back({"plan", [&](A& a) { a.spec = wrongKind.spec(); }, tpxErrContext});
-            faults.push_back({"width", [](A& a) { a.size.width = -1; }, tpxErrSize});
-            faults.push_back({"height", [](A& a) { a.size.height = -7; }, tpxErrSize});
-            if (sizeof(T) > 1) {
-                faults.push_back({"source step", [](A& a) { a.srcStep++; }, tpxErrStep});
-                faults.push_back({"destination step", [](A& a) { a.dstStep++; }, tpxErrStep});
-            }
-            for (int at : {-1, 8}) {
-                faults.push_back({"x", [=](A& a) { a.at.x = at; }, tpxErrOutOfRange});
-                faults.push_back({"y", [=](A& a) { a.at.y = at; }, tpxErrOutOfRange});
-            }
-            faults.push_back({"plan", [&](A& a) { a.spec = antialiased.spec(); }, tpxErrUnsupportedMode});
-            if (sizeof(T) != 8)
-                faults.push_back({"plan", [&](A& a) { a.spec = wrongKind.spec(); }, tpxErrContext});
-
-            expectCheckOrder(good, faults, [&](const A& a) -> TpxStatus {
+                refused.ofOtherCalls.push_back(wrongKind.spec());
+            else
+                refused.otherKind = wrongKind.spec();
+            if (sizeof(T) != 8 && longForm) refused.ofOtherCalls.push_back(doubles.spec());
+            expectCheckOrder(good, resizeFaults<T>(linear, refused, 8), [&](const A& a) -> TpxStatus {
                 const TpxiPointL at{a.at.x, a.at.y};
                 const TpxiSizeL tile{a.size.width, a.size.height};
                 TpxStatus status = tpxOk;
