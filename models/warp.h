@@ -1,4 +1,4 @@
-// Affine warps of one destination sample at a time, in double precision.
+// Warps of one destination sample at a time, in double precision.
 #pragma once
 
 #include <tpxi.h>
@@ -27,6 +27,8 @@ struct AffineWarp {
         const auto along = [&](const double(&c)[3]) { return c[0] * x + c[1] * y + c[2]; };
         return {along(toSource[0]), along(toSource[1])};
     }
+    // Whether the map has a place for a pixel.
+    bool reaches(int, int) const { return true; }
     bool leaves() const { return border == tpxBorderInMemAll || (border & 15) == tpxBorderTransparent; }
     // Whether a place lies in the image, or as far outside as the slack says.
     bool isMapped(WarpPlace at, double slack = 0) const {
@@ -70,6 +72,20 @@ struct AffineWarp {
     }
 };
 
+// Divisors are positive on the valid side of the horizon.
+struct PerspectiveWarp : AffineWarp {
+    double divisor[3];
+
+    double divisorAt(int x, int y) const { return divisor[0] * x + divisor[1] * y + divisor[2]; }
+    // Pixels beyond the horizon are far outside any image; a constant border is all that is seen there.
+    WarpPlace place(int x, int y) const {
+        const double d = divisorAt(x, y);
+        const WarpPlace at = AffineWarp::place(x, y);
+        return d > 0 ? WarpPlace{at.x / d, at.y / d} : WarpPlace{1e9, 1e9};
+    }
+    bool reaches(int x, int y) const { return divisorAt(x, y) > 0 || (border & 15) == tpxBorderConstant; }
+};
+
 // The sample that a value becomes.
 template <class T>
 T warpSample(double v) {
@@ -81,8 +97,8 @@ T warpSample(double v) {
 }
 
 // A whole destination. Steps are in samples.
-template <typename T>
-void warpAffine(const AffineWarp& warp, const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep,
-                int channels, TpxiSize size);
+template <typename T, typename Warp>
+void warpImage(const Warp& warp, const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, int channels,
+               TpxiSize size);
 
 } // namespace tpx::model

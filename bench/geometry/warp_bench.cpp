@@ -53,27 +53,59 @@ std::vector<Tpx8u> planOf(const tpx::model::AffineWarp& warp, TpxDataType type, 
     return plan;
 }
 
-template <typename T>
+// The same picture, seen at an angle: at the right and at the lower edge it is further away.
+tpx::model::PerspectiveWarp rectification(TpxiSize size, double degrees, TpxInterpolationType interpolation) {
+    tpx::model::PerspectiveWarp warp{rotation(size, degrees, interpolation),
+                                     {0.2 / size.width, 0.1 / size.height, 1}};
+    for (int k = 0; k < 2; k++) warp.toSource[0][k] += warp.divisor[k] * size.width / 10;
+    return warp;
+}
+
+std::vector<Tpx8u> planOf(const tpx::model::PerspectiveWarp& warp, TpxDataType type, int channels) {
+    const TpxiRect all = tpxiWarpGetRectInfinite();
+    Tpx64f coeffs[3][3];
+    for (int k = 0; k < 3; k++)
+        for (int i = 0; i < 3; i++) coeffs[i][k] = i < 2 ? warp.toSource[i][k] : warp.divisor[k];
+    int bytes = 0;
+    int initBytes = 0;
+    check(tpxiWarpPerspectiveGetSize(warp.src, all, warp.src, type, coeffs, warp.interpolation, 1, warp.border,
+                                     &bytes, &initBytes));
+    std::vector<Tpx8u> plan(bytes);
+    std::vector<Tpx8u> init(initBytes);
+    auto* spec = reinterpret_cast<TpxiWarpSpec*>(plan.data());
+    if (warp.interpolation == tpxInterpolationCubic)
+        check(tpxiWarpPerspectiveCubicInit(warp.src, all, warp.src, type, coeffs, 1, channels, warp.B, warp.C,
+                                           warp.border, nullptr, 0, spec, init.data()));
+    else
+        check((warp.interpolation == tpxInterpolationLinear ? tpxiWarpPerspectiveLinearInit
+                                                            : tpxiWarpPerspectiveNearestInit)(
+            warp.src, all, warp.src, type, coeffs, 1, channels, warp.border, nullptr, 0, spec, init.data()));
+    return plan;
+}
+
+template <typename T, typename MakeWarp>
 void addWarp(const char* name, Warp<T> function, TpxInterpolationType interpolation, int channels,
-             double degrees) {
+             double degrees, MakeWarp makeWarp) {
     for (const TpxiSize size : {TpxiSize{640, 480}, TpxiSize{1920, 1080}}) {
         const double samples = static_cast<double>(size.width) * size.height * channels;
         const std::string angle = std::to_string(static_cast<int>(degrees)) + " degrees";
         addJob({"Warp", std::string(name) + ", " + angle, text(size), samples, samples * sizeof(T) * 2}, [=] {
-            const auto warp = rotation(size, degrees, interpolation);
+            const auto warp = makeWarp(size, degrees, interpolation);
             const auto plan = std::make_shared<std::vector<Tpx8u>>(planOf(warp, kType<T>, channels));
+            int bytes = 0;
+            check(tpxiWarpGetBufferSize(reinterpret_cast<const TpxiWarpSpec*>(plan->data()), size, &bytes));
+            const auto buffer = std::make_shared<std::vector<Tpx8u>>(bytes);
             const auto src =
                 std::make_shared<Image<T>>(size, channels, 0, std::is_integral_v<T> ? T(-1) : T(1));
             const auto dst = std::make_shared<Image<T>>(size, channels);
             const auto ours = [=] {
-                Tpx8u buffer[64];
                 return function(src->data(), src->step(), dst->data(), dst->step(), {0, 0}, size,
-                                reinterpret_cast<const TpxiWarpSpec*>(plan->data()), buffer);
+                                reinterpret_cast<const TpxiWarpSpec*>(plan->data()), buffer->data());
             };
             const auto scalar = [=](const Image<T>& to) {
                 constexpr ptrdiff_t kSize = sizeof(T);
-                tpx::model::warpAffine(warp, src->data(), src->step() / kSize, to.data(), to.step() / kSize,
-                                       channels, size);
+                tpx::model::warpImage(warp, src->data(), src->step() / kSize, to.data(), to.step() / kSize,
+                                      channels, size);
             };
             const Image<T> expected(size, channels);
             check(ours());
@@ -89,26 +121,34 @@ void addWarp(const char* name, Warp<T> function, TpxInterpolationType interpolat
     }
 }
 
-#define WARP(T, kind, types, channels, degrees)                                                           \
-    addWarp<T>("tpxiWarpAffine" #kind "_" #types, tpxiWarpAffine##kind##_##types, tpxInterpolation##kind, \
-               channels, degrees)
+#define WARP(T, map, make, kind, types, channels, degrees)                                              \
+    addWarp<T>("tpxiWarp" #map #kind "_" #types, tpxiWarp##map##kind##_##types, tpxInterpolation##kind, \
+               channels, degrees, make)
+#define AFFINE(T, kind, types, channels, degrees) WARP(T, Affine, rotation, kind, types, channels, degrees)
+#define PERSPECTIVE(T, kind, types, channels, degrees) \
+    WARP(T, Perspective, rectification, kind, types, channels, degrees)
 
 } // namespace
 
 void addWarps() {
-    WARP(Tpx8u, Nearest, 8u_C1R, 1, 15);
-    WARP(Tpx8u, Nearest, 8u_C3R, 3, 15);
-    WARP(Tpx8u, Linear, 8u_C1R, 1, 15);
-    WARP(Tpx8u, Linear, 8u_C3R, 3, 15);
-    WARP(Tpx8u, Linear, 8u_C4R, 4, 15);
-    WARP(Tpx16u, Linear, 16u_C1R, 1, 15);
-    WARP(Tpx32f, Linear, 32f_C1R, 1, 15);
-    WARP(Tpx64f, Linear, 64f_C1R, 1, 15);
-    WARP(Tpx8u, Cubic, 8u_C1R, 1, 15);
-    WARP(Tpx8u, Cubic, 8u_C3R, 3, 15);
-    WARP(Tpx32f, Cubic, 32f_C1R, 1, 15);
-    WARP(Tpx8u, Nearest, 8u_C1R, 1, 90);
-    WARP(Tpx8u, Linear, 8u_C3R, 3, 90);
+    AFFINE(Tpx8u, Nearest, 8u_C1R, 1, 15);
+    AFFINE(Tpx8u, Nearest, 8u_C3R, 3, 15);
+    AFFINE(Tpx8u, Linear, 8u_C1R, 1, 15);
+    AFFINE(Tpx8u, Linear, 8u_C3R, 3, 15);
+    AFFINE(Tpx8u, Linear, 8u_C4R, 4, 15);
+    AFFINE(Tpx16u, Linear, 16u_C1R, 1, 15);
+    AFFINE(Tpx32f, Linear, 32f_C1R, 1, 15);
+    AFFINE(Tpx64f, Linear, 64f_C1R, 1, 15);
+    AFFINE(Tpx8u, Cubic, 8u_C1R, 1, 15);
+    AFFINE(Tpx8u, Cubic, 8u_C3R, 3, 15);
+    AFFINE(Tpx32f, Cubic, 32f_C1R, 1, 15);
+    AFFINE(Tpx8u, Nearest, 8u_C1R, 1, 90);
+    AFFINE(Tpx8u, Linear, 8u_C3R, 3, 90);
+    PERSPECTIVE(Tpx8u, Nearest, 8u_C1R, 1, 15);
+    PERSPECTIVE(Tpx8u, Linear, 8u_C1R, 1, 15);
+    PERSPECTIVE(Tpx8u, Linear, 8u_C3R, 3, 15);
+    PERSPECTIVE(Tpx32f, Linear, 32f_C1R, 1, 15);
+    PERSPECTIVE(Tpx8u, Cubic, 8u_C1R, 1, 15);
 }
 
 } // namespace bench

@@ -1,6 +1,6 @@
 // Plans of affine warps: their sizes and their initialisers, and the queries that plans of all warps share.
 #include "frame/entry/entry.h"
-#include "geometry/warp/plan.h"
+#include "geometry/warp/planning.h"
 
 namespace tpx {
 namespace {
@@ -14,6 +14,8 @@ struct Request {
     TpxInterpolationType interpolation;
     int direction;
     TpxBorderType border;
+
+    WarpTask task() const { return {{0, 0, src.width, src.height}, dst, dataType, interpolation, border}; }
 };
 
 constexpr bool isWarpType(TpxDataType type) { return isDataType(type) || type == tpxDataType64f; }
@@ -30,68 +32,13 @@ bool isWholeShift(const AffineMap& map) {
     return c[0][0] == 1 && c[0][1] == 0 && c[1][0] == 0 && c[1][1] == 1 && isWhole(c[0][2]) && isWhole(c[1][2]);
 }
 
-// Both maps, and the corners of the source images whose rows have tables.
-struct Geometry {
-    AffineMap toSource, toDestination;
-    bool isShift, hasOuter;
-    Box inner, outer;
-};
-
-Geometry geometryOf(const Request& request) {
+MapPair<AffineMap> mapsOf(const Request& request) {
     const AffineMap map = mapOf(request), inverse = map.inverse();
-    const BorderWord border = readWarpBorder(request.border);
-    const bool cubic = request.interpolation == tpxInterpolationCubic;
-    const double right = request.src.width - 1, bottom = request.src.height - 1;
-    Geometry g = {request.direction ? map : inverse,
-                  request.direction ? inverse : map,
-                  isWholeShift(map),
-                  false,
-                  {0, 0, right, bottom},
-                  {}};
-    if (cubic) {
-        const bool leaves = leavesOutside(border);
-        g.inner = {double(!(leaves && border.left)), double(!(leaves && border.top)),
-                   right - !(leaves && border.right), bottom - !(leaves && border.bottom)};
-    }
-    const bool anyInMemory = border.left || border.top || border.right || border.bottom;
-    g.hasOuter = cubic ? border.kind != Border::Transparent || anyInMemory : border.kind == Border::Const;
-    const double margin = cubic ? 2 : 1;
-    g.outer = {-margin, -margin, right + margin, bottom + margin};
-    return g;
-}
-
-// Whether the maps can be worked with: in double precision the image is still a quadrangle.
-bool isUsable(const Geometry& g, TpxiSize src) {
-    return g.toSource.isFinite() && g.toDestination.isFinite() &&
-           mapped(g.toDestination, Box{0, 0, double(src.width - 1), double(src.height - 1)}).isWellFormed();
-}
-
-// The rows of the destination that a part of the source meets. Small sources have no inner part.
-Rows rowsOf(const Geometry& g, const Box& box, TpxiSize dst, double slack) {
-    const Quad quad = mapped(g.toDestination, box);
-    return box.left < box.right && box.top < box.bottom && quad.isWellFormed() ? rowsOf(quad, dst, slack)
-                                                                               : Rows{1, 0};
-}
-
-// Takes the places of what follows the record in the block that begins with it. The tables' rows are not set.
-void layOut(TpxiWarpSpec& plan, const Geometry& g, TpxiSize dst, BlockLayout& block) {
-    block.take<Tpx8u>(kPlanBytes);
-    const auto place = [&](uint64_t bytes) { return block.take<Tpx8u>(bytes); };
-    if (g.isShift) plan.shift = reinterpret_cast<WholeShift*>(place(kShiftPlanBytes - kPlanBytes));
-    plan.inner.pairs = reinterpret_cast<Tpx32s*>(place(tableBytes(rowsOf(g, g.inner, dst, 0))));
-    if (g.hasOuter) plan.outer.pairs = reinterpret_cast<Tpx32s*>(place(tableBytes(rowsOf(g, g.outer, dst, 0))));
+    if (request.direction) return {map, inverse};
+    return {inverse, map};
 }
 
 // ---- Sizes -----------------------------------------------------------------------------------------------
-
-// Rows that memory has room for.
-constexpr bool isTooHigh(int height, TpxDataType type) {
-    const int sampleBytes = type == tpxDataType8u    ? 1
-                            : type == tpxDataType32f ? 4
-                            : type == tpxDataType64f ? 8
-                                                     : 2;
-    return height >= 0x40000000 / sampleBytes;
-}
 
 TpxStatus getSize(const Request& request, int* pSpecSize, int* pInitBufSize) {
     const TpxiSize src = request.src, dst = request.dst;
@@ -99,24 +46,13 @@ TpxStatus getSize(const Request& request, int* pSpecSize, int* pInitBufSize) {
     if (anyNull(pSpecSize, pInitBufSize) || anyNull(request.coeffs)) return tpxErrNullPointer;
     if (isEmpty(src) || isEmpty(dst)) return tpxErrSize;
     if (!isWarpType(request.dataType)) return tpxErrDataType;
-    if (request.interpolation != tpxInterpolationNearest && request.interpolation != tpxInterpolationLinear &&
-        request.interpolation != tpxInterpolationCubic)
-        return tpxErrInterpolation;
+    if (!isWarpInterpolation(request.interpolation)) return tpxErrInterpolation;
     if (request.direction != 0 && request.direction != 1) return tpxErrWarpDirection;
     const AffineMap map = mapOf(request);
     if (!map.isFinite() || map.isSingular()) return tpxErrCoefficient;
     if (src.width == 1 || src.height == 1) return tpxErrSize;
     if (isTooHigh(src.height, request.dataType)) return tpxErrSize;
-
-    const Geometry g = geometryOf(request);
-    if (!isUsable(g, src)) return tpxErrCoefficient;
-    TpxiWarpSpec plan = {};
-    BlockLayout counted;
-    layOut(plan, g, dst, counted);
-    if (counted.bytes() >= kLongestBlock) return tpxErrSize;
-    *pSpecSize = int(counted.bytes());
-    *pInitBufSize = kInitBytes;
-    return tpxOk;
+    return sizePlan(request.task(), mapsOf(request), isWholeShift(map), pSpecSize, pInitBufSize);
 }
 
 // Of a tile of any plan; work is done on the stack, and the contract's formulas are kept for callers' sake.
@@ -136,67 +72,7 @@ TpxStatus getBufferSize(const TpxiWarpSpec* pSpec, TpxiSize tile, int* pBufSize)
 
 // ---- Initialisers ----------------------------------------------------------------------------------------
 
-// What only initialisers are given.
-struct Filling {
-    int numChannels;
-    Tpx64f valueB, valueC;
-    const Tpx64f* pBorderValue;
-    int smoothEdge;
-    TpxiWarpSpec* pSpec;
-};
-
-// Positions that far from a row are rounding's.
-constexpr double kRowSlack = 0x1p-24;
-
-void fillTable(RowTable& table, Rows rows, const AffineCoordinates& coordinates, const Region& region,
-               TpxiSize dst) {
-    table.first = Tpx32s(rows.first);
-    table.last = Tpx32s(rows.last);
-    for (int64_t y = rows.first; y <= rows.last; y++)
-        table.set(y, coordinates.row(y).inside(region, {0, dst.width}));
-}
-
-TpxStatus fillPlan(const Request& request, const Filling& filling, const Geometry& g) {
-    const TpxiSize src = request.src, dst = request.dst;
-    const BorderWord border = readWarpBorder(request.border);
-    TpxiWarpSpec plan = {};
-    plan.src = src;
-    plan.dst = dst;
-    plan.kind = WarpKind::Affine;
-    plan.dataType = request.dataType;
-    plan.interpolation = request.interpolation;
-    plan.numChannels = filling.numChannels;
-    plan.border = request.border;
-    plan.smoothEdge = filling.smoothEdge != 0;
-    for (int k = 0; k < 6; k++) plan.coeffs[k] = g.toSource.c[k / 3][k % 3];
-    plan.valueB = filling.valueB;
-    plan.valueC = filling.valueC;
-    if (border.kind == Border::Const)
-        for (int c = 0; c < filling.numChannels; c++) plan.borderValue[c] = peek(filling.pBorderValue + c);
-
-    BlockLayout block(filling.pSpec);
-    layOut(plan, g, dst, block);
-    const AffineCoordinates coordinates = {g.toSource};
-    const Region image = imageRegion(src);
-    fillTable(plan.inner, rowsOf(g, g.inner, dst, kRowSlack), coordinates,
-              plainRegion(src, request.interpolation, border), dst);
-    if (g.hasOuter && border.kind != Border::Replicate)
-        fillTable(plan.outer, rowsOf(g, g.outer, dst, kRowSlack), coordinates,
-                  leavesOutside(border) ? image : reachedRegion(src, request.interpolation), dst);
-    const Box all = {0, 0, double(src.width - 1), double(src.height - 1)};
-    if (leavesOutside(border) && rowsOf(g, all, dst, kRowSlack).areNone()) plan.warning = tpxWarnNoQuadOverlap;
-
-    // What lies at whole pixels is the pixel itself, unless a cubic kernel blurs.
-    if (plan.shift) {
-        const auto shift = [](double by) { return int64_t(clampTo(by, -0x1p40, 0x1p40)); };
-        poke(plan.shift, WholeShift{shift(g.toDestination.c[0][2]), shift(g.toDestination.c[1][2])});
-        if (request.interpolation == tpxInterpolationCubic && filling.valueB != 0) plan.shift = nullptr;
-    }
-    poke(filling.pSpec, plan);
-    return plan.warning;
-}
-
-TpxStatus initialise(const Request& request, const Filling& filling, const void* pInitBuf) {
+TpxStatus initialise(const Request& request, const WarpFilling& filling, const void* pInitBuf) {
     const TpxiSize src = request.src, dst = request.dst;
     const BorderWord border = readWarpBorder(request.border);
     if (!border.valid) return tpxErrBorder;
@@ -211,9 +87,10 @@ TpxStatus initialise(const Request& request, const Filling& filling, const void*
         return tpxErrChannelCount;
     if (filling.smoothEdge != 0 && !leavesOutside(border)) return tpxErrUnsupportedMode;
     if (src.width == 1 || src.height == 1) return tpxErrSize;
-    const Geometry g = geometryOf(request);
-    if (!isUsable(g, src)) return tpxErrCoefficient;
-    return fillPlan(request, filling, g);
+    const MapPair<AffineMap> maps = mapsOf(request);
+    const auto whole = [](double by) { return int64_t(clampTo(by, -0x1p40, 0x1p40)); };
+    const WholeShift shift = {whole(maps.toDestination.c[0][2]), whole(maps.toDestination.c[1][2])};
+    return fillPlan(request.task(), filling, maps, isWholeShift(map) ? &shift : nullptr);
 }
 
 } // namespace

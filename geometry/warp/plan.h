@@ -40,7 +40,8 @@ struct WholeShift {
 
 // Lies at the caller's own address, of whatever alignment, so it is copied out and in.
 struct TpxiWarpSpec {
-    TpxiSize src, dst;
+    TpxiRect src; // the part of the source image that there is
+    TpxiSize dst;
     tpx::WarpKind kind;
     TpxDataType dataType;
     TpxInterpolationType interpolation;
@@ -48,7 +49,9 @@ struct TpxiWarpSpec {
     TpxBorderType border;
     Tpx32s smoothEdge;
     TpxStatus warning; // that every processing call returns, or 0
-    Tpx64f coeffs[9];  // from the destination to the source; six of an affine map
+    // From the destination to the source: six of an affine map. Divisors of a perspective map are positive on
+    // the valid side of its horizon.
+    Tpx64f coeffs[9];
     Tpx64f valueB, valueC;
     Tpx64f borderValue[4];
     // Pixels whose taps all lie in the source, and those that a border has to do with. A plan has the second
@@ -91,10 +94,11 @@ inline constexpr double kEdge = 0x1p-24;
 struct SourceRect {
     Span columns, rows;
 };
-inline SourceRect readableOf(TpxiSize src, TpxInterpolationType interpolation, BorderWord border) {
+inline SourceRect readableOf(TpxiRect src, TpxInterpolationType interpolation, BorderWord border) {
     const bool further = interpolation == tpxInterpolationCubic && leavesOutside(border);
-    return {{-int64_t(further && border.left), int64_t(src.width) + (further && border.right)},
-            {-int64_t(further && border.top), int64_t(src.height) + (further && border.bottom)}};
+    const int64_t left = src.x, top = src.y, right = left + src.width, bottom = top + src.height;
+    return {{left - (further && border.left), right + (further && border.right)},
+            {top - (further && border.top), bottom + (further && border.bottom)}};
 }
 
 constexpr Footprint tapsOf(TpxInterpolationType interpolation) {
@@ -103,22 +107,22 @@ constexpr Footprint tapsOf(TpxInterpolationType interpolation) {
                                                      : kFourTaps;
 }
 
-// Positions in the image.
-inline Region imageRegion(TpxiSize src) {
-    return {{-kEdge, src.width - 1 + kEdge}, {-kEdge, src.height - 1 + kEdge}};
+// Positions in the image, or so much further out.
+inline Region imageRegion(TpxiRect src, double slack = kEdge) {
+    const Box box = boxOf(src);
+    return {{box.left - slack, box.right + slack}, {box.top - slack, box.bottom + slack}};
 }
 // Positions all of whose taps may be read. With one or two taps to either side these are all in the image, as
 // kernels limit the pixel below the position.
-inline Region plainRegion(TpxiSize src, TpxInterpolationType interpolation, BorderWord border) {
+inline Region plainRegion(TpxiRect src, TpxInterpolationType interpolation, BorderWord border) {
     if (interpolation != tpxInterpolationCubic) return imageRegion(src);
     const SourceRect readable = readableOf(src, interpolation, border);
     return {{double(readable.columns.begin + 1), double(readable.columns.end - 2)},
             {double(readable.rows.begin + 1), double(readable.rows.end - 2)}};
 }
 // Positions some tap of which lies in the image.
-inline Region reachedRegion(TpxiSize src, TpxInterpolationType interpolation) {
-    const double reach = interpolation == tpxInterpolationNearest ? 0.5 : tapsOf(interpolation).last();
-    return {{-reach, src.width - 1 + reach}, {-reach, src.height - 1 + reach}};
+inline Region reachedRegion(TpxiRect src, TpxInterpolationType interpolation) {
+    return imageRegion(src, interpolation == tpxInterpolationNearest ? 0.5 : tapsOf(interpolation).last());
 }
 
 } // namespace tpx

@@ -2,6 +2,7 @@
 // that the border makes of the plan's tables.
 #pragma once
 
+#include "frame/simd/control.h"
 #include "frame/simd/rounding.h"
 #include "geometry/warp/plan.h"
 #include "geometry/warp/warp_tile.h"
@@ -19,7 +20,7 @@ struct WarpCall {
     const Tpx8u* buffer;
 };
 
-// The checks; tpxOk means that there is work to do.
+// The checks; tpxOk means that there is work to do. Plans of affine maps serve calls of either kind.
 template <class T>
 inline TpxStatus checkWarp(const WarpCall<T>& call, TpxInterpolationType interpolation, int channels,
                            WarpKind kind) {
@@ -29,8 +30,8 @@ inline TpxStatus checkWarp(const WarpCall<T>& call, TpxInterpolationType interpo
     if ((size.width == 0 && size.height >= 0) || (size.height == 0 && size.width >= 0))
         return tpxWarnNoOperation;
     const TpxiWarpSpec plan = peek(call.spec);
-    if (plan.dataType != kDataType<T> || plan.interpolation != interpolation || plan.kind != kind ||
-        plan.numChannels != channels)
+    if (plan.dataType != kDataType<T> || plan.interpolation != interpolation || plan.numChannels != channels ||
+        (plan.kind != kind && plan.kind != WarpKind::Affine))
         return tpxErrContext;
     if (isEmpty(size)) return tpxErrSize;
     if ((call.src.step | call.dst.step) & (sizeof(T) - 1)) return tpxErrStep;
@@ -85,23 +86,76 @@ bool warpTile(const TpxiWarpSpec& plan, const Interpolation<Real>& how, const Co
     const SourceRect readable = readableOf(plan.src, plan.interpolation, border);
     const Readable from = {src, readable.columns, readable.rows, isConstant ? pixel : nullptr};
     const Region image = imageRegion(plan.src);
-    const Span columns = tile.columns();
     const bool cubic = plan.interpolation == tpxInterpolationCubic;
 
     // Positions that are limited to the image have the edge's pixels for their taps, with two taps or one.
     const auto spans = [&](int64_t y, const auto& row) -> RowSpans {
-        if (isReplicate && !cubic) return {columns, columns};
+        const Span columns = tile.columns();
         const Span plain = meet(plan.inner.span(y), columns);
-        if (isReplicate) return {plain, columns};
+        if (isReplicate) {
+            const Span all = row.mapped(columns);
+            return {cubic ? plain : all, all};
+        }
         if (plan.outer.pairs) return {plain, meet(plan.outer.span(y), columns)};
         // The contract has no room for the rim of cubic transparent plans.
         return {plain, cubic ? row.inside(image, columns) : plain};
     };
     TileWarp<Real, Coordinates> warp(how, coordinates, from, tile);
     const bool any = warp.run(isConstant ? Outside::BecomeConstant : Outside::Stay, pixel, spans);
-    const Region edges = {{0, double(plan.src.width - 1)}, {0, double(plan.src.height - 1)}};
-    if (plan.smoothEdge) warp.smooth(edges, spans);
+    if (plan.smoothEdge) warp.smooth(imageRegion(plan.src, 0), spans);
     return any;
+}
+
+// The same by a plan's map (affine.cpp, perspective.cpp). Types and layouts share the work, which knows bytes
+// and kernels alone.
+template <class Real>
+[[gnu::noinline]] bool warpAffineTile(const TpxiWarpSpec& plan, const Interpolation<Real>& how,
+                                      ImageView<const Tpx8u> src, const DestinationTile& tile,
+                                      const Tpx8u* pixel);
+[[gnu::noinline]] bool warpPerspectiveTile(const TpxiWarpSpec& plan, const Interpolation<Tpx32f>& how,
+                                           ImageView<const Tpx8u> src, const DestinationTile& tile,
+                                           const Tpx8u* pixel);
+
+// ---- Processing calls ------------------------------------------------------------------------------------
+
+// Calls of a kind are given plans of that kind, or affine ones.
+template <WarpKind Kind, Layout L, class T, class Make>
+inline TpxStatus warp(const WarpCall<T>& call, TpxInterpolationType interpolation, Make interpolationOf) {
+    constexpr int N = channelsOf(L);
+    const TpxStatus status = checkWarp(call, interpolation, N, Kind);
+    if (status != tpxOk) return status;
+    const TpxiWarpSpec plan = peek(call.spec);
+    const BorderPixel<T, N> pixel(plan);
+    const auto how = interpolationOf(plan);
+    const ImageView<const Tpx8u> src = bytesOf(call.src);
+    const DestinationTile tile = tileOf(call, plan);
+    bool any;
+    if constexpr (Kind == WarpKind::Perspective)
+        any = (plan.kind == Kind ? warpPerspectiveTile : warpAffineTile<Tpx32f>)(plan, how, src, tile,
+                                                                                 pixel.bytes());
+    else
+        any = warpAffineTile(plan, how, src, tile, pixel.bytes());
+    return doneWarp(call, plan, any);
+}
+
+template <WarpKind Kind, Layout L, class T>
+inline TpxStatus warpNearest(const WarpCall<T>& call) {
+    return warp<Kind, L>(call, tpxInterpolationNearest,
+                         [](const TpxiWarpSpec&) { return nearestOf<T, channelsOf(L)>(); });
+}
+
+template <WarpKind Kind, Layout L, class T>
+inline TpxStatus warpLinear(const WarpCall<T>& call) {
+    return warp<Kind, L>(call, tpxInterpolationLinear,
+                         [](const TpxiWarpSpec&) { return linearOf<T, channelsOf(L)>(); });
+}
+
+template <WarpKind Kind, Layout L, class T>
+inline TpxStatus warpCubic(const WarpCall<T>& call) {
+    const FloatControl control(kFlushingToZero);
+    return warp<Kind, L>(call, tpxInterpolationCubic, [](const TpxiWarpSpec& plan) {
+        return cubicOf<T, channelsOf(L)>(plan.valueB, plan.valueC);
+    });
 }
 
 } // namespace tpx

@@ -20,6 +20,11 @@ constexpr Box boxOf(TpxiRect rect) {
     return {double(rect.x), double(rect.y), rect.x + (rect.width - 1.0), rect.y + (rect.height - 1.0)};
 }
 
+// The point (x / w, y / w). Where w is not positive it lies beyond the horizon.
+struct ProjectedPoint {
+    double x, y, w;
+};
+
 // A number that is not finite makes its difference to itself NaN.
 constexpr bool isFinite(double x) { return x - x == 0; }
 
@@ -48,6 +53,10 @@ struct AffineMap {
     constexpr Point operator()(Point p) const {
         return {c[0][0] * p.x + c[0][1] * p.y + c[0][2], c[1][0] * p.x + c[1][1] * p.y + c[1][2]};
     }
+    constexpr ProjectedPoint project(Point p) const {
+        const Point at = (*this)(p);
+        return {at.x, at.y, 1};
+    }
     constexpr bool isFinite() const { return allFinite(c); }
     constexpr double determinant() const { return c[0][0] * c[1][1] - c[0][1] * c[1][0]; }
     constexpr bool isSingular() const { return areParallel(c[0][0] * c[1][1], c[0][1] * c[1][0]); }
@@ -63,12 +72,49 @@ struct AffineMap {
 struct PerspectiveMap {
     double c[3][3];
 
-    constexpr Point operator()(Point p) const {
+    constexpr ProjectedPoint project(Point p) const {
         const auto row = [&](int k) { return c[k][0] * p.x + c[k][1] * p.y + c[k][2]; };
-        const double scale = 1 / row(2);
-        return {row(0) * scale, row(1) * scale};
+        return {row(0), row(1), row(2)};
+    }
+    constexpr Point operator()(Point p) const {
+        const ProjectedPoint at = project(p);
+        const double scale = 1 / at.w;
+        return {at.x * scale, at.y * scale};
     }
     constexpr bool isFinite() const { return allFinite(c); }
+    // By contract: the affine part may be singular if the divisor makes up for it.
+    constexpr bool isSingular() const {
+        const double cross = (c[0][1] * c[1][2] - c[1][1] * c[0][2]) * c[2][0] -
+                             (c[0][0] * c[1][2] - c[0][2] * c[1][0]) * c[2][1];
+        const bool isPlane =
+            areParallel(c[0][0] * c[1][1], c[0][1] * c[1][0]) && !(magnitudeOf(cross) >= 1e-10);
+        return isPlane || !(magnitudeOf(c[2][2]) > 1e-200);
+    }
+    // Multiples are the same map.
+    constexpr PerspectiveMap times(double by) const {
+        PerspectiveMap map = *this;
+        for (auto& row : map.c)
+            for (double& x : row) x *= by;
+        return map;
+    }
+    // The multiple by the power of two that makes the largest coefficient one of 1 to 2.
+    constexpr PerspectiveMap scaled() const {
+        double largest = 0;
+        for (const auto& row : c)
+            for (double x : row) largest = maxOf(largest, magnitudeOf(x));
+        const auto exponent = clampTo(__builtin_bit_cast(int64_t, largest) >> 52, int64_t(1), int64_t(2045));
+        return times(__builtin_bit_cast(double, (2046 - exponent) << 52));
+    }
+    // The inverse map, times the determinant.
+    constexpr PerspectiveMap adjugate() const {
+        PerspectiveMap map = {};
+        for (int i = 0; i < 3; i++)
+            for (int k = 0; k < 3; k++) {
+                const int a = (i + 1) % 3, b = (i + 2) % 3, p = (k + 1) % 3, q = (k + 2) % 3;
+                map.c[k][i] = c[a][p] * c[b][q] - c[a][q] * c[b][p];
+            }
+        return map;
+    }
 };
 
 // x' = c00 x y + c01 x + c02 y + c03, y' likewise.
@@ -126,6 +172,29 @@ template <class Map>
 constexpr Quad mapped(const Map& map, const Box& box) {
     return {{map({box.left, box.top}), map({box.right, box.top}), map({box.right, box.bottom}),
              map({box.left, box.bottom})}};
+}
+
+// The same before any division: a part may lie beyond the horizon.
+struct ProjectedQuad {
+    ProjectedPoint corner[4];
+
+    // How many corners lie on this side of the horizon.
+    constexpr int inFront() const {
+        int count = 0;
+        for (const ProjectedPoint& p : corner) count += p.w > 0;
+        return count;
+    }
+    constexpr Quad flat() const {
+        Quad quad = {};
+        for (int k = 0; k < 4; k++) quad.corner[k] = {corner[k].x / corner[k].w, corner[k].y / corner[k].w};
+        return quad;
+    }
+};
+
+template <class Map>
+constexpr ProjectedQuad projected(const Map& map, const Box& box) {
+    return {{map.project({box.left, box.top}), map.project({box.right, box.top}),
+             map.project({box.right, box.bottom}), map.project({box.left, box.bottom})}};
 }
 
 // ---- Onto a well-formed quadrangle, from a rectangle that is not one pixel wide or high ------------------

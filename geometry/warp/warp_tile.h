@@ -24,6 +24,7 @@ struct DestinationTile {
     int64_t x, y, width, height;
 
     Span columns() const { return {x, x + width}; }
+    Point middle() const { return {double(x) + double(width) / 2, double(y) + double(height) / 2}; }
     Tpx8u* at(int64_t px, int64_t py, int pixelBytes) const {
         return image.from((px - x) * pixelBytes, py - y).data;
     }
@@ -53,7 +54,7 @@ class TileWarp {
                 double(from.image.step)},
           first_(
               withoutBias(from.image.from(how.footprint.offset * how.pixelBytes, how.footprint.offset).data)),
-          ahead_(aheadOf(coordinates, from, how.pixelBytes)),
+          ahead_(aheadOf(coordinates, tile.middle(), from, how.pixelBytes)),
           patches_(how) {}
 
     // spans(y, row) gives the spans of a destination row, within the tile. Returns whether a pixel was touched.
@@ -64,7 +65,7 @@ class TileWarp {
     bool run(Outside outside, const Tpx8u* constant, Spans spans) {
         constexpr int kBand = 64;
         const int64_t end = tile_.y + tile_.height;
-        const int64_t block = coordinates_.goesAcrossRows() ? kStretch : tile_.width;
+        const int64_t block = coordinates_.goesAcrossRows(tile_.middle()) ? kStretch : tile_.width;
         bool any = false;
         for (int64_t y = tile_.y; y < end; y += kBand) {
             RowSpans band[kBand];
@@ -82,21 +83,19 @@ class TileWarp {
 
     // Blends the pixels around the touched ones that are less than one pixel from the mapped image's edge.
     template <class Spans>
-    void smooth(const Region& edges, Spans spans) {
+    void smooth(const Region& image, Spans spans) {
+        const Edges edges = coordinates_.edges(image);
         for (int64_t y = tile_.y; y < tile_.y + tile_.height; y++) {
             const auto row = coordinates_.row(y);
             const Span touched = spans(y, row).touched;
-            // Far along a row the reach of a pixel may differ, but it is the same for all rows of an affine
-            // map.
-            const Position<double> reach = coordinates_.reach(row.at(double(tile_.x)));
-            const Region near = {{edges.x.low - reach.x, edges.x.end + reach.x},
-                                 {edges.y.low - reach.y, edges.y.end + reach.y}};
-            const Span smoothed = row.inside(near, tile_.columns());
+            Span near = row.mapped(tile_.columns());
+            for (const EdgeLine& edge : {edges.left, edges.right, edges.top, edges.bottom})
+                near = spanOf(edge.a, edge.b * double(y) + edge.c, {-1, __builtin_inf()}, near);
             if (touched.isEmpty()) {
-                mix(edges, row, reach, y, smoothed);
+                mix(edges, y, near);
             } else {
-                mix(edges, row, reach, y, {smoothed.begin, minOf(smoothed.end, touched.begin)});
-                mix(edges, row, reach, y, {maxOf(smoothed.begin, touched.end), smoothed.end});
+                mix(edges, y, {near.begin, minOf(near.end, touched.begin)});
+                mix(edges, y, {maxOf(near.begin, touched.end), near.end});
             }
         }
     }
@@ -106,14 +105,15 @@ class TileWarp {
 
     // Large sources that are walked across their rows are fetched some rows of the destination ahead, as the
     // processor finds no pattern in the lines that are read. Serves speed alone; 0 if nothing is fetched.
-    static ptrdiff_t aheadOf(const Coordinates& coordinates, const Readable& from, int pixelBytes) {
+    static ptrdiff_t aheadOf(const Coordinates& coordinates, Point middle, const Readable& from,
+                             int pixelBytes) {
         constexpr int kRows = 4;
         constexpr double kNearBytes = 1 << 19;
         const auto step = double(from.image.step);
         const double bytes = step * double(from.rows.end);
-        if (!coordinates.goesAcrossRows() || (bytes < kNearBytes && bytes > -kNearBytes)) return 0;
+        if (!coordinates.goesAcrossRows(middle) || (bytes < kNearBytes && bytes > -kNearBytes)) return 0;
         const auto pixels = [](double perRow) { return int64_t(clampTo(kRows * perRow, -1e4, 1e4)); };
-        const Position<double> down = coordinates.down();
+        const Position<double> down = coordinates.down(middle);
         return pixels(down.x) * pixelBytes + pixels(down.y) * from.image.step;
     }
 
@@ -156,20 +156,21 @@ class TileWarp {
             patches_.interpolate(row, x, int(minOf<int64_t>(kMost, span.end - x)), from_, at(x, y));
     }
 
-    // How much of the value at the edge a pixel gets that is so far outside along an axis.
-    static double share(double at, Range edge, double reach) {
-        const double distance = maxOf(maxOf(edge.low - at, at - edge.end), 0.0);
-        return clampTo(1 - distance / reach, 0.0, 1.0);
+    // How much of the value at the edge a pixel gets that lies outside either of two edges.
+    static double share(const EdgeLine& one, const EdgeLine& other, double x, double y) {
+        const auto inside = [=](const EdgeLine& edge) { return edge.a * x + (edge.b * y + edge.c); };
+        return clampTo(1 + minOf(inside(one), inside(other)), 0.0, 1.0);
     }
 
-    void mix(const Region& edges, const Row& row, Position<double> reach, int64_t y, Span span) {
+    void mix(const Edges& edges, int64_t y, Span span) {
         constexpr int kMost = Patches<Real>::kMost;
         for (int64_t x = span.begin; x < span.end; x += kMost) {
             const int count = int(minOf<int64_t>(kMost, span.end - x));
             Real shares[kMost];
             for (int i = 0; i < count; i++) {
-                const Position<double> s = row.at(double(x + i));
-                shares[i] = Real(share(s.x, edges.x, reach.x) * share(s.y, edges.y, reach.y));
+                const double px = double(x + i), py = double(y);
+                shares[i] =
+                    Real(share(edges.left, edges.right, px, py) * share(edges.top, edges.bottom, px, py));
             }
             Tpx8u values[kMost * 4 * sizeof(Tpx64f)];
             patches_.interpolate(kernelRow(y), x, count, from_, values);

@@ -1,4 +1,4 @@
-/* Affine warps: an image mapped through a 2 by 3 transform. */
+/* Warps: an image mapped through an affine or a perspective transform. */
 #ifndef TPXI_WARP_H
 #define TPXI_WARP_H
 
@@ -246,6 +246,170 @@ TPX_API TpxStatus tpxiWarpAffineCubic_64f_C3R(const Tpx64f* pSrc, int srcStep, T
 TPX_API TpxStatus tpxiWarpAffineCubic_64f_C4R(const Tpx64f* pSrc, int srcStep, Tpx64f* pDst, int dstStep,
                                               TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
                                               const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+
+/* ---- Perspective warps ---------------------------------------------------------------------------------
+ * As affine warps, by the same protocol and rules, with coefficients of 3 by 3:
+ *
+ *   x' = (c00 x + c01 y + c02) / d    y' = (c10 x + c11 y + c12) / d    d = c20 x + c21 y + c22
+ *
+ * Any multiple of the coefficients is the same map. Quotients are products with 1 / d in double precision; if
+ * c20 and c21 are 0 and c22 is a power of two, positions are those of an affine warp.
+ *
+ * Horizon: the line d = 0, where the map goes to infinity. Its valid side is the one with the origin of the
+ * coordinates that coeffs are applied to; or the other one, if the whole of the mapped source lies there. The
+ * part of the source that lands there is written; pixels beyond the horizon stay as they were, whatever the
+ * border, but that a constant border fills them as all others outside.
+ *
+ * srcRoi: the rectangle of the source that there is, or that of tpxiWarpGetRectInfinite for all of it. pSrc is
+ * the source's first pixel either way. With a rectangle, the border becomes tpxBorderTransparent, with the
+ * sides in memory that were given: pixels outside the rectangle's image stay as they were, and the rectangle's
+ * edges are treated as those of an image. A rectangle may run past the source's end; the part inside is used.
+ *
+ * Plans of affine maps (tpxiWarpAffine...Init, and tpxiWarpQuad...Init of two parallelograms) may be given to
+ * the processing calls of perspective warps too.
+ *
+ * Statuses of tpxiWarpPerspectiveGetSize, in order: tpxErrBorder; tpxErrNullPointer (coefficients or a result);
+ * tpxErrSize (below 1); tpxErrRect (a rectangle that begins outside the source, or of a size below 1);
+ * tpxErrDataType (not 8u, 16u, 16s or 32f); tpxErrInterpolation; tpxErrWarpDirection; tpxErrSize (a source of
+ * one row or column); tpxErrCoefficient (not finite; the affine part singular to 1e-10 with no divisor that
+ * makes up for it; c22 of 1e-200 or less); tpxErrSize (a source too high, as above); tpxErrCoefficient (the
+ * mapped source is no quadrangle in double precision, as for a rectangle of one row or column); tpxErrSize (a
+ * plan of more than 31 bits); tpxOk.
+ *
+ * Of the initialisers: tpxErrBorder; tpxErrNullPointer (plan, coefficients, initialisation buffer); tpxErrSize;
+ * tpxErrRect; tpxErrDataType; tpxErrWarpDirection; tpxErrNullPointer (no border value for a constant border);
+ * tpxErrChannelCount; tpxErrUnsupportedMode (smoothEdge with a replicate or constant border, be there a
+ * rectangle or not); tpxErrSize (a source of one row or column); tpxErrCoefficient; tpxWarnNoQuadOverlap (as
+ * for affine plans); tpxWarnValueAdjusted (the rectangle was cut; the plan is complete); tpxOk. */
+TPX_API TpxStatus tpxiWarpPerspectiveGetSize(TpxiSize srcSize, TpxiRect srcRoi, TpxiSize dstSize,
+                                             TpxDataType dataType, const Tpx64f coeffs[3][3],
+                                             TpxInterpolationType interpolation, int direction,
+                                             TpxBorderType border, int* pSpecSize, int* pInitBufSize);
+TPX_API TpxStatus tpxiWarpPerspectiveNearestInit(TpxiSize srcSize, TpxiRect srcRoi, TpxiSize dstSize,
+                                                 TpxDataType dataType, const Tpx64f coeffs[3][3], int direction,
+                                                 int numChannels, TpxBorderType border,
+                                                 const Tpx64f* pBorderValue, int smoothEdge,
+                                                 TpxiWarpSpec* pSpec, Tpx8u* pInitBuf);
+TPX_API TpxStatus tpxiWarpPerspectiveLinearInit(TpxiSize srcSize, TpxiRect srcRoi, TpxiSize dstSize,
+                                                TpxDataType dataType, const Tpx64f coeffs[3][3], int direction,
+                                                int numChannels, TpxBorderType border,
+                                                const Tpx64f* pBorderValue, int smoothEdge, TpxiWarpSpec* pSpec,
+                                                Tpx8u* pInitBuf);
+TPX_API TpxStatus tpxiWarpPerspectiveCubicInit(TpxiSize srcSize, TpxiRect srcRoi, TpxiSize dstSize,
+                                               TpxDataType dataType, const Tpx64f coeffs[3][3], int direction,
+                                               int numChannels, Tpx64f valueB, Tpx64f valueC,
+                                               TpxBorderType border, const Tpx64f* pBorderValue, int smoothEdge,
+                                               TpxiWarpSpec* pSpec, Tpx8u* pInitBuf);
+
+/* Processing: as tpxiWarpAffine, with the same statuses. */
+TPX_API TpxStatus tpxiWarpPerspectiveNearest_8u_C1R(const Tpx8u* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
+                                                    TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                    const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveNearest_8u_C3R(const Tpx8u* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
+                                                    TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                    const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveNearest_8u_C4R(const Tpx8u* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
+                                                    TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                    const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveNearest_16u_C1R(const Tpx16u* pSrc, int srcStep, Tpx16u* pDst, int dstStep,
+                                                     TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                     const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveNearest_16u_C3R(const Tpx16u* pSrc, int srcStep, Tpx16u* pDst, int dstStep,
+                                                     TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                     const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveNearest_16u_C4R(const Tpx16u* pSrc, int srcStep, Tpx16u* pDst, int dstStep,
+                                                     TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                     const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveNearest_16s_C1R(const Tpx16s* pSrc, int srcStep, Tpx16s* pDst, int dstStep,
+                                                     TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                     const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveNearest_16s_C3R(const Tpx16s* pSrc, int srcStep, Tpx16s* pDst, int dstStep,
+                                                     TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                     const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveNearest_16s_C4R(const Tpx16s* pSrc, int srcStep, Tpx16s* pDst, int dstStep,
+                                                     TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                     const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveNearest_32f_C1R(const Tpx32f* pSrc, int srcStep, Tpx32f* pDst, int dstStep,
+                                                     TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                     const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveNearest_32f_C3R(const Tpx32f* pSrc, int srcStep, Tpx32f* pDst, int dstStep,
+                                                     TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                     const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveNearest_32f_C4R(const Tpx32f* pSrc, int srcStep, Tpx32f* pDst, int dstStep,
+                                                     TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                     const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveLinear_8u_C1R(const Tpx8u* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
+                                                   TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                   const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveLinear_8u_C3R(const Tpx8u* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
+                                                   TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                   const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveLinear_8u_C4R(const Tpx8u* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
+                                                   TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                   const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveLinear_16u_C1R(const Tpx16u* pSrc, int srcStep, Tpx16u* pDst, int dstStep,
+                                                    TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                    const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveLinear_16u_C3R(const Tpx16u* pSrc, int srcStep, Tpx16u* pDst, int dstStep,
+                                                    TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                    const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveLinear_16u_C4R(const Tpx16u* pSrc, int srcStep, Tpx16u* pDst, int dstStep,
+                                                    TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                    const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveLinear_16s_C1R(const Tpx16s* pSrc, int srcStep, Tpx16s* pDst, int dstStep,
+                                                    TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                    const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveLinear_16s_C3R(const Tpx16s* pSrc, int srcStep, Tpx16s* pDst, int dstStep,
+                                                    TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                    const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveLinear_16s_C4R(const Tpx16s* pSrc, int srcStep, Tpx16s* pDst, int dstStep,
+                                                    TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                    const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveLinear_32f_C1R(const Tpx32f* pSrc, int srcStep, Tpx32f* pDst, int dstStep,
+                                                    TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                    const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveLinear_32f_C3R(const Tpx32f* pSrc, int srcStep, Tpx32f* pDst, int dstStep,
+                                                    TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                    const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveLinear_32f_C4R(const Tpx32f* pSrc, int srcStep, Tpx32f* pDst, int dstStep,
+                                                    TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                    const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveCubic_8u_C1R(const Tpx8u* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
+                                                  TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                  const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveCubic_8u_C3R(const Tpx8u* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
+                                                  TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                  const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveCubic_8u_C4R(const Tpx8u* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
+                                                  TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                  const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveCubic_16u_C1R(const Tpx16u* pSrc, int srcStep, Tpx16u* pDst, int dstStep,
+                                                   TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                   const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveCubic_16u_C3R(const Tpx16u* pSrc, int srcStep, Tpx16u* pDst, int dstStep,
+                                                   TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                   const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveCubic_16u_C4R(const Tpx16u* pSrc, int srcStep, Tpx16u* pDst, int dstStep,
+                                                   TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                   const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveCubic_16s_C1R(const Tpx16s* pSrc, int srcStep, Tpx16s* pDst, int dstStep,
+                                                   TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                   const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveCubic_16s_C3R(const Tpx16s* pSrc, int srcStep, Tpx16s* pDst, int dstStep,
+                                                   TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                   const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveCubic_16s_C4R(const Tpx16s* pSrc, int srcStep, Tpx16s* pDst, int dstStep,
+                                                   TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                   const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveCubic_32f_C1R(const Tpx32f* pSrc, int srcStep, Tpx32f* pDst, int dstStep,
+                                                   TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                   const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveCubic_32f_C3R(const Tpx32f* pSrc, int srcStep, Tpx32f* pDst, int dstStep,
+                                                   TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                   const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
+TPX_API TpxStatus tpxiWarpPerspectiveCubic_32f_C4R(const Tpx32f* pSrc, int srcStep, Tpx32f* pDst, int dstStep,
+                                                   TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
+                                                   const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
 
 TPX_EXTERN_C_END
 

@@ -3,11 +3,9 @@
 
 #include <array>
 #include <cfenv>
-#include <memory>
 
-#include "models/warp.h"
 #include "tests/support/checks.h"
-#include "tests/support/guarded.h"
+#include "tests/support/warps.h"
 
 namespace {
 
@@ -15,51 +13,9 @@ using namespace tpx::model;
 using namespace tpx::test;
 
 using Coeffs = std::array<std::array<double, 3>, 2>;
-constexpr TpxInterpolationType kKinds[] = {tpxInterpolationNearest, tpxInterpolationLinear,
-                                           tpxInterpolationCubic};
-
 // ---- The functions of each type --------------------------------------------------------------------------
 
-template <class T>
-using Call = TpxStatus (*)(const T*, int, T*, int, TpxiPoint, TpxiSize, const TpxiWarpSpec*, Tpx8u*);
-
-#define KIND(kind, type)                                                          \
-    {                                                                             \
-        tpxiWarpAffine##kind##_##type##_C1R, tpxiWarpAffine##kind##_##type##_C3R, \
-            tpxiWarpAffine##kind##_##type##_C4R                                   \
-    }
-#define NAMES(type)                                                                         \
-    struct Names##type {                                                                    \
-        using T = Tpx##type;                                                                \
-        static constexpr TpxDataType kType = tpxDataType##type;                             \
-        static Call<T> call(TpxInterpolationType kind, int channels) {                      \
-            static constexpr Call<T> kAll[3][3] = {KIND(Nearest, type), KIND(Linear, type), \
-                                                   KIND(Cubic, type)};                      \
-            return kAll[kind == tpxInterpolationNearest  ? 0                                \
-                        : kind == tpxInterpolationLinear ? 1                                \
-                                                         : 2][channels == 1   ? 0           \
-                                                              : channels == 3 ? 1           \
-                                                                              : 2];         \
-        }                                                                                   \
-    };
-NAMES(8u)
-NAMES(16u)
-NAMES(16s)
-NAMES(32f)
-NAMES(64f)
-
-// What is asked of a warp.
-struct Job {
-    TpxiSize src, dst;
-    Coeffs coeffs;
-    int direction = 1;
-    TpxInterpolationType kind = tpxInterpolationLinear;
-    TpxBorderType border = tpxBorderTransparent;
-    int channels = 1;
-    double B = 0, C = 0.5;
-    int smoothEdge = 0;
-};
-constexpr double kValue[4] = {17.4, 301.5, -40, 88};
+using Job = WarpJob<Coeffs>;
 
 const double (*arrayOf(const Coeffs& c))[3] { return reinterpret_cast<const double(*)[3]>(c.data()); }
 
@@ -76,41 +32,23 @@ TpxStatus initialise(const Job& job, TpxDataType type, const double* value, Tpxi
         job.src, job.dst, type, c, job.direction, job.channels, job.border, value, job.smoothEdge, spec);
 }
 
-// A plan in memory of exactly the size asked for, between unreadable pages, at an odd address.
+#define NAMES(type)                                                                                   \
+    struct Names##type : WarpNames<Tpx##type, Job> {                                                  \
+        static constexpr TpxDataType kType = tpxDataType##type;                                       \
+        static constexpr auto kGetSize = getSize;                                                     \
+        static constexpr auto kInitialise = initialise;                                               \
+        static constexpr WarpCall<T> kCalls[3][3] = {TPX_WARP_CALLS(tpxiWarpAffineNearest_##type##_), \
+                                                     TPX_WARP_CALLS(tpxiWarpAffineLinear_##type##_),  \
+                                                     TPX_WARP_CALLS(tpxiWarpAffineCubic_##type##_)};  \
+    };
+NAMES(8u)
+NAMES(16u)
+NAMES(16s)
+NAMES(32f)
+NAMES(64f)
+
 template <class Names>
-class Plan {
- public:
-    using T = typename Names::T;
-
-    explicit Plan(const Job& job, int misalign = 1) : job_(job), misalign_(misalign) {
-        int bytes = 0, init = 0;
-        EXPECT_EQ(tpxOk, getSize(job, Names::kType, &bytes, &init));
-        memory_ = std::make_unique<GuardedBytes>(size_t(bytes), size_t(misalign));
-        memory_->fill(0xCD);
-        GuardedBytes work{size_t(init)};
-        status = initialise(job, Names::kType, kValue, spec(), work.data());
-    }
-    TpxiWarpSpec* spec() const { return reinterpret_cast<TpxiWarpSpec*>(memory_->data()); }
-    size_t bytes() const { return memory_->size(); }
-
-    // A tile whose first pixel is the first of `dst`. `src` is the source's first pixel.
-    TpxStatus run(const T* src, int srcStep, T* dst, int dstStep, TpxiRect tile) const {
-        int bytes = 0;
-        EXPECT_GE(tpxiWarpGetBufferSize(spec(), {tile.width, tile.height}, &bytes), tpxOk);
-        GuardedBytes work{size_t(bytes), size_t(misalign_)};
-        return Names::call(job_.kind, job_.channels)(src, srcStep, dst, dstStep, {tile.x, tile.y},
-                                                     {tile.width, tile.height}, spec(), work.data());
-    }
-    TpxStatus run(const GuardedImage<T>& src, GuardedImage<T>& dst) const {
-        return run(src.data(), src.step(), dst.data(), dst.step(), {0, 0, dst.width(), dst.height()});
-    }
-    TpxStatus status;
-
- private:
-    Job job_;
-    int misalign_;
-    std::unique_ptr<GuardedBytes> memory_;
-};
+using Plan = WarpPlan<Names>;
 
 template <class T>
 AffineWarp modelOf(const Job& job) {
@@ -126,54 +64,6 @@ AffineWarp modelOf(const Job& job) {
     return m;
 }
 
-// How far samples may be from the model's, apart from rounding: fractions and weights have 24 bits, or 53.
-template <class T>
-double toleranceOf() {
-    const double range = std::is_integral_v<T> ? double(std::numeric_limits<T>::max()) : 1000;
-    return range * (sizeof(T) == 8 ? 1e-11 : 2e-6) + (std::is_integral_v<T> ? 0.5 : 0);
-}
-
-// Fails at the first sample that is neither the model's nor, if it may be that, what was there before. `image`
-// gives source samples as doubles.
-template <class T, class Image>
-::testing::AssertionResult fits(const Job& job, const GuardedImage<T>& dst, const GuardedImage<T>& before,
-                                const Image& image) {
-    constexpr double kNear = 1e-6; // of an edge, where either is right
-    const AffineWarp model = modelOf<T>(job);
-    for (int y = 0; y < dst.height(); y++)
-        for (int x = 0; x < dst.width(); x++) {
-            const WarpPlace at = model.place(x, y);
-            const bool mayStay = model.leaves() && !model.isMapped(at, -kNear);
-            const bool mayChange = !model.leaves() || model.isMapped(at, kNear);
-            for (int c = 0; c < dst.channels(); c++) {
-                const T got = dst.at(x, y, c);
-                if (mayStay && sameBits(got, before.at(x, y, c))) continue;
-                const bool nearest = job.kind == tpxInterpolationNearest;
-                double want = 0;
-                bool found = false;
-                for (int i = nearest ? -1 : 0; i <= int(nearest); i++)
-                    for (int k = nearest ? -1 : 0; k <= int(nearest); k++) {
-                        want = model.sample({at.x + i * kNear, at.y + k * kNear}, c,
-                                            [&](int sx, int sy) { return image(sx, sy, c); });
-                        want = nearest                 ? want
-                               : std::is_integral_v<T> ? std::clamp(want, double(std::numeric_limits<T>::min()),
-                                                                    double(std::numeric_limits<T>::max()))
-                                                       : want;
-                        const double off = std::fabs(double(got) - want);
-                        found = found || (nearest ? off == 0 : off <= toleranceOf<T>());
-                    }
-                if (!mayChange || !found)
-                    return ::testing::AssertionFailure()
-                           << "at " << x << ", " << y << ", channel " << c << ", position " << at.x << ", "
-                           << at.y << " of " << job.src.width << " x " << job.src.height << ", kind "
-                           << job.kind << ", border " << std::hex << job.border << ": got " << +got
-                           << ", expected " << (mayChange ? want : double(before.at(x, y, c)));
-            }
-        }
-    if (!dst.paddingIntact()) return ::testing::AssertionFailure() << "bytes between rows were written";
-    return ::testing::AssertionSuccess();
-}
-
 // About the middles of both images.
 Coeffs turned(TpxiSize from, TpxiSize to, double degrees, double scale, double shear = 0) {
     const double a = degrees * 3.14159265358979 / 180, c = std::cos(a) * scale, s = std::sin(a) * scale;
@@ -183,41 +73,6 @@ Coeffs turned(TpxiSize from, TpxiSize to, double degrees, double scale, double s
              {m[1][0], m[1][1], (to.height - 1) / 2.0 - m[1][0] * x - m[1][1] * y}}};
 }
 
-std::vector<TpxBorderType> borders() {
-    std::vector<TpxBorderType> words = {tpxBorderInMemAll};
-    for (unsigned kind : {tpxBorderReplicate, tpxBorderConstant, tpxBorderTransparent})
-        for (unsigned sides : {0u, 0x10u, 0x20u, 0x40u, 0x80u, 0xA0u, 0xF0u}) words.push_back(kind | sides);
-    return words;
-}
-
-// The source of a job with just the pixels that may be read: itself, and one pixel further on sides in memory.
-template <class T>
-class Source {
- public:
-    Source(const Job& job, Lie lie, unsigned seed)
-        : left_(further(job, tpxBorderInMemLeft)),
-          top_(further(job, tpxBorderInMemTop)),
-          image_(job.src.width + left_ + further(job, tpxBorderInMemRight),
-                 job.src.height + top_ + further(job, tpxBorderInMemBottom), job.channels, lie) {
-        image_.randomise(seed);
-    }
-    const T* data() const {
-        return reinterpret_cast<const T*>(
-            reinterpret_cast<const char*>(image_.data() + left_ * image_.channels()) +
-            ptrdiff_t(top_) * image_.step());
-    }
-    int step() const { return image_.step(); }
-    double operator()(int x, int y, int c) const { return double(image_.at(x + left_, y + top_, c)); }
-
- private:
-    static int further(const Job& job, unsigned side) {
-        const bool leaves = job.border == tpxBorderInMemAll || (job.border & 15) == tpxBorderTransparent;
-        return job.kind == tpxInterpolationCubic && leaves && (job.border & side) != 0;
-    }
-    int left_, top_;
-    GuardedImage<T> image_;
-};
-
 template <class Names>
 class WarpAffine : public testing::Test {
  protected:
@@ -225,7 +80,7 @@ class WarpAffine : public testing::Test {
 
     static void expectFits(const Job& job, unsigned turn) {
         const Lie kLies[] = {{0, Edge::End, 0}, {24, Edge::Start, 1}, {8, Edge::End, 3}};
-        const Source<T> src(job, kLies[turn % 3], turn);
+        const WarpSource<T> src(job, kLies[turn % 3], turn);
         GuardedImage<T> dst(job.dst.width, job.dst.height, job.channels, kLies[(turn + 1) % 3]);
         dst.randomise(turn + 77);
         GuardedImage<T> before(job.dst.width, job.dst.height, job.channels);
@@ -234,7 +89,7 @@ class WarpAffine : public testing::Test {
         const TpxStatus status =
             plan.run(src.data(), src.step(), dst.data(), dst.step(), {0, 0, dst.width(), dst.height()});
         ASSERT_TRUE(status == tpxOk || status == tpxWarnNoQuadOverlap) << status;
-        ASSERT_TRUE(fits(job, dst, before, src)) << "turn " << turn;
+        ASSERT_TRUE(fits(modelOf<T>(job), dst, before, src)) << "turn " << turn;
     }
 };
 using AllTypes = testing::Types<Names8u, Names16u, Names16s, Names32f, Names64f>;
@@ -445,7 +300,7 @@ TYPED_TEST(WarpAffine, AnyCoefficientsStayInside) {
         made++;
         const Plan<TypeParam> plan(job, n % 3);
         ASSERT_GE(plan.status, tpxOk);
-        const Source<T> src(job, {0, n % 2 ? Edge::End : Edge::Start, 0}, unsigned(n));
+        const WarpSource<T> src(job, {0, n % 2 ? Edge::End : Edge::Start, 0}, unsigned(n));
         GuardedImage<T> dst(job.dst.width, job.dst.height, job.channels);
         ASSERT_GE(plan.run(src.data(), src.step(), dst.data(), dst.step(), {0, 0, dst.width(), dst.height()}),
                   tpxOk);

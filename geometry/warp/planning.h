@@ -1,0 +1,180 @@
+// How plans of every warp are made: what a map and its border come to, the layout of a plan's block, which
+// sizes and initialisers share, and the filling of record and tables.
+#pragma once
+
+#include "geometry/warp/coordinates.h"
+#include "geometry/warp/plan.h"
+
+namespace tpx {
+
+// What a plan is made for, besides its map.
+struct WarpTask {
+    TpxiRect src; // the part of the source image that there is
+    TpxiSize dst;
+    TpxDataType dataType;
+    TpxInterpolationType interpolation;
+    TpxBorderType border;
+};
+
+// What only initialisers are given.
+struct WarpFilling {
+    int numChannels;
+    Tpx64f valueB, valueC;
+    const Tpx64f* pBorderValue;
+    int smoothEdge;
+    TpxiWarpSpec* pSpec;
+};
+
+// ---- Maps ------------------------------------------------------------------------------------------------
+
+// A map and its inverse.
+template <class Map>
+struct MapPair {
+    Map toSource, toDestination;
+};
+
+inline AffineCoordinates coordinatesOf(const AffineMap& toSource) { return {toSource}; }
+inline PerspectiveCoordinates coordinatesOf(const PerspectiveMap& toSource) { return {toSource}; }
+constexpr WarpKind kindOf(const AffineMap&) { return WarpKind::Affine; }
+constexpr WarpKind kindOf(const PerspectiveMap&) { return WarpKind::Perspective; }
+
+// Whether the maps can be worked with: in double precision the image, or some of it, is still an area.
+template <class Map>
+inline bool isUsable(const MapPair<Map>& maps, TpxiRect src) {
+    if (!maps.toSource.isFinite() || !maps.toDestination.isFinite()) return false;
+    const ProjectedQuad image = projected(maps.toDestination, boxOf(src));
+    return image.inFront() == 4 ? image.flat().isWellFormed() : image.inFront() > 0;
+}
+
+// ---- Tables ----------------------------------------------------------------------------------------------
+
+// The parts of the source whose rows have tables.
+struct Tables {
+    Box inner, outer;
+    bool hasOuter;
+};
+
+inline Tables tablesOf(const WarpTask& task) {
+    const BorderWord border = readWarpBorder(task.border);
+    const bool cubic = task.interpolation == tpxInterpolationCubic, leaves = leavesOutside(border);
+    const Box image = boxOf(task.src);
+    const bool anyInMemory = border.left || border.top || border.right || border.bottom;
+    const double margin = cubic ? 2 : 1;
+    Tables tables = {image,
+                     {image.left - margin, image.top - margin, image.right + margin, image.bottom + margin},
+                     cubic ? border.kind != Border::Transparent || anyInMemory : border.kind == Border::Const};
+    if (cubic)
+        tables.inner = {image.left + !(leaves && border.left), image.top + !(leaves && border.top),
+                        image.right - !(leaves && border.right), image.bottom - !(leaves && border.bottom)};
+    return tables;
+}
+
+// The rows of the destination that a part of the source meets. Small sources have no inner part.
+template <class Map>
+inline Rows rowsOf(const Map& toDestination, const Box& box, TpxiSize dst, double slack) {
+    const ProjectedQuad quad = projected(toDestination, box);
+    const bool isArea =
+        box.left < box.right && box.top < box.bottom && (quad.inFront() < 4 || quad.flat().isWellFormed());
+    return isArea ? rowsOf(quad, dst, slack) : Rows{1, 0};
+}
+
+// Takes the places of what follows the record in the block that begins with it. The tables' rows are not set.
+template <class Map>
+inline void layOut(TpxiWarpSpec& plan, const Map& toDestination, const Tables& tables, TpxiSize dst,
+                   bool isShift, BlockLayout& block) {
+    const auto place = [&](uint64_t bytes) { return block.take<Tpx8u>(bytes); };
+    const auto placeTable = [&](const Box& box) {
+        return reinterpret_cast<Tpx32s*>(place(tableBytes(rowsOf(toDestination, box, dst, 0))));
+    };
+    place(kPlanBytes);
+    if (isShift) plan.shift = reinterpret_cast<WholeShift*>(place(kShiftPlanBytes - kPlanBytes));
+    plan.inner.pairs = placeTable(tables.inner);
+    if (tables.hasOuter) plan.outer.pairs = placeTable(tables.outer);
+}
+
+// Positions that far from a row are rounding's.
+inline constexpr double kRowSlack = 0x1p-24;
+
+template <class Coordinates>
+inline void fillTable(RowTable& table, Rows rows, const Coordinates& coordinates, const Region& region,
+                      TpxiSize dst) {
+    table.first = Tpx32s(rows.first);
+    table.last = Tpx32s(rows.last);
+    for (int64_t y = rows.first; y <= rows.last; y++)
+        table.set(y, coordinates.row(y).inside(region, {0, dst.width}));
+}
+
+// ---- Sizes and initialisers, after their checks ----------------------------------------------------------
+
+constexpr bool isWarpInterpolation(TpxInterpolationType interpolation) {
+    return interpolation == tpxInterpolationNearest || interpolation == tpxInterpolationLinear ||
+           interpolation == tpxInterpolationCubic;
+}
+
+// More rows than memory has room for.
+constexpr bool isTooHigh(int height, TpxDataType type) {
+    const int sampleBytes = type == tpxDataType8u    ? 1
+                            : type == tpxDataType32f ? 4
+                            : type == tpxDataType64f ? 8
+                                                     : 2;
+    return height >= 0x40000000 / sampleBytes;
+}
+
+template <class Map>
+inline TpxStatus sizePlan(const WarpTask& task, const MapPair<Map>& maps, bool isShift, int* pSpecSize,
+                          int* pInitBufSize) {
+    if (!isUsable(maps, task.src)) return tpxErrCoefficient;
+    TpxiWarpSpec plan = {};
+    BlockLayout counted;
+    layOut(plan, maps.toDestination, tablesOf(task), task.dst, isShift, counted);
+    if (counted.bytes() >= kLongestBlock) return tpxErrSize;
+    *pSpecSize = int(counted.bytes());
+    *pInitBufSize = kInitBytes;
+    return tpxOk;
+}
+
+// Fills record and tables. `shift` is null but for whole shifts.
+template <class Map>
+inline TpxStatus fillPlan(const WarpTask& task, const WarpFilling& filling, const MapPair<Map>& maps,
+                          const WholeShift* shift) {
+    if (!isUsable(maps, task.src)) return tpxErrCoefficient;
+    const TpxiSize dst = task.dst;
+    const BorderWord border = readWarpBorder(task.border);
+    TpxiWarpSpec plan = {};
+    plan.src = task.src;
+    plan.dst = dst;
+    plan.kind = kindOf(maps.toSource);
+    plan.dataType = task.dataType;
+    plan.interpolation = task.interpolation;
+    plan.numChannels = filling.numChannels;
+    plan.border = task.border;
+    plan.smoothEdge = filling.smoothEdge != 0;
+    __builtin_memcpy(plan.coeffs, maps.toSource.c, sizeof(maps.toSource.c));
+    plan.valueB = filling.valueB;
+    plan.valueC = filling.valueC;
+    if (border.kind == Border::Const)
+        for (int c = 0; c < filling.numChannels; c++) plan.borderValue[c] = peek(filling.pBorderValue + c);
+
+    const Tables tables = tablesOf(task);
+    BlockLayout block(filling.pSpec);
+    layOut(plan, maps.toDestination, tables, dst, shift != nullptr, block);
+    const auto coordinates = coordinatesOf(maps.toSource);
+    const auto rows = [&](const Box& box) { return rowsOf(maps.toDestination, box, dst, kRowSlack); };
+    fillTable(plan.inner, rows(tables.inner), coordinates, plainRegion(task.src, task.interpolation, border),
+              dst);
+    if (tables.hasOuter && border.kind != Border::Replicate)
+        fillTable(plan.outer, rows(tables.outer), coordinates,
+                  leavesOutside(border) ? imageRegion(task.src) : reachedRegion(task.src, task.interpolation),
+                  dst);
+    if (leavesOutside(border) && rows(boxOf(task.src)).areNone()) plan.warning = tpxWarnNoQuadOverlap;
+
+    // What lies at whole pixels is the pixel itself, unless a cubic kernel blurs.
+    if (plan.shift) {
+        poke(plan.shift, *shift);
+        if (task.interpolation == tpxInterpolationCubic && filling.valueB != 0) plan.shift = nullptr;
+    }
+    poke(filling.pSpec, plan);
+    return plan.warning;
+}
+
+} // namespace tpx

@@ -1,0 +1,178 @@
+// What tests of warps share: a request, its plan between unreadable pages, sources that hold just what may be
+// read, and the comparison with the model.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "models/warp.h"
+#include "tests/support/guarded.h"
+
+namespace tpx::test {
+
+using namespace tpx::model;
+
+inline constexpr TpxInterpolationType kKinds[] = {tpxInterpolationNearest, tpxInterpolationLinear,
+                                                  tpxInterpolationCubic};
+
+// What is asked of a warp.
+template <class Coefficients>
+struct WarpJob {
+    TpxiSize src, dst;
+    Coefficients coeffs;
+    int direction = 1;
+    TpxInterpolationType kind = tpxInterpolationLinear;
+    TpxBorderType border = tpxBorderTransparent;
+    int channels = 1;
+    double B = 0, C = 0.5;
+    int smoothEdge = 0;
+};
+inline constexpr double kValue[4] = {17.4, 301.5, -40, 88}; // of constant borders
+
+// ---- The functions of each type --------------------------------------------------------------------------
+
+template <class T>
+using WarpCall = TpxStatus (*)(const T*, int, T*, int, TpxiPoint, TpxiSize, const TpxiWarpSpec*, Tpx8u*);
+
+// Of an interpolation, by channels.
+#define TPX_WARP_CALLS(stem) \
+    { stem##C1R, stem##C3R, stem##C4R }
+
+// A type's names add kType, kGetSize, kInitialise and kCalls.
+template <class Sample, class JobOfMap>
+struct WarpNames {
+    using T = Sample;
+    using Job = JobOfMap;
+    static WarpCall<T> call(const WarpCall<T> (&calls)[3][3], TpxInterpolationType kind, int channels) {
+        return calls[kind == tpxInterpolationNearest  ? 0
+                     : kind == tpxInterpolationLinear ? 1
+                                                      : 2][channels == 1 ? 0 : channels - 2];
+    }
+};
+
+// A plan in memory of exactly the size asked for, between unreadable pages, at an odd address.
+template <class Names>
+class WarpPlan {
+ public:
+    using T = typename Names::T;
+
+    using Job = typename Names::Job;
+
+    explicit WarpPlan(const Job& job, int misalign = 1) : job_(job), misalign_(misalign) {
+        int bytes = 0, init = 0;
+        EXPECT_EQ(tpxOk, Names::kGetSize(job, Names::kType, &bytes, &init));
+        memory_ = std::make_unique<GuardedBytes>(size_t(bytes), size_t(misalign));
+        memory_->fill(0xCD);
+        GuardedBytes work{size_t(init)};
+        status = Names::kInitialise(job, Names::kType, kValue, spec(), work.data());
+    }
+    TpxiWarpSpec* spec() const { return reinterpret_cast<TpxiWarpSpec*>(memory_->data()); }
+    size_t bytes() const { return memory_->size(); }
+
+    // A tile whose first pixel is the first of `dst`. `src` is the source's first pixel.
+    TpxStatus run(const T* src, int srcStep, T* dst, int dstStep, TpxiRect tile) const {
+        int bytes = 0;
+        EXPECT_GE(tpxiWarpGetBufferSize(spec(), {tile.width, tile.height}, &bytes), tpxOk);
+        GuardedBytes work{size_t(bytes), size_t(misalign_)};
+        return Names::call(Names::kCalls, job_.kind, job_.channels)(
+            src, srcStep, dst, dstStep, {tile.x, tile.y}, {tile.width, tile.height}, spec(), work.data());
+    }
+    TpxStatus run(const GuardedImage<T>& src, GuardedImage<T>& dst) const {
+        return run(src.data(), src.step(), dst.data(), dst.step(), {0, 0, dst.width(), dst.height()});
+    }
+    TpxStatus status;
+
+ private:
+    Job job_;
+    int misalign_;
+    std::unique_ptr<GuardedBytes> memory_;
+};
+
+// ---- Beside the model ------------------------------------------------------------------------------------
+
+// How far samples may be from the model's, apart from rounding: fractions and weights have 24 bits, or 53.
+template <class T>
+constexpr double toleranceOf() {
+    const double range = std::is_integral_v<T> ? double(std::numeric_limits<T>::max()) : 1000;
+    return range * (sizeof(T) == 8 ? 1e-11 : 2e-6) + (std::is_integral_v<T> ? 0.5 : 0);
+}
+
+// Fails at the first sample that is neither the model's nor, if it may be that, what was there before. `image`
+// gives source samples as doubles.
+template <class Model, class T, class Image>
+::testing::AssertionResult fits(const Model& model, const GuardedImage<T>& dst, const GuardedImage<T>& before,
+                                const Image& image) {
+    constexpr double kNear = 1e-6; // of an edge, where either is right
+    const bool nearest = model.interpolation == tpxInterpolationNearest;
+    for (int y = 0; y < dst.height(); y++)
+        for (int x = 0; x < dst.width(); x++) {
+            const WarpPlace at = model.place(x, y);
+            const bool mayStay = (model.leaves() && !model.isMapped(at, -kNear)) || !model.reaches(x, y);
+            const bool mayChange = (!model.leaves() || model.isMapped(at, kNear)) && model.reaches(x, y);
+            for (int c = 0; c < dst.channels(); c++) {
+                const T got = dst.at(x, y, c);
+                if (mayStay && sameBits(got, before.at(x, y, c))) continue;
+                double want = 0;
+                bool found = false;
+                for (int i = nearest ? -1 : 0; i <= int(nearest); i++)
+                    for (int k = nearest ? -1 : 0; k <= int(nearest); k++) {
+                        want = model.sample({at.x + i * kNear, at.y + k * kNear}, c,
+                                            [&](int sx, int sy) { return image(sx, sy, c); });
+                        want = nearest                 ? want
+                               : std::is_integral_v<T> ? std::clamp(want, double(std::numeric_limits<T>::min()),
+                                                                    double(std::numeric_limits<T>::max()))
+                                                       : want;
+                        const double off = std::fabs(double(got) - want);
+                        found = found || (nearest ? off == 0 : off <= toleranceOf<T>());
+                    }
+                if (!mayChange || !found)
+                    return ::testing::AssertionFailure()
+                           << "at " << x << ", " << y << ", channel " << c << ", position " << at.x << ", "
+                           << at.y << " of " << model.src.width << " x " << model.src.height << ", kind "
+                           << model.interpolation << ", border " << std::hex << model.border << ": got " << +got
+                           << ", expected " << (mayChange ? want : double(before.at(x, y, c)));
+            }
+        }
+    if (!dst.paddingIntact()) return ::testing::AssertionFailure() << "bytes between rows were written";
+    return ::testing::AssertionSuccess();
+}
+
+inline std::vector<TpxBorderType> borders() {
+    std::vector<TpxBorderType> words = {tpxBorderInMemAll};
+    for (unsigned kind : {tpxBorderReplicate, tpxBorderConstant, tpxBorderTransparent})
+        for (unsigned sides : {0u, 0x10u, 0x20u, 0x40u, 0x80u, 0xA0u, 0xF0u}) words.push_back(kind | sides);
+    return words;
+}
+
+// The source of a job with just the pixels that may be read: itself, and one pixel further on sides in memory.
+template <class T>
+class WarpSource {
+ public:
+    template <class Job>
+    WarpSource(const Job& job, Lie lie, unsigned seed)
+        : left_(further(job, tpxBorderInMemLeft)),
+          top_(further(job, tpxBorderInMemTop)),
+          image_(job.src.width + left_ + further(job, tpxBorderInMemRight),
+                 job.src.height + top_ + further(job, tpxBorderInMemBottom), job.channels, lie) {
+        image_.randomise(seed);
+    }
+    const T* data() const {
+        return reinterpret_cast<const T*>(
+            reinterpret_cast<const char*>(image_.data() + left_ * image_.channels()) +
+            ptrdiff_t(top_) * image_.step());
+    }
+    int step() const { return image_.step(); }
+    double operator()(int x, int y, int c) const { return double(image_.at(x + left_, y + top_, c)); }
+
+ private:
+    template <class Job>
+    static int further(const Job& job, unsigned side) {
+        const bool leaves = job.border == tpxBorderInMemAll || (job.border & 15) == tpxBorderTransparent;
+        return job.kind == tpxInterpolationCubic && leaves && (job.border & side) != 0;
+    }
+    int left_, top_;
+    GuardedImage<T> image_;
+};
+
+} // namespace tpx::test
