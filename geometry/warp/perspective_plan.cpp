@@ -8,8 +8,7 @@ namespace {
 // ---- What a request comes to -----------------------------------------------------------------------------
 
 struct Request {
-    TpxiSize src;
-    TpxiRect roi;
+    SourceChoice source;
     TpxiSize dst;
     TpxDataType dataType;
     const Tpx64f (*coeffs)[3];
@@ -17,26 +16,7 @@ struct Request {
     int direction;
     TpxBorderType border;
 
-    bool isWhole() const {
-        const TpxiRect whole = tpxiWarpGetRectInfinite();
-        return roi.x == whole.x && roi.y == whole.y && roi.width == whole.width && roi.height == whole.height;
-    }
-    // A rectangle must begin in the source; it may end outside.
-    bool hasRect() const {
-        return isWhole() || (roi.x >= 0 && roi.y >= 0 && roi.x < src.width && roi.y < src.height &&
-                             roi.width >= 1 && roi.height >= 1);
-    }
-    bool isCut() const {
-        return !isWhole() && (roi.width > src.width - roi.x || roi.height > src.height - roi.y);
-    }
-    WarpTask task() const {
-        if (isWhole()) return {{0, 0, src.width, src.height}, dst, dataType, interpolation, border};
-        const TpxiRect part = {roi.x, roi.y, minOf(roi.width, src.width - roi.x),
-                               minOf(roi.height, src.height - roi.y)};
-        // Pixels outside the rectangle's image stay as they were.
-        const auto leaving = TpxBorderType((border & ~15) | tpxBorderTransparent);
-        return {part, dst, dataType, interpolation, leaving};
-    }
+    WarpTask task() const { return {source.part(), dst, dataType, interpolation, source.border(border)}; }
 };
 
 PerspectiveMap mapOf(const Request& request) {
@@ -56,7 +36,7 @@ MapPair<PerspectiveMap> mapsOf(const Request& request) {
     const PerspectiveMap inverse = adjugate.times(det < 0 ? -1 : 1).scaled();
     MapPair<PerspectiveMap> maps = {inverse, map};
     if (request.direction) maps = {map, inverse};
-    if (projected(maps.toDestination, boxOf(request.task().src)).inFront() == 0)
+    if (projected(maps.toDestination, boxOf(request.source.part())).inFront() == 0)
         maps = {maps.toSource.times(-1), maps.toDestination.times(-1)};
     return maps;
 }
@@ -64,7 +44,7 @@ MapPair<PerspectiveMap> mapsOf(const Request& request) {
 // ---- Sizes -----------------------------------------------------------------------------------------------
 
 TpxStatus checkMap(const Request& request) {
-    if (request.src.width == 1 || request.src.height == 1) return tpxErrSize;
+    if (request.source.src.width == 1 || request.source.src.height == 1) return tpxErrSize;
     const PerspectiveMap map = mapOf(request);
     return !map.isFinite() || map.isSingular() ? tpxErrCoefficient : tpxOk;
 }
@@ -72,13 +52,13 @@ TpxStatus checkMap(const Request& request) {
 TpxStatus getSize(const Request& request, int* pSpecSize, int* pInitBufSize) {
     if (!readWarpBorder(request.border).valid) return tpxErrBorder;
     if (anyNull(pSpecSize, pInitBufSize) || anyNull(request.coeffs)) return tpxErrNullPointer;
-    if (isEmpty(request.src) || isEmpty(request.dst)) return tpxErrSize;
-    if (!request.hasRect()) return tpxErrRect;
+    if (isEmpty(request.source.src) || isEmpty(request.dst)) return tpxErrSize;
+    if (!request.source.isValid()) return tpxErrRect;
     if (!isDataType(request.dataType)) return tpxErrDataType;
     if (!isWarpInterpolation(request.interpolation)) return tpxErrInterpolation;
     if (request.direction != 0 && request.direction != 1) return tpxErrWarpDirection;
     if (const TpxStatus status = checkMap(request)) return status;
-    if (isTooHigh(request.src.height, request.dataType)) return tpxErrSize;
+    if (isTooHigh(request.source.src.height, request.dataType)) return tpxErrSize;
     return sizePlan(request.task(), mapsOf(request), false, pSpecSize, pInitBufSize);
 }
 
@@ -88,8 +68,8 @@ TpxStatus initialise(const Request& request, const WarpFilling& filling, const T
     const BorderWord border = readWarpBorder(request.border);
     if (!border.valid) return tpxErrBorder;
     if (anyNull(filling.pSpec) || anyNull(request.coeffs) || anyNull(pInitBuf)) return tpxErrNullPointer;
-    if (isEmpty(request.src) || isEmpty(request.dst)) return tpxErrSize;
-    if (!request.hasRect()) return tpxErrRect;
+    if (isEmpty(request.source.src) || isEmpty(request.dst)) return tpxErrSize;
+    if (!request.source.isValid()) return tpxErrRect;
     if (!isDataType(request.dataType)) return tpxErrDataType;
     if (request.direction != 0 && request.direction != 1) return tpxErrWarpDirection;
     if (border.kind == Border::Const && anyNull(filling.pBorderValue)) return tpxErrNullPointer;
@@ -98,7 +78,7 @@ TpxStatus initialise(const Request& request, const WarpFilling& filling, const T
     if (filling.smoothEdge != 0 && !leavesOutside(border)) return tpxErrUnsupportedMode;
     if (const TpxStatus status = checkMap(request)) return status;
     const TpxStatus status = fillPlan(request.task(), filling, mapsOf(request), nullptr);
-    return status == tpxOk && request.isCut() ? tpxWarnValueAdjusted : status;
+    return status == tpxOk && request.source.isCut() ? tpxWarnValueAdjusted : status;
 }
 
 } // namespace
@@ -109,7 +89,7 @@ TpxStatus initialise(const Request& request, const WarpFilling& filling, const T
 TPX_ENTRY(tpxiWarpPerspectiveGetSize)
 (TpxiSize srcSize, TpxiRect srcRoi, TpxiSize dstSize, TpxDataType dataType, const Tpx64f coeffs[3][3],
  TpxInterpolationType interpolation, int direction, TpxBorderType border, int* pSpecSize, int* pInitBufSize) {
-    return tpx::getSize({srcSize, srcRoi, dstSize, dataType, coeffs, interpolation, direction, border},
+    return tpx::getSize({{srcSize, srcRoi}, dstSize, dataType, coeffs, interpolation, direction, border},
                         pSpecSize, pInitBufSize);
 }
 
@@ -118,7 +98,7 @@ TPX_ENTRY(tpxiWarpPerspectiveNearestInit)
  int direction, int numChannels, TpxBorderType border, const Tpx64f* pBorderValue, int smoothEdge,
  TpxiWarpSpec* pSpec, Tpx8u* pInitBuf) {
     return tpx::initialise(
-        {srcSize, srcRoi, dstSize, dataType, coeffs, tpxInterpolationNearest, direction, border},
+        {{srcSize, srcRoi}, dstSize, dataType, coeffs, tpxInterpolationNearest, direction, border},
         {numChannels, 0, 0, pBorderValue, smoothEdge, pSpec}, pInitBuf);
 }
 
@@ -127,7 +107,7 @@ TPX_ENTRY(tpxiWarpPerspectiveLinearInit)
  int direction, int numChannels, TpxBorderType border, const Tpx64f* pBorderValue, int smoothEdge,
  TpxiWarpSpec* pSpec, Tpx8u* pInitBuf) {
     return tpx::initialise(
-        {srcSize, srcRoi, dstSize, dataType, coeffs, tpxInterpolationLinear, direction, border},
+        {{srcSize, srcRoi}, dstSize, dataType, coeffs, tpxInterpolationLinear, direction, border},
         {numChannels, 0, 0, pBorderValue, smoothEdge, pSpec}, pInitBuf);
 }
 
@@ -136,6 +116,6 @@ TPX_ENTRY(tpxiWarpPerspectiveCubicInit)
  int direction, int numChannels, Tpx64f valueB, Tpx64f valueC, TpxBorderType border, const Tpx64f* pBorderValue,
  int smoothEdge, TpxiWarpSpec* pSpec, Tpx8u* pInitBuf) {
     return tpx::initialise(
-        {srcSize, srcRoi, dstSize, dataType, coeffs, tpxInterpolationCubic, direction, border},
+        {{srcSize, srcRoi}, dstSize, dataType, coeffs, tpxInterpolationCubic, direction, border},
         {numChannels, valueB, valueC, pBorderValue, smoothEdge, pSpec}, pInitBuf);
 }

@@ -58,6 +58,11 @@ struct TpxiWarpSpec {
     // where the contract gives it room.
     tpx::RowTable inner, outer;
     tpx::WholeShift* shift; // or null
+    // Of plans between quadrangles: that of the destination, out of which no pixel is taken from the source,
+    // and the destination's first pixel. Their outer table has what is touched, whatever the border.
+    Tpx32s hasQuad;
+    TpxiPoint first;
+    tpx::Edges quad;
 };
 
 namespace tpx {

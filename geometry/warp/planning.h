@@ -16,6 +16,33 @@ struct WarpTask {
     TpxBorderType border;
 };
 
+// The rectangle of the source that a caller names, or all of it.
+struct SourceChoice {
+    TpxiSize src;
+    TpxiRect roi;
+
+    bool isWhole() const {
+        const TpxiRect whole = tpxiWarpGetRectInfinite();
+        return roi.x == whole.x && roi.y == whole.y && roi.width == whole.width && roi.height == whole.height;
+    }
+    // A rectangle must begin in the source; it may end outside.
+    bool isValid() const {
+        return isWhole() || (roi.x >= 0 && roi.y >= 0 && roi.x < src.width && roi.y < src.height &&
+                             roi.width >= 1 && roi.height >= 1);
+    }
+    bool isCut() const {
+        return !isWhole() && (roi.width > src.width - roi.x || roi.height > src.height - roi.y);
+    }
+    TpxiRect part() const {
+        if (isWhole()) return {0, 0, src.width, src.height};
+        return {roi.x, roi.y, minOf(roi.width, src.width - roi.x), minOf(roi.height, src.height - roi.y)};
+    }
+    // Pixels outside a rectangle's image stay as they were.
+    TpxBorderType border(TpxBorderType given) const {
+        return isWhole() ? given : TpxBorderType((given & ~15) | tpxBorderTransparent);
+    }
+};
+
 // What only initialisers are given.
 struct WarpFilling {
     int numChannels;
@@ -133,6 +160,26 @@ inline TpxStatus sizePlan(const WarpTask& task, const MapPair<Map>& maps, bool i
     return tpxOk;
 }
 
+// The record, but for where its tables lie and what is in them.
+template <class Map>
+inline TpxiWarpSpec recordOf(const WarpTask& task, const WarpFilling& filling, const Map& toSource) {
+    TpxiWarpSpec plan = {};
+    plan.src = task.src;
+    plan.dst = task.dst;
+    plan.kind = kindOf(toSource);
+    plan.dataType = task.dataType;
+    plan.interpolation = task.interpolation;
+    plan.numChannels = filling.numChannels;
+    plan.border = task.border;
+    plan.smoothEdge = filling.smoothEdge != 0;
+    __builtin_memcpy(plan.coeffs, toSource.c, sizeof(toSource.c));
+    plan.valueB = filling.valueB;
+    plan.valueC = filling.valueC;
+    if (readWarpBorder(task.border).kind == Border::Const)
+        for (int c = 0; c < filling.numChannels; c++) plan.borderValue[c] = peek(filling.pBorderValue + c);
+    return plan;
+}
+
 // Fills record and tables. `shift` is null but for whole shifts.
 template <class Map>
 inline TpxStatus fillPlan(const WarpTask& task, const WarpFilling& filling, const MapPair<Map>& maps,
@@ -140,21 +187,7 @@ inline TpxStatus fillPlan(const WarpTask& task, const WarpFilling& filling, cons
     if (!isUsable(maps, task.src)) return tpxErrCoefficient;
     const TpxiSize dst = task.dst;
     const BorderWord border = readWarpBorder(task.border);
-    TpxiWarpSpec plan = {};
-    plan.src = task.src;
-    plan.dst = dst;
-    plan.kind = kindOf(maps.toSource);
-    plan.dataType = task.dataType;
-    plan.interpolation = task.interpolation;
-    plan.numChannels = filling.numChannels;
-    plan.border = task.border;
-    plan.smoothEdge = filling.smoothEdge != 0;
-    __builtin_memcpy(plan.coeffs, maps.toSource.c, sizeof(maps.toSource.c));
-    plan.valueB = filling.valueB;
-    plan.valueC = filling.valueC;
-    if (border.kind == Border::Const)
-        for (int c = 0; c < filling.numChannels; c++) plan.borderValue[c] = peek(filling.pBorderValue + c);
-
+    TpxiWarpSpec plan = recordOf(task, filling, maps.toSource);
     const Tables tables = tablesOf(task);
     BlockLayout block(filling.pSpec);
     layOut(plan, maps.toDestination, tables, dst, shift != nullptr, block);

@@ -92,7 +92,7 @@ bool warpTile(const TpxiWarpSpec& plan, const Interpolation<Real>& how, const Co
     const auto spans = [&](int64_t y, const auto& row) -> RowSpans {
         const Span columns = tile.columns();
         const Span plain = meet(plan.inner.span(y), columns);
-        if (isReplicate) {
+        if (isReplicate && !plan.hasQuad) {
             const Span all = row.mapped(columns);
             return {cubic ? plain : all, all};
         }
@@ -102,7 +102,10 @@ bool warpTile(const TpxiWarpSpec& plan, const Interpolation<Real>& how, const Co
     };
     TileWarp<Real, Coordinates> warp(how, coordinates, from, tile);
     const bool any = warp.run(isConstant ? Outside::BecomeConstant : Outside::Stay, pixel, spans);
-    if (plan.smoothEdge) warp.smooth(imageRegion(plan.src, 0), spans);
+    if (plan.smoothEdge) {
+        const Edges edges = coordinates.edges(imageRegion(plan.src, 0));
+        warp.smooth({edges, plan.hasQuad ? plan.quad : edges}, plan.first, spans);
+    }
     return any;
 }
 

@@ -197,6 +197,23 @@ constexpr ProjectedQuad projected(const Map& map, const Box& box) {
              map.project({box.right, box.bottom}), map.project({box.left, box.bottom})}};
 }
 
+// One map after another.
+constexpr AffineMap after(const AffineMap& then, const AffineMap& first) {
+    AffineMap map = {};
+    for (int i = 0; i < 2; i++)
+        for (int k = 0; k < 3; k++)
+            map.c[i][k] =
+                then.c[i][0] * first.c[0][k] + then.c[i][1] * first.c[1][k] + (k == 2 ? then.c[i][2] : 0);
+    return map;
+}
+constexpr PerspectiveMap after(const PerspectiveMap& then, const PerspectiveMap& first) {
+    PerspectiveMap map = {};
+    for (int i = 0; i < 3; i++)
+        for (int k = 0; k < 3; k++)
+            for (int j = 0; j < 3; j++) map.c[i][k] += then.c[i][j] * first.c[j][k];
+    return map;
+}
+
 // ---- Onto a well-formed quadrangle, from a rectangle that is not one pixel wide or high ------------------
 
 // The fourth corner plays no part: it lies where the others leave it.

@@ -40,6 +40,11 @@ inline void fillPixels(Tpx8u* dst, int64_t count, const Tpx8u* pixel, int bytes)
         __builtin_memcpy(dst + done, dst, size_t(minOf(done, all - done)));
 }
 
+// Edges of the image, and of what else cuts it; the same again if nothing does.
+struct BothEdges {
+    Edges of[2];
+};
+
 template <class Real, class Coordinates>
 class TileWarp {
  public:
@@ -83,14 +88,15 @@ class TileWarp {
 
     // Blends the pixels around the touched ones that are less than one pixel from the mapped image's edge.
     template <class Spans>
-    void smooth(const Region& image, Spans spans) {
-        const Edges edges = coordinates_.edges(image);
+    void smooth(const BothEdges& edges, TpxiPoint first, Spans spans) {
         for (int64_t y = tile_.y; y < tile_.y + tile_.height; y++) {
             const auto row = coordinates_.row(y);
             const Span touched = spans(y, row).touched;
             Span near = row.mapped(tile_.columns());
-            for (const EdgeLine& edge : {edges.left, edges.right, edges.top, edges.bottom})
-                near = spanOf(edge.a, edge.b * double(y) + edge.c, {-1, __builtin_inf()}, near);
+            near = y < first.y ? Span{0, 0} : meet(near, {first.x, near.end});
+            for (const Edges& each : edges.of)
+                for (const EdgeLine& edge : {each.left, each.right, each.top, each.bottom})
+                    near = spanOf(edge.a, edge.b * double(y) + edge.c, {-1, __builtin_inf()}, near);
             if (touched.isEmpty()) {
                 mix(edges, y, near);
             } else {
@@ -156,21 +162,25 @@ class TileWarp {
             patches_.interpolate(row, x, int(minOf<int64_t>(kMost, span.end - x)), from_, at(x, y));
     }
 
-    // How much of the value at the edge a pixel gets that lies outside either of two edges.
-    static double share(const EdgeLine& one, const EdgeLine& other, double x, double y) {
-        const auto inside = [=](const EdgeLine& edge) { return edge.a * x + (edge.b * y + edge.c); };
-        return clampTo(1 + minOf(inside(one), inside(other)), 0.0, 1.0);
+    // How much of the value at the edge a pixel gets that lies outside opposite edges.
+    static double share(const BothEdges& edges, EdgeLine Edges::*one, EdgeLine Edges::*other, double x,
+                        double y) {
+        double least = 0;
+        for (const Edges& each : edges.of)
+            for (const EdgeLine& edge : {each.*one, each.*other})
+                least = minOf(least, edge.a * x + (edge.b * y + edge.c));
+        return clampTo(1 + least, 0.0, 1.0);
     }
 
-    void mix(const Edges& edges, int64_t y, Span span) {
+    void mix(const BothEdges& edges, int64_t y, Span span) {
         constexpr int kMost = Patches<Real>::kMost;
         for (int64_t x = span.begin; x < span.end; x += kMost) {
             const int count = int(minOf<int64_t>(kMost, span.end - x));
             Real shares[kMost];
             for (int i = 0; i < count; i++) {
                 const double px = double(x + i), py = double(y);
-                shares[i] =
-                    Real(share(edges.left, edges.right, px, py) * share(edges.top, edges.bottom, px, py));
+                shares[i] = Real(share(edges, &Edges::left, &Edges::right, px, py) *
+                                 share(edges, &Edges::top, &Edges::bottom, px, py));
             }
             Tpx8u values[kMost * 4 * sizeof(Tpx64f)];
             patches_.interpolate(kernelRow(y), x, count, from_, values);

@@ -411,6 +411,56 @@ TPX_API TpxStatus tpxiWarpPerspectiveCubic_32f_C4R(const Tpx32f* pSrc, int srcSt
                                                    TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
                                                    const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);
 
+/* ---- Plans of warps between quadrangles ----------------------------------------------------------------
+ * A plan that takes the quadrangle srcQuad of the source to dstQuad of the destination, corner by corner, and
+ * no pixel outside dstQuad or outside the rectangle dstRoi. Quadrangles are given by their corners in order,
+ * either way round, in the coordinates of the images; they must be convex with no three corners on a line, and
+ * may reach beyond the rectangles. srcRoi is a rectangle of the source as for perspective warps. dstRoi lies in
+ * the destination, whose size counts as that up to its last pixel; tiles lie at dstRoiOffset from the
+ * destination's first pixel, as ever. Processing is by tpxiWarpPerspective, and for plans of affine maps by
+ * tpxiWarpAffine too.
+ *
+ * transform 1: the perspective map by the four corners, which is affine if both are parallelograms (to 1e-10).
+ * transform 0: the affine map by the first three corners.
+ *
+ * Borders as for perspective warps: with tpxBorderReplicate and tpxBorderConstant (and all of the source)
+ * pixels in dstQuad and dstRoi whose position lies outside the source take what the border says. All pixels out
+ * of dstQuad stay as they were; a constant border fills those of the tile. Smooth edges are those of the source
+ * and of dstQuad, and lie in dstRoi's columns and rows from its first ones on.
+ *
+ * Statuses of tpxiWarpQuadGetSize, in order: tpxErrBorder; tpxErrNullPointer (a quadrangle or a result);
+ * tpxErrSize (a source below 1); tpxErrRect (srcRoi as for perspective warps; dstRoi of a negative origin, a
+ * size below 1, or an end beyond 31 bits); tpxErrDataType (not 8u, 16u, 16s or 32f); tpxErrInterpolation;
+ * tpxErrWarpTransform (transform neither 0 nor 1); tpxErrSize (a source of one row or column, or too high);
+ * tpxErrRect (one row or column of the source); tpxErrQuad; tpxErrSize (a plan of more than 31 bits); tpxOk.
+ *
+ * Of the initialisers: tpxErrBorder; tpxErrNullPointer (plan, quadrangles, initialisation buffer); tpxErrSize;
+ * tpxErrRect; tpxErrDataType; tpxErrWarpTransform; tpxErrNullPointer (no border value for a constant border);
+ * tpxErrChannelCount; tpxErrUnsupportedMode (smoothEdge with a replicate or constant border); tpxErrSize (a
+ * source of one row or column); tpxErrRect; tpxErrQuad; tpxErrWarpTransform (the map's coefficients are not
+ * finite); tpxWarnNoQuadOverlap (no pixel is touched, and the border leaves pixels as they were);
+ * tpxWarnNotParallelogram (transform 0 of other quadrangles; the plan is complete); tpxWarnValueAdjusted
+ * (srcRoi was cut; the plan is complete); tpxOk. */
+TPX_API TpxStatus tpxiWarpQuadGetSize(TpxiSize srcSize, TpxiRect srcRoi, const Tpx64f srcQuad[4][2],
+                                      TpxiRect dstRoi, const Tpx64f dstQuad[4][2], int transform,
+                                      TpxDataType dataType, TpxInterpolationType interpolation,
+                                      TpxBorderType border, int* pSpecSize, int* pInitBufSize);
+TPX_API TpxStatus tpxiWarpQuadNearestInit(TpxiSize srcSize, TpxiRect srcRoi, const Tpx64f srcQuad[4][2],
+                                          TpxiRect dstRoi, const Tpx64f dstQuad[4][2], int transform,
+                                          TpxDataType dataType, int numChannels, TpxBorderType border,
+                                          const Tpx64f* pBorderValue, int smoothEdge, TpxiWarpSpec* pSpec,
+                                          Tpx8u* pInitBuf);
+TPX_API TpxStatus tpxiWarpQuadLinearInit(TpxiSize srcSize, TpxiRect srcRoi, const Tpx64f srcQuad[4][2],
+                                         TpxiRect dstRoi, const Tpx64f dstQuad[4][2], int transform,
+                                         TpxDataType dataType, int numChannels, TpxBorderType border,
+                                         const Tpx64f* pBorderValue, int smoothEdge, TpxiWarpSpec* pSpec,
+                                         Tpx8u* pInitBuf);
+TPX_API TpxStatus tpxiWarpQuadCubicInit(TpxiSize srcSize, TpxiRect srcRoi, const Tpx64f srcQuad[4][2],
+                                        TpxiRect dstRoi, const Tpx64f dstQuad[4][2], int transform,
+                                        TpxDataType dataType, int numChannels, Tpx64f valueB, Tpx64f valueC,
+                                        TpxBorderType border, const Tpx64f* pBorderValue, int smoothEdge,
+                                        TpxiWarpSpec* pSpec, Tpx8u* pInitBuf);
+
 TPX_EXTERN_C_END
 
 #endif
