@@ -81,6 +81,7 @@ void makeSheet(const Options& options) {
     sheet.section("The photograph, and linear resize");
     sheet.add(source.view(), {"Original", "", text(source.size()), ""}, 2);
     resizes(gallery, source);
+    warps(gallery, source);
     toneCurves(gallery, source);
     channels(gallery, source);
     borders(gallery, source);

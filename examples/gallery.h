@@ -77,6 +77,7 @@ class Gallery {
 
 // The sections of the sheet, by family.
 void resizes(Gallery& gallery, const Image8u& source);
+void warps(Gallery& gallery, const Image8u& source);
 void toneCurves(Gallery& gallery, const Image8u& source);
 void twoImages(Gallery& gallery, const Image8u& source);
 void channels(Gallery& gallery, const Image8u& source);

@@ -82,10 +82,7 @@ TpxStatus initialise(const Request& request, const WarpFilling& filling, const v
     if (request.direction != 0 && request.direction != 1) return tpxErrWarpDirection;
     const AffineMap map = mapOf(request);
     if (!map.isFinite() || map.isSingular()) return tpxErrCoefficient;
-    if (border.kind == Border::Const && anyNull(filling.pBorderValue)) return tpxErrNullPointer;
-    if (filling.numChannels != 1 && filling.numChannels != 3 && filling.numChannels != 4)
-        return tpxErrChannelCount;
-    if (filling.smoothEdge != 0 && !leavesOutside(border)) return tpxErrUnsupportedMode;
+    if (const TpxStatus status = checkFilling(filling, border)) return status;
     if (src.width == 1 || src.height == 1) return tpxErrSize;
     const MapPair<AffineMap> maps = mapsOf(request);
     const auto whole = [](double by) { return int64_t(clampTo(by, -0x1p40, 0x1p40)); };

@@ -30,10 +30,7 @@ PerspectiveMap mapOf(const Request& request) {
 MapPair<PerspectiveMap> mapsOf(const Request& request) {
     PerspectiveMap map = mapOf(request).scaled();
     if (map.c[2][2] < 0) map = map.times(-1);
-    const PerspectiveMap adjugate = map.adjugate();
-    double det = 0;
-    for (int k = 0; k < 3; k++) det += map.c[0][k] * adjugate.c[k][0];
-    const PerspectiveMap inverse = adjugate.times(det < 0 ? -1 : 1).scaled();
+    const PerspectiveMap inverse = map.adjugate().times(map.determinant() < 0 ? -1 : 1).scaled();
     MapPair<PerspectiveMap> maps = {inverse, map};
     if (request.direction) maps = {map, inverse};
     if (projected(maps.toDestination, boxOf(request.source.part())).inFront() == 0)
@@ -64,7 +61,7 @@ TpxStatus getSize(const Request& request, int* pSpecSize, int* pInitBufSize) {
 
 // ---- Initialisers ----------------------------------------------------------------------------------------
 
-TpxStatus initialise(const Request& request, const WarpFilling& filling, const Tpx8u* pInitBuf) {
+TpxStatus initialise(const Request& request, const WarpFilling& filling, const void* pInitBuf) {
     const BorderWord border = readWarpBorder(request.border);
     if (!border.valid) return tpxErrBorder;
     if (anyNull(filling.pSpec) || anyNull(request.coeffs) || anyNull(pInitBuf)) return tpxErrNullPointer;
@@ -72,10 +69,7 @@ TpxStatus initialise(const Request& request, const WarpFilling& filling, const T
     if (!request.source.isValid()) return tpxErrRect;
     if (!isDataType(request.dataType)) return tpxErrDataType;
     if (request.direction != 0 && request.direction != 1) return tpxErrWarpDirection;
-    if (border.kind == Border::Const && anyNull(filling.pBorderValue)) return tpxErrNullPointer;
-    if (filling.numChannels != 1 && filling.numChannels != 3 && filling.numChannels != 4)
-        return tpxErrChannelCount;
-    if (filling.smoothEdge != 0 && !leavesOutside(border)) return tpxErrUnsupportedMode;
+    if (const TpxStatus status = checkFilling(filling, border)) return status;
     if (const TpxStatus status = checkMap(request)) return status;
     const TpxStatus status = fillPlan(request.task(), filling, mapsOf(request), nullptr);
     return status == tpxOk && request.source.isCut() ? tpxWarnValueAdjusted : status;
@@ -96,19 +90,19 @@ TPX_ENTRY(tpxiWarpPerspectiveGetSize)
 TPX_ENTRY(tpxiWarpPerspectiveNearestInit)
 (TpxiSize srcSize, TpxiRect srcRoi, TpxiSize dstSize, TpxDataType dataType, const Tpx64f coeffs[3][3],
  int direction, int numChannels, TpxBorderType border, const Tpx64f* pBorderValue, int smoothEdge,
- TpxiWarpSpec* pSpec, Tpx8u* pInitBuf) {
+ TpxiWarpSpec* pSpec, Tpx8u*) {
     return tpx::initialise(
         {{srcSize, srcRoi}, dstSize, dataType, coeffs, tpxInterpolationNearest, direction, border},
-        {numChannels, 0, 0, pBorderValue, smoothEdge, pSpec}, pInitBuf);
+        {numChannels, 0, 0, pBorderValue, smoothEdge, pSpec}, pSpec);
 }
 
 TPX_ENTRY(tpxiWarpPerspectiveLinearInit)
 (TpxiSize srcSize, TpxiRect srcRoi, TpxiSize dstSize, TpxDataType dataType, const Tpx64f coeffs[3][3],
  int direction, int numChannels, TpxBorderType border, const Tpx64f* pBorderValue, int smoothEdge,
- TpxiWarpSpec* pSpec, Tpx8u* pInitBuf) {
+ TpxiWarpSpec* pSpec, Tpx8u*) {
     return tpx::initialise(
         {{srcSize, srcRoi}, dstSize, dataType, coeffs, tpxInterpolationLinear, direction, border},
-        {numChannels, 0, 0, pBorderValue, smoothEdge, pSpec}, pInitBuf);
+        {numChannels, 0, 0, pBorderValue, smoothEdge, pSpec}, pSpec);
 }
 
 TPX_ENTRY(tpxiWarpPerspectiveCubicInit)

@@ -52,6 +52,14 @@ struct WarpFilling {
     TpxiWarpSpec* pSpec;
 };
 
+// What initialisers check of it, one after the other.
+inline TpxStatus checkFilling(const WarpFilling& filling, BorderWord border) {
+    if (border.kind == Border::Const && anyNull(filling.pBorderValue)) return tpxErrNullPointer;
+    if (filling.numChannels != 1 && filling.numChannels != 3 && filling.numChannels != 4)
+        return tpxErrChannelCount;
+    return filling.smoothEdge != 0 && !leavesOutside(border) ? tpxErrUnsupportedMode : tpxOk;
+}
+
 // ---- Maps ------------------------------------------------------------------------------------------------
 
 // A map and its inverse.
@@ -70,7 +78,8 @@ template <class Map>
 inline bool isUsable(const MapPair<Map>& maps, TpxiRect src) {
     if (!maps.toSource.isFinite() || !maps.toDestination.isFinite()) return false;
     const ProjectedQuad image = projected(maps.toDestination, boxOf(src));
-    return image.inFront() == 4 ? image.flat().isWellFormed() : image.inFront() > 0;
+    return image.inFront() == 4 ? image.flat().isWellFormed()
+                                : image.inFront() > 0 && maps.toSource.determinant() != 0;
 }
 
 // ---- Tables ----------------------------------------------------------------------------------------------

@@ -34,12 +34,6 @@ struct Request {
     static constexpr int kMost = 0x7fffffff;
 };
 
-Quad readQuad(const Tpx64f (*quad)[2]) {
-    Quad read;
-    for (int k = 0; k < 4; k++) read.corner[k] = {quad[k][0], quad[k][1]};
-    return read;
-}
-
 struct Quads {
     Quad src, dst;
 
@@ -48,18 +42,27 @@ struct Quads {
     bool areParallelograms() const { return src.isParallelogram() && dst.isParallelogram(); }
 };
 
-// From the destination's quadrangle to the source's, by way of the unit square.
-constexpr Box kUnit = {0, 0, 1, 1};
-
+// From the destination's quadrangle to the source's. Divided last, so that shifts and turns by quarters, and
+// scales by powers of two, of quadrangles at whole positions are exact.
 AffineMap affineMap(const Quads& quads) {
-    AffineMap toSource, toDestination;
-    mapOnto(quads.src, kUnit, toSource);
-    mapOnto(quads.dst, kUnit, toDestination);
-    return after(toSource, toDestination.inverse());
+    const Point top = quads.dst.edge(0), right = quads.dst.edge(1), origin = quads.dst.corner[0];
+    const Point srcTop = quads.src.edge(0), srcRight = quads.src.edge(1), srcOrigin = quads.src.corner[0];
+    const double cross = top.x * right.y - right.x * top.y;
+    AffineMap map;
+    const auto fill = [&](double(&c)[3], double alongTop, double alongRight, double start) {
+        c[0] = (alongTop * right.y - alongRight * top.y) / cross;
+        c[1] = (alongRight * top.x - alongTop * right.x) / cross;
+        c[2] = start - c[0] * origin.x - c[1] * origin.y;
+    };
+    fill(map.c[0], srcTop.x, srcRight.x, srcOrigin.x);
+    fill(map.c[1], srcTop.y, srcRight.y, srcOrigin.y);
+    return map;
 }
 
-// Divisors are positive on the side of the horizon where the destination's quadrangle lies.
+// By way of the unit square. Divisors are positive on the side of the horizon where the destination's
+// quadrangle lies.
 PerspectiveMap perspectiveMap(const Quads& quads) {
+    constexpr Box kUnit = {0, 0, 1, 1};
     PerspectiveMap toSource, toDestination;
     mapOnto(quads.src, kUnit, toSource);
     mapOnto(quads.dst, kUnit, toDestination);
@@ -156,7 +159,7 @@ TpxStatus getSize(const Request& request, int* pSpecSize, int* pInitBufSize) {
     return tpxOk;
 }
 
-TpxStatus initialise(const Request& request, const WarpFilling& filling, const Tpx8u* pInitBuf) {
+TpxStatus initialise(const Request& request, const WarpFilling& filling, const void* pInitBuf) {
     const TpxiSize src = request.source.src;
     const BorderWord border = readWarpBorder(request.border);
     if (!border.valid) return tpxErrBorder;
@@ -166,10 +169,7 @@ TpxStatus initialise(const Request& request, const WarpFilling& filling, const T
     if (!request.source.isValid() || !request.hasDestination()) return tpxErrRect;
     if (!isDataType(request.dataType)) return tpxErrDataType;
     if (request.transform != 0 && request.transform != 1) return tpxErrWarpTransform;
-    if (border.kind == Border::Const && anyNull(filling.pBorderValue)) return tpxErrNullPointer;
-    if (filling.numChannels != 1 && filling.numChannels != 3 && filling.numChannels != 4)
-        return tpxErrChannelCount;
-    if (filling.smoothEdge != 0 && !leavesOutside(border)) return tpxErrUnsupportedMode;
+    if (const TpxStatus status = checkFilling(filling, border)) return status;
     const TpxiRect part = request.source.part();
     if (src.width == 1 || src.height == 1) return tpxErrSize;
     if (part.width == 1 || part.height == 1) return tpxErrRect;
@@ -201,19 +201,19 @@ TPX_ENTRY(tpxiWarpQuadGetSize)
 TPX_ENTRY(tpxiWarpQuadNearestInit)
 (TpxiSize srcSize, TpxiRect srcRoi, const Tpx64f srcQuad[4][2], TpxiRect dstRoi, const Tpx64f dstQuad[4][2],
  int transform, TpxDataType dataType, int numChannels, TpxBorderType border, const Tpx64f* pBorderValue,
- int smoothEdge, TpxiWarpSpec* pSpec, Tpx8u* pInitBuf) {
+ int smoothEdge, TpxiWarpSpec* pSpec, Tpx8u*) {
     return tpx::initialise(
         {{srcSize, srcRoi}, srcQuad, dstRoi, dstQuad, transform, dataType, tpxInterpolationNearest, border},
-        {numChannels, 0, 0, pBorderValue, smoothEdge, pSpec}, pInitBuf);
+        {numChannels, 0, 0, pBorderValue, smoothEdge, pSpec}, pSpec);
 }
 
 TPX_ENTRY(tpxiWarpQuadLinearInit)
 (TpxiSize srcSize, TpxiRect srcRoi, const Tpx64f srcQuad[4][2], TpxiRect dstRoi, const Tpx64f dstQuad[4][2],
  int transform, TpxDataType dataType, int numChannels, TpxBorderType border, const Tpx64f* pBorderValue,
- int smoothEdge, TpxiWarpSpec* pSpec, Tpx8u* pInitBuf) {
+ int smoothEdge, TpxiWarpSpec* pSpec, Tpx8u*) {
     return tpx::initialise(
         {{srcSize, srcRoi}, srcQuad, dstRoi, dstQuad, transform, dataType, tpxInterpolationLinear, border},
-        {numChannels, 0, 0, pBorderValue, smoothEdge, pSpec}, pInitBuf);
+        {numChannels, 0, 0, pBorderValue, smoothEdge, pSpec}, pSpec);
 }
 
 TPX_ENTRY(tpxiWarpQuadCubicInit)

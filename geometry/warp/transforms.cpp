@@ -29,12 +29,6 @@ void writeMap(const Map& map, Tpx64f (*coeffs)[Columns]) {
     }
 }
 
-Quad readQuad(const Tpx64f (*quad)[2]) {
-    Quad read;
-    for (int k = 0; k < 4; k++) read.corner[k] = {quad[k][0], quad[k][1]};
-    return read;
-}
-
 TpxStatus checkRoi(TpxiRect roi) { return roi.x < 0 || roi.y < 0 || isEmpty(roi) ? tpxErrSize : tpxOk; }
 
 // ---- Rectangles through maps -----------------------------------------------------------------------------

@@ -115,6 +115,10 @@ struct PerspectiveMap {
             }
         return map;
     }
+    constexpr double determinant() const {
+        const PerspectiveMap inverse = adjugate();
+        return c[0][0] * inverse.c[0][0] + c[0][1] * inverse.c[1][0] + c[0][2] * inverse.c[2][0];
+    }
 };
 
 // x' = c00 x y + c01 x + c02 y + c03, y' likewise.
@@ -168,6 +172,13 @@ struct Quad {
     }
 };
 
+// As callers give it.
+inline Quad readQuad(const Tpx64f (*quad)[2]) {
+    Quad read;
+    for (int k = 0; k < 4; k++) read.corner[k] = {quad[k][0], quad[k][1]};
+    return read;
+}
+
 template <class Map>
 constexpr Quad mapped(const Map& map, const Box& box) {
     return {{map({box.left, box.top}), map({box.right, box.top}), map({box.right, box.bottom}),
@@ -198,14 +209,6 @@ constexpr ProjectedQuad projected(const Map& map, const Box& box) {
 }
 
 // One map after another.
-constexpr AffineMap after(const AffineMap& then, const AffineMap& first) {
-    AffineMap map = {};
-    for (int i = 0; i < 2; i++)
-        for (int k = 0; k < 3; k++)
-            map.c[i][k] =
-                then.c[i][0] * first.c[0][k] + then.c[i][1] * first.c[1][k] + (k == 2 ? then.c[i][2] : 0);
-    return map;
-}
 constexpr PerspectiveMap after(const PerspectiveMap& then, const PerspectiveMap& first) {
     PerspectiveMap map = {};
     for (int i = 0; i < 3; i++)

@@ -276,11 +276,12 @@ TPX_API TpxStatus tpxiWarpAffineCubic_64f_C4R(const Tpx64f* pSrc, int srcStep, T
  * mapped source is no quadrangle in double precision, as for a rectangle of one row or column); tpxErrSize (a
  * plan of more than 31 bits); tpxOk.
  *
- * Of the initialisers: tpxErrBorder; tpxErrNullPointer (plan, coefficients, initialisation buffer); tpxErrSize;
- * tpxErrRect; tpxErrDataType; tpxErrWarpDirection; tpxErrNullPointer (no border value for a constant border);
- * tpxErrChannelCount; tpxErrUnsupportedMode (smoothEdge with a replicate or constant border, be there a
- * rectangle or not); tpxErrSize (a source of one row or column); tpxErrCoefficient; tpxWarnNoQuadOverlap (as
- * for affine plans); tpxWarnValueAdjusted (the rectangle was cut; the plan is complete); tpxOk. */
+ * Of the initialisers: tpxErrBorder; tpxErrNullPointer (plan, coefficients, the initialisation buffer of
+ * cubic); tpxErrSize; tpxErrRect; tpxErrDataType; tpxErrWarpDirection; tpxErrNullPointer (no border value for a
+ * constant border); tpxErrChannelCount; tpxErrUnsupportedMode (smoothEdge with a replicate or constant border,
+ * be there a rectangle or not); tpxErrSize (a source of one row or column); tpxErrCoefficient;
+ * tpxWarnNoQuadOverlap (as for affine plans); tpxWarnValueAdjusted (the rectangle was cut; the plan is
+ * complete); tpxOk. */
 TPX_API TpxStatus tpxiWarpPerspectiveGetSize(TpxiSize srcSize, TpxiRect srcRoi, TpxiSize dstSize,
                                              TpxDataType dataType, const Tpx64f coeffs[3][3],
                                              TpxInterpolationType interpolation, int direction,
@@ -434,12 +435,12 @@ TPX_API TpxStatus tpxiWarpPerspectiveCubic_32f_C4R(const Tpx32f* pSrc, int srcSt
  * tpxErrWarpTransform (transform neither 0 nor 1); tpxErrSize (a source of one row or column, or too high);
  * tpxErrRect (one row or column of the source); tpxErrQuad; tpxErrSize (a plan of more than 31 bits); tpxOk.
  *
- * Of the initialisers: tpxErrBorder; tpxErrNullPointer (plan, quadrangles, initialisation buffer); tpxErrSize;
- * tpxErrRect; tpxErrDataType; tpxErrWarpTransform; tpxErrNullPointer (no border value for a constant border);
- * tpxErrChannelCount; tpxErrUnsupportedMode (smoothEdge with a replicate or constant border); tpxErrSize (a
- * source of one row or column); tpxErrRect; tpxErrQuad; tpxErrWarpTransform (the map's coefficients are not
- * finite); tpxWarnNoQuadOverlap (no pixel is touched, and the border leaves pixels as they were);
- * tpxWarnNotParallelogram (transform 0 of other quadrangles; the plan is complete); tpxWarnValueAdjusted
+ * Of the initialisers: tpxErrBorder; tpxErrNullPointer (plan, quadrangles, the initialisation buffer of cubic);
+ * tpxErrSize; tpxErrRect; tpxErrDataType; tpxErrWarpTransform; tpxErrNullPointer (no border value for a
+ * constant border); tpxErrChannelCount; tpxErrUnsupportedMode (smoothEdge with a replicate or constant border);
+ * tpxErrSize (a source of one row or column); tpxErrRect; tpxErrQuad; tpxErrWarpTransform (the map's
+ * coefficients are not finite); tpxWarnNoQuadOverlap (no pixel is touched, and the border leaves pixels as they
+ * were); tpxWarnNotParallelogram (transform 0 of other quadrangles; the plan is complete); tpxWarnValueAdjusted
  * (srcRoi was cut; the plan is complete); tpxOk. */
 TPX_API TpxStatus tpxiWarpQuadGetSize(TpxiSize srcSize, TpxiRect srcRoi, const Tpx64f srcQuad[4][2],
                                       TpxiRect dstRoi, const Tpx64f dstQuad[4][2], int transform,

@@ -584,85 +584,16 @@ TEST(WarpAffineChecks, InOrder) {
     }
 }
 
-struct CallArgs {
-    const Tpx16u* src;
-    Tpx16u* dst;
-    const TpxiWarpSpec* spec;
-    Tpx8u* buffer;
-    TpxiPoint at{0, 0};
-    TpxiSize size{9, 9};
-    int srcStep = 16, dstStep = 18;
-};
-
-TEST(WarpAffineChecks, OfProcessingInOrder) {
+TYPED_TEST(WarpAffine, ProcessingChecksInOrder) {
+    using Other = std::conditional_t<std::is_same_v<TypeParam, Names16u>, Names16s, Names16u>;
     const Job job{{8, 8}, {9, 9}, {{{1, 0.5, 0}, {0, 1, 0}}}};
-    Job other = job, miss = job;
+    Job miss = job;
     miss.coeffs[0][2] = 500;
-    const Plan<Names16u> plan(job), missing(miss);
-    const Plan<Names16s> otherType(job);
-    other.kind = tpxInterpolationNearest;
-    const Plan<Names16u> otherKind(other);
-    other = job;
-    other.channels = 3;
-    const Plan<Names16u> otherChannels(other);
-    std::vector<Tpx16u> src(64), dst(81);
-    Tpx8u buffer[64];
-    using F = Fault<CallArgs>;
-    const F zero{"size", [](CallArgs& a) { a.size = {0, 9}; }, tpxWarnNoOperation};
-    const F zeroHeight{"size", [](CallArgs& a) { a.size = {9, 0}; }, tpxWarnNoOperation};
-    const F zeroBoth{"size", [](CallArgs& a) { a.size = {0, 0}; }, tpxWarnNoOperation};
-    const auto using_ = [](const TpxiWarpSpec* spec) { return [spec](CallArgs& a) { a.spec = spec; }; };
-    const std::vector<F> faults = {
-        {"source", [](CallArgs& a) { a.src = nullptr; }, tpxErrNullPointer},
-        {"destination", [](CallArgs& a) { a.dst = nullptr; }, tpxErrNullPointer},
-        {"plan", [](CallArgs& a) { a.spec = nullptr; }, tpxErrNullPointer},
-        {"buffer", [](CallArgs& a) { a.buffer = nullptr; }, tpxErrNullPointer},
-        zero,
-        zeroHeight,
-        zeroBoth,
-        {"plan", using_(otherType.spec()), tpxErrContext},
-        {"plan", using_(otherKind.spec()), tpxErrContext},
-        {"plan", using_(otherChannels.spec()), tpxErrContext},
-        {"size",
-         [](CallArgs& a) {
-             a.size = {-1, 0};
-         },
-         tpxErrSize},
-        {"size",
-         [](CallArgs& a) {
-             a.size = {0, -1};
-         },
-         tpxErrSize},
-        {"size",
-         [](CallArgs& a) {
-             a.size = {5, -1};
-         },
-         tpxErrSize},
-        {"source step", [](CallArgs& a) { a.srcStep = 17; }, tpxErrStep},
-        {"destination step", [](CallArgs& a) { a.dstStep = 19; }, tpxErrStep},
-        {"offset", [](CallArgs& a) { a.at.x = -1; }, tpxErrOutOfRange},
-        {"offset", [](CallArgs& a) { a.at.y = -1; }, tpxErrOutOfRange},
-        {"offset", [](CallArgs& a) { a.at.x = 9; }, tpxErrOutOfRange},
-        {"offset", [](CallArgs& a) { a.at.y = 9; }, tpxErrOutOfRange},
-        {"plan", using_(missing.spec()), tpxWarnNoQuadOverlap},
-        {"tile", [](CallArgs& a) { a.size.width = 10; }, tpxWarnValueAdjusted},
-        {"tile", [](CallArgs& a) { a.size.height = 10; }, tpxWarnValueAdjusted},
-    };
-    const CallArgs good{src.data(), dst.data(), plan.spec(), buffer};
-    const auto call = [](const CallArgs& a) {
-        return tpxiWarpAffineLinear_16u_C1R(a.src, a.srcStep, a.dst, a.dstStep, a.at, a.size, a.spec, a.buffer);
-    };
-    EXPECT_EQ(tpxOk, call(good));
-    // Sizes hide each other, so those pairs are left out by name above, but for a tile that is too large.
-    std::vector<F> combined;
-    for (const F& f : faults)
-        if (f.name != "tile") combined.push_back(f);
-    expectCheckOrder(good, combined, call);
-    for (const F& f : faults) {
-        CallArgs one = good;
-        f.apply(one);
-        EXPECT_EQ(f.status, call(one)) << f.name;
-    }
+    expectProcessingChecks<TypeParam, Other>(job, miss);
+}
+
+TEST(WarpAffineChecks, OfTheBufferSizeInOrder) {
+    const Plan<Names16u> plan({{8, 8}, {9, 9}, {{{1, 0.5, 0}, {0, 1, 0}}}});
     int bytes = 0;
     EXPECT_EQ(tpxErrNullPointer, tpxiWarpGetBufferSize(nullptr, {4, 4}, &bytes));
     EXPECT_EQ(tpxErrNullPointer, tpxiWarpGetBufferSize(plan.spec(), {4, 4}, nullptr));

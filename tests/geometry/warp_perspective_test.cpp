@@ -272,10 +272,10 @@ TYPED_TEST(WarpPerspective, TilesEqualOneCall) {
 TYPED_TEST(WarpPerspective, RectanglesAreImages) {
     using T = typename TypeParam::T;
     unsigned turn = 0;
-    for (const TpxiRect roi : {TpxiRect{7, 5, 13, 9}, {0, 0, 2, 2}, {20, 11, 100, 2147483647}})
+    for (const TpxiRect roi : {TpxiRect{7, 5, 13, 9}, {0, 0, 3, 3}, {20, 11, 100, 2147483647}})
         for (TpxInterpolationType kind : kKinds)
             for (TpxBorderType border : {tpxBorderTransparent, tpxBorderReplicate, tpxBorderConstant}) {
-                Job job{{31, 22}, {40, 37}, {}, 1, kind, border, ++turn % 2 ? 1 : 3};
+                Job job{{31, 22}, {64, 60}, {}, 1, kind, border, ++turn % 2 ? 1 : 3};
                 job.coeffs = {seen(job.src, job.dst, 20 * turn, 1.3, 0.3, -0.2), roi};
                 const TpxiSize part = {std::min(roi.width, 31 - roi.x), std::min(roi.height, 22 - roi.y)};
                 PerspectiveWarp model = modelOf<T>(job);
@@ -287,7 +287,7 @@ TYPED_TEST(WarpPerspective, RectanglesAreImages) {
                 model.border = tpxBorderTransparent;
                 // Only the rectangle is readable.
                 GuardedImage<T> src(part.width, part.height, job.channels, {0, Edge::End, 0});
-                GuardedImage<T> dst(40, 37, job.channels), before(40, 37, job.channels);
+                GuardedImage<T> dst(64, 60, job.channels), before(64, 60, job.channels);
                 src.randomise(turn);
                 dst.randomise(turn + 5);
                 before.copySamplesFrom(dst);
@@ -297,7 +297,7 @@ TYPED_TEST(WarpPerspective, RectanglesAreImages) {
                 const T* const first = reinterpret_cast<const T*>(reinterpret_cast<uintptr_t>(src.data()) -
                                                                   uintptr_t(ptrdiff_t(roi.y) * src.step()) -
                                                                   roi.x * job.channels * sizeof(T));
-                EXPECT_EQ(tpxOk, plan.run(first, src.step(), dst.data(), dst.step(), {0, 0, 40, 37}));
+                EXPECT_EQ(tpxOk, plan.run(first, src.step(), dst.data(), dst.step(), {0, 0, 64, 60}));
                 EXPECT_TRUE(
                     fits(model, dst, before, [&](int x, int y, int c) { return double(src.at(x, y, c)); }));
             }
@@ -502,25 +502,39 @@ TEST(WarpPerspectiveChecks, InOrder) {
         int bytes = 0, init = 0;
         ASSERT_EQ(tpxOk, getSize(args.job, args.type, &bytes, &init));
         std::vector<Tpx8u> block(size_t(bytes) + 8 * 10), work(64);
-        expectCheckOrder(
-            args,
-            {border, coeffs, first, second, src, dst, left, top, right, below, empty, type, direction, value,
-             channels, smooth, narrow, flat, singular},
-            [&](const PlanArgs& a) {
-                const auto c = a.noCoeffs ? nullptr : arrayOf(a.job.coeffs.c);
-                const auto spec = a.noFirst ? nullptr : reinterpret_cast<TpxiWarpSpec*>(block.data());
-                Tpx8u* const init = a.noSecond ? nullptr : work.data();
-                const double* const v = a.noValue ? nullptr : kValue;
-                const Job& j = a.job;
-                const TpxiRect r = j.coeffs.roi;
-                if (good == tpxInterpolationCubic)
-                    return tpxiWarpPerspectiveCubicInit(j.src, r, j.dst, a.type, c, j.direction, j.channels, 0,
-                                                        0.5, j.border, v, j.smoothEdge, spec, init);
-                return (good == tpxInterpolationLinear ? tpxiWarpPerspectiveLinearInit
-                                                       : tpxiWarpPerspectiveNearestInit)(
-                    j.src, r, j.dst, a.type, c, j.direction, j.channels, j.border, v, j.smoothEdge, spec, init);
-            });
+        std::vector<F> faults = {border, coeffs, first,     src,   dst,      left,   top,    right, below,
+                                 empty,  type,   direction, value, channels, smooth, narrow, flat,  singular};
+        if (good == tpxInterpolationCubic) faults.insert(faults.begin() + 3, second);
+        expectCheckOrder(args, faults, [&](const PlanArgs& a) {
+            const auto c = a.noCoeffs ? nullptr : arrayOf(a.job.coeffs.c);
+            const auto spec = a.noFirst ? nullptr : reinterpret_cast<TpxiWarpSpec*>(block.data());
+            Tpx8u* const init = a.noSecond ? nullptr : work.data();
+            const double* const v = a.noValue ? nullptr : kValue;
+            const Job& j = a.job;
+            const TpxiRect r = j.coeffs.roi;
+            if (good == tpxInterpolationCubic)
+                return tpxiWarpPerspectiveCubicInit(j.src, r, j.dst, a.type, c, j.direction, j.channels, 0, 0.5,
+                                                    j.border, v, j.smoothEdge, spec, init);
+            return (good == tpxInterpolationLinear ? tpxiWarpPerspectiveLinearInit
+                                                   : tpxiWarpPerspectiveNearestInit)(
+                j.src, r, j.dst, a.type, c, j.direction, j.channels, j.border, v, j.smoothEdge, spec, init);
+        });
+        // The other interpolations have no use for an initialisation buffer.
+        Job transparent = args.job;
+        transparent.border = tpxBorderTransparent;
+        transparent.smoothEdge = 1;
+        const auto spec = reinterpret_cast<TpxiWarpSpec*>(block.data());
+        EXPECT_EQ(good == tpxInterpolationCubic ? tpxErrNullPointer : tpxOk,
+                  initialise(transparent, args.type, nullptr, spec, nullptr));
     }
+}
+
+TYPED_TEST(WarpPerspective, ProcessingChecksInOrder) {
+    using Other = std::conditional_t<std::is_same_v<TypeParam, Names16u>, Names16s, Names16u>;
+    const Job job{{8, 8}, {9, 9}, {{{{1, 0.5, 0}, {0, 1, 0}, {0.01, 0, 1}}}}};
+    Job miss = job;
+    miss.coeffs.c[0][2] = 500;
+    expectProcessingChecks<TypeParam, Other>(job, miss);
 }
 
 } // namespace

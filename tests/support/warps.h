@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "models/warp.h"
+#include "tests/support/checks.h"
 #include "tests/support/guarded.h"
 
 namespace tpx::test {
@@ -88,6 +89,86 @@ class WarpPlan {
     int misalign_;
     std::unique_ptr<GuardedBytes> memory_;
 };
+
+// ---- Order of checks -------------------------------------------------------------------------------------
+
+template <class T>
+struct WarpCallArgs {
+    const T* src;
+    T* dst;
+    const TpxiWarpSpec* spec;
+    Tpx8u* buffer;
+    TpxiPoint at;
+    TpxiSize size;
+    int srcStep, dstStep;
+};
+
+// Of all calls of a type. `good` is of one channel and leaves pixels outside alone; `missing` is the same, but
+// maps the source to nowhere in the destination. `Other` has the names of another type.
+template <class Names, class Other, class Job>
+void expectProcessingChecks(const Job& good, const Job& missing) {
+    using T = typename Names::T;
+    using Args = WarpCallArgs<T>;
+    using F = Fault<Args>;
+    for (TpxInterpolationType kind : kKinds)
+        for (int channels : {1, 3, 4}) {
+            const auto with = [&](Job job, TpxInterpolationType k, int c) {
+                job.kind = k;
+                job.channels = c;
+                return job;
+            };
+            const TpxInterpolationType otherKind =
+                kind == tpxInterpolationLinear ? tpxInterpolationCubic : tpxInterpolationLinear;
+            const WarpPlan<Names> plan(with(good, kind, channels)), miss(with(missing, kind, channels)),
+                ofKind(with(good, otherKind, channels)), ofChannels(with(good, kind, channels == 3 ? 4 : 3));
+            const WarpPlan<Other> ofType(with(good, kind, channels));
+            GuardedImage<T> src(good.src.width, good.src.height, channels),
+                dst(good.dst.width, good.dst.height, channels);
+            std::vector<Tpx8u> buffer(1 << 16);
+            const auto [width, height] = good.dst;
+            const auto plans = [](const TpxiWarpSpec* spec) { return [spec](Args& a) { a.spec = spec; }; };
+            const auto sizes = [](int w, int h) { return [w, h](Args& a) { a.size = {w, h}; }; };
+            std::vector<F> faults = {
+                {"source", [](Args& a) { a.src = nullptr; }, tpxErrNullPointer},
+                {"destination", [](Args& a) { a.dst = nullptr; }, tpxErrNullPointer},
+                {"plan", [](Args& a) { a.spec = nullptr; }, tpxErrNullPointer},
+                {"buffer", [](Args& a) { a.buffer = nullptr; }, tpxErrNullPointer},
+                {"size", sizes(0, height), tpxWarnNoOperation},
+                {"size", sizes(width, 0), tpxWarnNoOperation},
+                {"size", sizes(0, 0), tpxWarnNoOperation},
+                {"plan", plans(ofType.spec()), tpxErrContext},
+                {"plan", plans(ofKind.spec()), tpxErrContext},
+                {"plan", plans(ofChannels.spec()), tpxErrContext},
+                {"size", sizes(-1, 0), tpxErrSize},
+                {"size", sizes(0, -1), tpxErrSize},
+                {"size", sizes(5, -1), tpxErrSize},
+                {"offset", [](Args& a) { a.at.x = -1; }, tpxErrOutOfRange},
+                {"offset", [](Args& a) { a.at.y = -1; }, tpxErrOutOfRange},
+                {"offset", [w = width](Args& a) { a.at.x = w; }, tpxErrOutOfRange},
+                {"offset", [h = height](Args& a) { a.at.y = h; }, tpxErrOutOfRange},
+                {"plan", plans(miss.spec()), tpxWarnNoQuadOverlap},
+            };
+            if (sizeof(T) > 1)
+                faults.insert(faults.begin() + 13,
+                              {{"source step", [](Args& a) { a.srcStep++; }, tpxErrStep},
+                               {"destination step", [](Args& a) { a.dstStep += sizeof(T) / 2; }, tpxErrStep}});
+            const Args args{src.data(), dst.data(), plan.spec(), buffer.data(),
+                            {0, 0},     good.dst,   src.step(),  dst.step()};
+            const auto call = [&](const Args& a) {
+                return Names::call(Names::kCalls, kind, channels)(a.src, a.srcStep, a.dst, a.dstStep, a.at,
+                                                                  a.size, a.spec, a.buffer);
+            };
+            EXPECT_EQ(tpxOk, call(args));
+            expectCheckOrder(args, faults, call);
+            // Tiles that are too large are cut.
+            for (TpxiSize larger : {TpxiSize{width + 1, height}, {width, height + 1}}) {
+                Args one = args;
+                one.size = larger;
+                EXPECT_EQ(tpxWarnValueAdjusted, call(one));
+                EXPECT_TRUE(dst.paddingIntact());
+            }
+        }
+}
 
 // ---- Beside the model ------------------------------------------------------------------------------------
 
