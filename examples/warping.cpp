@@ -38,7 +38,7 @@ class WarpPlan {
         const double ms = bestTime(warp);
         for (int y = 0; y < dst_.height; ++y)
             for (int x = 0; x < dst_.width; ++x)
-                std::fill_n(dst.at(x, y), kChannels, static_cast<Tpx8u>((x + y) / 12 % 2 ? 205 : 225));
+                std::fill_n(dst.at(x, y), kChannels, static_cast<Tpx8u>((x + y) / 12 % 2 ? 80 : 95));
         warp(); // what a smooth edge is blended with is new
         return {std::move(image), {name, function, src.size, dst_, 1, ms}};
     }
@@ -50,7 +50,7 @@ class WarpPlan {
     std::vector<Tpx8u> plan_, buffer_;
 };
 
-constexpr Tpx64f kPaper[kChannels] = {236, 234, 230};
+constexpr Tpx64f kColour[kChannels] = {62, 90, 140}; // of constant borders
 
 // coeffs map the source to the destination, but for the shift that leaves the middle in the middle.
 Warped affine(const char* name, ConstPixels src, TpxiSize size, Tpx64f coeffs[2][3], TpxBorderType border,
@@ -68,7 +68,7 @@ Warped affine(const char* name, ConstPixels src, TpxiSize size, Tpx64f coeffs[2]
         },
         [&](TpxiWarpSpec* spec, Tpx8u* init) {
             return tpxiWarpAffineCubicInit(src.size, size, tpxDataType8u, coeffs, 0, kChannels, kB, kC, border,
-                                           kPaper, smoothEdge, spec, init);
+                                           kColour, smoothEdge, spec, init);
         });
     return plan.run(name, "tpxiWarpAffineCubic_8u_C3R", tpxiWarpAffineCubic_8u_C3R, src);
 }
@@ -109,7 +109,7 @@ Warped rectified(ConstPixels src) {
 
 // Enlarged, so that the rim shows what the border makes.
 Warped turnedDetail(const char* name, ConstPixels detail, TpxBorderType border, int smoothEdge = 0) {
-    constexpr double kZoom = 9;
+    constexpr double kZoom = 3.2;
     Tpx64f coeffs[2][3];
     check(tpxiGetRotateTransform(20, 0, 0, coeffs), "tpxiGetRotateTransform");
     for (auto& row : coeffs)
@@ -128,7 +128,7 @@ void warps(Gallery& gallery, const Image8u& source) {
     gallery.sheet().section("A detail turned: what becomes of pixels outside");
     // With pixels of the photograph around it, which the last of the borders reads.
     const ConstPixels detail =
-        photo.centre({std::min(24, photo.size.width - 2), std::min(14, photo.size.height - 2)});
+        photo.centre({std::min(60, photo.size.width - 2), std::min(40, photo.size.height - 2)});
     for (const Warped& w : {turnedDetail("Replicate", detail, tpxBorderReplicate),
                             turnedDetail("Constant", detail, tpxBorderConstant),
                             turnedDetail("Transparent, smooth edge", detail, tpxBorderTransparent, 1),

@@ -54,7 +54,7 @@ if(CASE STREQUAL "shipped_photograph")
             "tpxiResizeCubic_8u_C3R +50 x 33 +300 x 198 +2" "tpxiResizeLanczos_8u_C3R +50 x 33 +300 x 198 +2"
             "tpxiResizeSuper_8u_C3R +1200 x 800 +300 x 200 +2"
             "tpxiResizeAntialiasing_8u_C3R +1200 x 800 +300 x 200 +2"
-            "tpxiWarpAffineCubic_8u_C3R +600 x 400 +600 x 400 +1" "tpxiWarpAffineCubic_8u_C3R +24 x 14 +300 x 200 +1"
+            "tpxiWarpAffineCubic_8u_C3R +600 x 400 +600 x 400 +1" "tpxiWarpAffineCubic_8u_C3R +60 x 40 +300 x 200 +1"
             "tpxiWarpPerspectiveLinear_8u_C3R +600 x 400 +600 x 480 +1"
             "tpxiSqr_8u_C3RSfs +600 x 400 +600 x 400 +1" "tpxiSqrt_8u_C3RSfs +600 x 400 +600 x 400 +1"
             "tpxiLn_8u_C3RSfs +600 x 400 +600 x 400 +1" "tpxiExp_32f_C3R +600 x 400 +600 x 400 +1")
