@@ -6,7 +6,8 @@ file(GLOB_RECURSE TPX_SOURCES CONFIGURE_DEPENDS
      ${PROJECT_SOURCE_DIR}/filters/*.cpp
      ${PROJECT_SOURCE_DIR}/geometry/*.cpp
      ${PROJECT_SOURCE_DIR}/statistics/*.cpp
-     ${PROJECT_SOURCE_DIR}/threshold/*.cpp)
+     ${PROJECT_SOURCE_DIR}/threshold/*.cpp
+     ${PROJECT_SOURCE_DIR}/transforms/*.cpp)
 list(FILTER TPX_SOURCES EXCLUDE REGEX "memory/builtins\\.cpp$")
 file(GLOB TPX_PUBLIC_HEADERS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/tpxi/*.h)
 

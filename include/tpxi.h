@@ -29,6 +29,7 @@
 #include "tpxi/filters_fixed.h"
 #include "tpxi/filters_general.h"
 #include "tpxi/filters_median.h"
+#include "tpxi/fourier.h"
 #include "tpxi/geometry.h"
 #include "tpxi/resize_taps.h"
 #include "tpxi/statistics.h"
