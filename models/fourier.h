@@ -1,6 +1,7 @@
-// Fourier transforms in extended precision: by the sum that defines them, and a fast one for long sequences.
+// Fourier transforms in extended precision: by the sum that defines them, and faster for long sequences.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <complex>
 #include <cstddef>
@@ -12,12 +13,14 @@ using Number = std::complex<long double>;
 using Numbers = std::vector<Number>;
 
 inline long double turn(size_t k, size_t n) { // k / n of a circle, in radians
-    return 2 * 3.14159265358979323846264338327950288L * static_cast<long double>(k) / static_cast<long double>(n);
+    return 2 * 3.14159265358979323846264338327950288L * static_cast<long double>(k) /
+           static_cast<long double>(n);
 }
 // exp(sign 2 pi i k / n) for all k.
 inline Numbers roots(size_t n, int sign) {
     Numbers list(n);
-    for (size_t k = 0; k < n; k++) list[k] = {cosl(turn(k, n)), static_cast<long double>(sign) * sinl(turn(k, n))};
+    for (size_t k = 0; k < n; k++)
+        list[k] = {cosl(turn(k, n)), static_cast<long double>(sign) * sinl(turn(k, n))};
     return list;
 }
 
@@ -26,52 +29,74 @@ inline Number times(Number a, Number b) {
     return {a.real() * b.real() - a.imag() * b.imag(), a.real() * b.imag() + a.imag() * b.real()};
 }
 
-// sum of x[j] exp(sign 2 pi i j k / n)
-inline Numbers fourierBySum(const Numbers& x, int sign) {
-    const size_t n = x.size();
-    const Numbers root = roots(n, sign);
-    Numbers result(n);
-    for (size_t k = 0; k < n; k++)
-        for (size_t j = 0, at = 0; j < n; j++, at = (at + k) % n) result[k] += times(x[j], root[at]);
-    return result;
+// sum of x[j * stride] root^(j k) for n numbers; `root` holds powers of a root whose order is a multiple of n.
+inline void fourierBySum(const Number* x, size_t stride, size_t n, const Numbers& root, Number* result) {
+    for (size_t k = 0; k < n; k++) {
+        result[k] = 0;
+        for (size_t j = 0, at = 0; j < n; j++, at = (at + k * (root.size() / n)) % root.size())
+            result[k] += times(x[j * stride], root[at]);
+    }
 }
 
-// The same. Even lengths are two halves, a quick start of odd ones is p parts for a small p; what remains is a
-// convolution, n being (a^2 + b^2 - (a - b)^2) / 2.
-inline Numbers fourier(const Numbers& x, int sign) {
-    const size_t n = x.size();
-    if (n < 8) return fourierBySum(x, sign);
-    for (size_t p : {2, 3, 5, 7}) {
-        if (n % p) continue;
-        std::vector<Numbers> parts;
-        for (size_t i = 0; i < p; i++) {
-            Numbers part(n / p);
-            for (size_t j = 0; j < n / p; j++) part[j] = x[j * p + i];
-            parts.push_back(fourier(part, sign));
-        }
-        const Numbers root = roots(n, sign);
-        Numbers result(n);
-        for (size_t k = 0; k < n; k++)
-            for (size_t i = 0; i < p; i++) result[k] += times(parts[i][k % (n / p)], root[i * k % n]);
-        return result;
-    }
-    if (n < 128) return fourierBySum(x, sign);
+Numbers fourier(const Numbers& x, int sign);
+
+// As 2 j k = j^2 + k^2 - (j - k)^2, a convolution.
+inline void fourierByChirp(const Number* x, size_t stride, size_t n, int sign, Number* result) {
     size_t m = 1;
     while (m < 2 * n) m *= 2;
     const Numbers root = roots(2 * n, sign);
     Numbers a(m), b(m);
     for (size_t k = 0; k < n; k++) {
         const Number chirp = root[k * k % (2 * n)];
-        a[k] = times(x[k], chirp);
+        a[k] = times(x[k * stride], chirp);
         b[k] = b[(m - k) % m] = std::conj(chirp);
     }
     a = fourier(a, 1);
     b = fourier(b, 1);
     for (size_t k = 0; k < m; k++) a[k] = times(a[k], b[k]);
     a = fourier(a, -1);
-    Numbers result(n);
-    for (size_t k = 0; k < n; k++)
-        result[k] = times(a[k], root[k * k % (2 * n)]) / static_cast<long double>(m);
+    for (size_t k = 0; k < n; k++) result[k] = times(a[k], root[k * k % (2 * n)]) / static_cast<long double>(m);
+}
+
+// As p parts for a small factor p of the length, if there is one.
+inline void fourierByParts(const Number* x, size_t stride, size_t n, int sign, const Numbers& root,
+                           Number* result) {
+    if (n == 1) {
+        *result = *x;
+        return;
+    }
+    size_t p = 2;
+    while (p < 8 && n % p) p += 1 + (p > 2);
+    if (p > 8) {
+        if (n < 64)
+            fourierBySum(x, stride, n, root, result);
+        else
+            fourierByChirp(x, stride, n, sign, result);
+        return;
+    }
+    const size_t part = n / p, step = root.size() / n;
+    for (size_t i = 0; i < p; i++)
+        fourierByParts(x + i * stride, stride * p, part, sign, root, result + i * part);
+    for (size_t k = 0; k < part; k++) {
+        Number terms[8];
+        for (size_t i = 0; i < p; i++) terms[i] = times(result[i * part + k], root[i * k * step % root.size()]);
+        for (size_t q = 0; q < p; q++) {
+            Number sum = terms[0];
+            for (size_t i = 1; i < p; i++) sum += times(terms[i], root[i * q * part * step % root.size()]);
+            result[q * part + k] = sum;
+        }
+    }
+}
+
+// sum of x[j] exp(sign 2 pi i j k / n)
+inline Numbers fourier(const Numbers& x, int sign) {
+    Numbers result(x.size());
+    fourierByParts(x.data(), 1, x.size(), sign, roots(x.size(), sign), result.data());
+    return result;
+}
+inline Numbers fourierBySum(const Numbers& x, int sign) {
+    Numbers result(x.size());
+    fourierBySum(x.data(), 1, x.size(), roots(x.size(), sign), result.data());
     return result;
 }
 

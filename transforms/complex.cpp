@@ -103,12 +103,12 @@ void transformColumns(const Transform& plan, ImageView<float> image) {
 template <bool Inverse, class Spec>
 TpxStatus transformComplex(const Tpx32fc* src, int srcStep, Tpx32fc* dst, int dstStep, const Spec* spec,
                            Tpx8u* buffer) {
-    return runPlan(src, srcStep, dst, dstStep, spec, buffer,
-                   [](const Transform& plan, ImageView<const Tpx32fc> from, ImageView<Tpx32fc> to) {
-                       const ImageView<float> result{&to.data->re, to.step};
-                       transformRows<Inverse>(plan, {&from.data->re, from.step}, result);
-                       if (plan.size.height > 1) transformColumns<Inverse>(plan, result);
-                   });
+    const auto run = [](const Transform& plan, ImageView<const float> from, ImageView<float> to) {
+        transformRows<Inverse>(plan, from, to);
+        if (plan.size.height > 1) transformColumns<Inverse>(plan, to);
+    };
+    return runPlan(reinterpret_cast<const float*>(src), srcStep, reinterpret_cast<float*>(dst), dstStep, spec,
+                   buffer, run);
 }
 
 } // namespace

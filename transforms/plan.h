@@ -44,9 +44,9 @@ struct Transform {
 };
 
 // Checks the arguments of a processing call in their order, then process(transform, src, dst).
-template <class Spec, class T, class Process>
-inline TpxStatus runPlan(const T* src, int srcStep, T* dst, int dstStep, const Spec* callersSpec, Tpx8u* buffer,
-                         Process process) {
+template <class Spec, class Process>
+inline TpxStatus runPlan(const float* src, int srcStep, float* dst, int dstStep, const Spec* callersSpec,
+                         Tpx8u* buffer, Process process) {
     if (anyNull(callersSpec)) return tpxErrNullPointer;
     const Spec* const spec = alignUp(callersSpec);
     if (spec->tag != kTagOf<Spec> || !spec->rows) return tpxErrContext; // null if its making failed
@@ -63,7 +63,7 @@ inline TpxStatus runPlan(const T* src, int srcStep, T* dst, int dstStep, const S
     const auto bytes = uint64_t(maxOf(plan.rows->bufSize, plan.columns->bufSize));
     BlockLayout block(bytes ? static_cast<void*>(alignUp(buffer)) : shortWork);
     plan.work = layOutWork(block, bytes ? bytes : groupBytes(kShortLine), uint64_t(plan.size.height));
-    process(plan, ImageView<const T>{src, srcStep}, ImageView<T>{dst, dstStep});
+    process(plan, ImageView<const float>{src, srcStep}, ImageView<float>{dst, dstStep});
     return tpxOk;
 }
 
