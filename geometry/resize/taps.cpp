@@ -12,21 +12,44 @@
 namespace tpx {
 namespace {
 
+// ---- Taps that count --------------------------------------------------------------------------------------
+
+// The taps of some positions of an axis.
+struct AxisTaps {
+    Footprint footprint;
+    const Tpx32s* index;
+    const Tpx32f* weights; // of the first of a position's taps
+    int64_t stride;        // from a position's weights to the next one's
+};
+
+// Stretched kernels leave the outermost taps without weight, and so do positions that fall on pixels. Integers
+// do without what has none on both sides at all positions. A float may be infinite, and keeps it.
+template <class T>
+AxisTaps tapsOf(const TpxiResizeAxis& axis, int lobes, int64_t first, int64_t count) {
+    const int64_t stride = 2 * int64_t(lobes);
+    const Tpx32f* const weights = axis.pCoef32f + first * stride;
+    int64_t spare = std::is_integral_v<T> ? lobes - 1 : 0; // on either side
+    for (int64_t i = 0; i < count && spare > 0; i++)
+        for (int64_t k = 0; k < spare; k++)
+            if (weights[i * stride + k] != 0 || weights[(i + 1) * stride - 1 - k] != 0) spare = k;
+    return {footprintOf(lobes - int(spare)), axis.pIndex + first, weights + spare, stride};
+}
+
 // ---- Bands of columns --------------------------------------------------------------------------------------
 
 // Floats on the stack: what a band reads of eight source rows, and the ring of what it makes of them. A ring of
 // more rows than that lies in the caller's buffer, and has a row at a time passed into it.
-constexpr int64_t kSourceRoom = 768 * kTapRows, kRingRoom = 6144;
+constexpr int64_t kSourceRoom = 6144, kRingRoom = 6144;
 
-// The positions of an axis from `first` on that make a band, of `end` at most.
+// The positions from `first` on that make a band, of `end` at most.
 template <int N>
-TapColumns bandAt(const TpxiResizeAxis& axis, Footprint taps, int64_t ringRows, int64_t first, int64_t end) {
-    constexpr int64_t kGroup = TurnedSums<N>::kPositions;
-    const Tpx32s* const index = axis.pIndex + first;
-    const int64_t groups = maxOf<int64_t>(kRingRoom / (ringRows * kGroup * N), 1);
-    const auto pixels = [&](int64_t count) { return int64_t(index[count - 1]) - index[0] + taps.size; };
-    const auto fits = [&](int64_t count) { return pixels(count) * N * kTapRows <= kSourceRoom; };
-    int64_t count = minOf(end - first, groups * kGroup);
+TapColumns bandAt(const AxisTaps& taps, int64_t ringRows, int64_t first, int64_t end) {
+    const Tpx32s* const index = taps.index + first;
+    const int size = taps.footprint.size;
+    const int64_t groups = maxOf<int64_t>(kRingRoom / (ringRows * kTapPositions * N), 1);
+    const auto pixels = [&](int64_t count) { return int64_t(index[count - 1]) - index[0] + size; };
+    const auto fits = [&](int64_t count) { return pixels(count) * N * kTapRows<N> <= kSourceRoom; };
+    int64_t count = minOf(end - first, groups * kTapPositions);
     if (fits(1) && !fits(count)) { // as positions rise, the last one that fits is found by halving
         int64_t tooMany = count;
         count = 1;
@@ -35,22 +58,23 @@ TapColumns bandAt(const TpxiResizeAxis& axis, Footprint taps, int64_t ringRows, 
             (fits(middle) ? count : tooMany) = middle;
         }
     }
-    return {index,     axis.pCoef32f + first * taps.size, count,
-            taps.size, int64_t(index[0]) + taps.offset,   pixels(count)};
+    return {index, taps.weights + first * taps.stride,        taps.stride,  count,
+            size,  int64_t(index[0]) + taps.footprint.offset, pixels(count)};
 }
 
 // Where a position has more taps than the stack has room for, they are read in pieces.
 template <class T, int N>
 void passInPieces(const TapSource<T, N>& source, int64_t y, int64_t n, const TapColumns& columns,
                   Tpx32f* turned, Tpx32f* const* rows) {
-    constexpr int64_t kPixels = kSourceRoom / (N * kTapRows);
-    passPositions<N>(columns.count, rows, [&](int64_t j, V32f(&sums)[N]) {
+    constexpr int64_t kPixels = kSourceRoom / (N * kTapRows<N>);
+    passPositions<N>(columns.count, rows, [&](int64_t j, TapSums<N>* sums) {
         const int64_t from = columns.from + columns.index[j] - columns.index[0];
-        for (V32f& sum : sums) sum = V32f{};
+        for (int c = 0; c < N; c++)
+            for (V32f& sum : sums[c]) sum = V32f{};
         for (int64_t t = 0; t < columns.taps; t += kPixels) {
             const int64_t count = minOf(columns.taps - t, kPixels);
             source.read(y, n, from + t, count, turned);
-            addTaps<N, kAnyTaps>(turned, columns.weights + j * columns.taps + t, int(count), t == 0, sums);
+            addTaps<N, kAnyTaps>(turned, columns.weights + j * columns.stride + t, int(count), t == 0, sums);
         }
     });
 }
@@ -87,46 +111,45 @@ using BlendAlongY = void (*)(const RowRing<Tpx32f>&, const Tpx32f*, int, T*, int
 template <class T, int N>
 void resizeTile(const Tile<T>& tile, BorderWord border) {
     const TpxiResizeAxis &ax = tile.plan.axisX, &ay = tile.plan.axisY;
-    const Footprint tapsX = footprintOf(tile.plan.lobesX), tapsY = footprintOf(tile.plan.lobesY);
+    const AxisTaps x = tapsOf<T>(ax, tile.plan.lobesX, tile.x, tile.width);
+    const AxisTaps y = tapsOf<T>(ay, tile.plan.lobesY, tile.y, tile.height);
+    const int rows = y.footprint.size;
     const TapSource<T, N> source(tile.src, ax.srcLen, ay.srcLen, border);
     PassAlongX pass = nullptr;
-    withTaps(tapsX.size, [&](auto taps) { pass = passAlongX<N, taps>; });
+    withTaps(x.footprint.size, [&](auto taps) { pass = passAlongX<N, taps>; });
     BlendAlongY<T> blend = nullptr;
-    withTaps(tapsY.size, [&](auto taps) { blend = blendAlongY<T, taps>; });
+    withTaps(rows, [&](auto taps) { blend = blendAlongY<T, taps>; });
 
-    const Tpx32s* const rowIndex = ay.pIndex + tile.y;
-    const Tpx32f* const rowWeights = ay.pCoef32f + tile.y * tapsY.size;
-    const int64_t endRow = int64_t(rowIndex[tile.height - 1]) + tapsY.last() + 1;
-    // Whole registers of what a group of positions makes.
-    constexpr int64_t kGroup = TurnedSums<N>::kPositions * N;
-    alignas(32) Tpx32f turned[kSourceRoom], onStack[kRingRoom], aside[kGroup];
-    const bool fits = (tapsY.size + kTapRows - 1) * kGroup <= kRingRoom;
-    const int64_t ahead = fits ? kTapRows - 1 : 0;
+    const int64_t endRow = int64_t(y.index[tile.height - 1]) + y.footprint.last() + 1;
+    constexpr int64_t kGroup = kTapPositions * N;
+    alignas(32) Tpx32f turned[kSourceRoom + kTurned<T> * kTapRows<N>], onStack[kRingRoom], aside[kGroup];
+    const bool fits = (rows + kTapRows<N> - 1) * kGroup <= kRingRoom;
+    const int64_t ahead = fits ? kTapRows<N> - 1 : 0;
     Tpx32f* const memory = fits ? onStack : reinterpret_cast<Tpx32f*>(alignUp(tile.buffer, 32));
 
-    const int64_t end = tile.x + tile.width;
     int64_t bandWidth;
-    for (int64_t x = tile.x; x < end; x += bandWidth) {
-        const TapColumns columns = bandAt<N>(ax, tapsX, tapsY.size + ahead, x, end);
+    for (int64_t band = 0; band < tile.width; band += bandWidth) {
+        const TapColumns columns = bandAt<N>(x, rows + ahead, band, tile.width);
         bandWidth = columns.count;
         // The caller's buffer has no room for whole groups; a band is a single group then.
-        const auto step = ptrdiff_t(roundUp(uint64_t(columns.count) * N, fits ? kGroup : kTapRows));
-        RowRing<Tpx32f> ring(memory, step, tapsY.size, ahead);
-        const auto make = [&](int64_t y, int64_t n) {
-            Tpx32f* rows[kTapRows]; // lanes past n have what row n - 1 has
-            for (int k = 0; k < kTapRows; k++) rows[k] = fits ? ring.of(y + minOf<int64_t>(k, n - 1)) : aside;
-            if (columns.pixels * N * kTapRows > kSourceRoom) {
-                passInPieces(source, y, n, columns, turned, rows);
+        const auto step = ptrdiff_t(roundUp(uint64_t(columns.count) * N, fits ? kGroup : kLanes<Tpx32f>));
+        RowRing<Tpx32f> ring(memory, step, rows, ahead);
+        const auto make = [&](int64_t first, int64_t n) {
+            Tpx32f* to[kTapRows<N>]; // lanes past n have what row n - 1 has
+            for (int k = 0; k < kTapRows<N>; k++)
+                to[k] = fits ? ring.of(first + minOf<int64_t>(k, n - 1)) : aside;
+            if (columns.pixels * N * kTapRows < N >> kSourceRoom) {
+                passInPieces(source, first, n, columns, turned, to);
             } else {
-                source.read(y, n, columns.from, columns.pixels, turned);
-                pass(columns, turned, rows);
+                source.read(first, n, columns.from, columns.pixels, turned);
+                pass(columns, turned, to);
             }
-            if (!fits) __builtin_memcpy(ring.of(y), aside, size_t(columns.count) * N * sizeof(Tpx32f));
+            if (!fits) __builtin_memcpy(ring.of(first), aside, size_t(columns.count) * N * sizeof(Tpx32f));
         };
-        const ImageView<T> dst = tile.dst.from((x - tile.x) * N, 0);
+        const ImageView<T> dst = tile.dst.from(band * N, 0);
         for (int64_t i = 0; i < tile.height; i++) {
-            ring.moveTo(int64_t(rowIndex[i]) + tapsY.offset, endRow, make);
-            blend(ring, rowWeights + i * tapsY.size, tapsY.size, dst.row(i), columns.count * N);
+            ring.moveTo(int64_t(y.index[i]) + y.footprint.offset, endRow, make);
+            blend(ring, y.weights + i * y.stride, rows, dst.row(i), columns.count * N);
         }
     }
 }

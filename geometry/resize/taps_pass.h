@@ -19,76 +19,58 @@ inline constexpr int kAnyTaps = 0;
 struct TapColumns {
     const Tpx32s* index;   // of the band's positions
     const Tpx32f* weights; // `taps` of each
+    int64_t stride;        // from the weights of a position to those of the next
     int64_t count;
     int taps;
     int64_t from, pixels; // of the source, that the taps read
 };
 
-// Adds `taps` weighted pixels to the sums of a position; eight rows lie side by side.
+// The sums of a sample in all rows.
+template <int N>
+using TapSums = V32f[kTapRegisters<N>];
+
+// Adds `taps` weighted pixels to the sums of a position.
 template <int N, int Taps>
 [[gnu::always_inline]] inline void addTaps(const Tpx32f* pixels, const Tpx32f* weights, int taps, bool first,
-                                           V32f (&sums)[N]) {
-    int t = 0;
-    if (first) {
-        const V32f weight = splat<V32f>(*weights);
-        for (int c = 0; c < N; c++) sums[c] = load(pixels + c * kTapRows) * weight;
-        t = 1;
-    }
-    for (; t < (Taps == kAnyTaps ? taps : Taps); t++) {
+                                           TapSums<N>* sums) {
+    const auto each = [&](int t, auto rule) {
         const V32f weight = splat<V32f>(weights[t]);
-        for (int c = 0; c < N; c++) sums[c] += load(pixels + (t * N + c) * kTapRows) * weight;
-    }
+        for (int c = 0; c < N; c++)
+            for (int r = 0; r < kTapRegisters<N>; r++)
+                rule(sums[c][r], load(pixels + (t * N + c) * kTapRows<N> + r * kLanes<Tpx32f>) * weight);
+    };
+    int t = 0;
+    if (first) each(t++, [](V32f& sum, V32f product) { sum = product; });
+    for (; t < (Taps == kAnyTaps ? taps : Taps); t++) each(t, [](V32f& sum, V32f product) { sum += product; });
 }
 
-// The sums of eight positions, turned back into eight rows at a time.
-template <int N>
-class TurnedSums {
- public:
-    static constexpr int kPositions = 8;
+// Positions whose sums are turned back into rows at a time.
+inline constexpr int kTapPositions = 4;
 
-    void put(int64_t position, const V32f (&sums)[N]) {
-        for (int c = 0; c < N; c++) store(sums_ + (position % kPositions * N + c) * kTapRows, sums[c]);
-    }
-    // Samples of the rows from `at` on.
-    [[gnu::always_inline]] void flush(Tpx32f* const* rows, int64_t at) const {
-        for (int i = 0; i < kPositions * N; i += 8)
-            for (int half = 0; half < 2; half++) {
-                const Tpx32f* const from = sums_ + i * kTapRows + 4 * half;
-                const auto two = [&](int k) {
-                    return loadFours(from + k * kTapRows, from + (k + 4) * kTapRows);
-                };
-                const auto turned = transpose(Several<V32f, 4>{{two(0), two(1), two(2), two(3)}});
-                for (int k = 0; k < 4; k++) store(rows[4 * half + k] + at + i, turned.at[k]);
-            }
-    }
-
- private:
-    alignas(32) Tpx32f sums_[kPositions * N * kTapRows];
-};
-
-// sumsOf(j, sums) for each position of a band, to eight rows, which have room for whole groups of positions.
+// sumsOf(j, sums) for each position of a band, to the rows, which have room for whole groups of positions.
 template <int N, class SumsOf>
-inline void passPositions(int64_t count, Tpx32f* const* rows, SumsOf sumsOf) {
-    constexpr int kPositions = TurnedSums<N>::kPositions;
-    TurnedSums<N> turned;
-    for (int64_t j = 0; j < count; j += kPositions) {
-        const int64_t end = minOf(count, j + kPositions);
-        for (int64_t k = j; k < end; k++) {
-            V32f sums[N];
-            sumsOf(k, sums);
-            turned.put(k, sums);
-        }
-        turned.flush(rows, j * N);
+[[gnu::always_inline]] inline void passPositions(int64_t count, Tpx32f* const* rows, SumsOf sumsOf) {
+    for (int64_t j = 0; j < count; j += kTapPositions) {
+        TapSums<N> sums[kTapPositions * N];
+        for (int k = 0; k < kTapPositions; k++) sumsOf(minOf(j + k, count - 1), sums + k * N);
+        for (int i = 0; i < kTapPositions * N; i += 4)
+            for (int r = 0; r < kTapRegisters<N>; r++) {
+                const auto turned =
+                    transpose(Several<V32f, 4>{{sums[i][r], sums[i + 1][r], sums[i + 2][r], sums[i + 3][r]}});
+                Tpx32f* const* const to = rows + r * kLanes<Tpx32f>;
+                for (int k = 0; k < 4; k++) storeFours(to[k] + j * N + i, to[k + 4] + j * N + i, turned.at[k]);
+            }
     }
 }
 
 template <int N, int Taps>
 inline void passAlongX(const TapColumns& columns, const Tpx32f* turned, Tpx32f* const* rows) {
     const int taps = Taps == kAnyTaps ? columns.taps : Taps;
+    const int64_t stride = columns.stride;
     const Tpx32s* const index = columns.index;
-    const Tpx32f *const weights = columns.weights, *const origin = turned - int64_t(index[0]) * N * kTapRows;
-    passPositions<N>(columns.count, rows, [&](int64_t j, V32f(&sums)[N]) {
-        addTaps<N, Taps>(origin + int64_t(index[j]) * N * kTapRows, weights + j * taps, taps, true, sums);
+    const Tpx32f *const weights = columns.weights, *const origin = turned - int64_t(index[0]) * N * kTapRows<N>;
+    passPositions<N>(columns.count, rows, [&](int64_t j, TapSums<N>* sums) {
+        addTaps<N, Taps>(origin + int64_t(index[j]) * N * kTapRows<N>, weights + j * stride, taps, true, sums);
     });
 }
 
@@ -119,7 +101,7 @@ inline void blendAlongY(const RowRing<Tpx32f>& ring, const Tpx32f* weights, int 
     const Tpx32f* rows[Taps == kAnyTaps ? 1 : Taps];
     for (int t = 0; t < Taps; t++) rows[t] = ring.at(t);
 
-    const auto sums = [&]<int M>(int64_t i, V32f(&sum)[M]) [[gnu::always_inline]] {
+    const auto sums = [&]<int M>(int64_t i, V32f(&sum)[M]) {
         const auto add = [&](const Tpx32f* row, int t) {
             const V32f weight = splat<V32f>(peek(weights + t));
             for (int m = 0; m < M; m++) {
@@ -134,7 +116,7 @@ inline void blendAlongY(const RowRing<Tpx32f>& ring, const Tpx32f* weights, int 
             for (int t = 0; t < Taps; t++) add(rows[t], t);
         }
     };
-    const auto one = [&](int64_t i) [[gnu::always_inline]] {
+    const auto one = [&](int64_t i) {
         V32f sum[kPerRegister];
         sums(i, sum);
         return samplesOf<T, kPerRegister>(sum);

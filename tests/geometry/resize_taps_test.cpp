@@ -392,6 +392,22 @@ TEST(ResizeTapsOrder, SumsRunFromTheLeftAndFromTheTop) {
     }
 }
 
+// Stretched kernels have taps without weight at their ends. What is not a number shows through them all the
+// same.
+TEST(ResizeTapsOrder, FloatsReadTapsWithoutWeight) {
+    const TpxiSize size{48, 6}, to{32, 6};
+    GuardedImage<Tpx32f> src(48, 6, 1), dst(32, 6, 1);
+    const Plan<Names32f> plan(kSmoothCubic, size, to);
+    for (int at = 0; at < size.width; at++) {
+        src.fill([&](int x, int, int) { return x == at ? std::numeric_limits<float>::infinity() : 1.f; });
+        ASSERT_EQ(tpxOk, plan.run(1, src.data(), src.step(), dst.data(), dst.step(), {0, 0, 32, 6}));
+        for (int x = 4; x < to.width - 4; x++) {
+            const int below = int(std::floor((x + 0.5) * 1.5 - 0.5));
+            EXPECT_EQ(at < below - 3 || at > below + 4, std::isfinite(dst.at(x, 2))) << at << " " << x;
+        }
+    }
+}
+
 TYPED_TEST(ResizeTaps, OvershootSaturatesAndTheThreadsRoundingHolds) {
     using T = typename TypeParam::T;
     if (std::is_floating_point_v<T>) return;
