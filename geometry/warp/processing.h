@@ -54,7 +54,7 @@ inline DestinationTile tileOf(const WarpCall<T>& call, const TpxiWarpSpec& plan)
 template <class T>
 inline TpxStatus doneWarp(const WarpCall<T>& call, const TpxiWarpSpec& plan, bool anyPixel) {
     const TpxiPoint at = call.offset;
-    if (!anyPixel && readWarpBorder(plan.border).kind != Border::Replicate) return tpxWarnNoQuadOverlap;
+    if (!anyPixel) return tpxWarnNoQuadOverlap;
     return call.size.width > plan.dst.width - at.x || call.size.height > plan.dst.height - at.y
                ? tpxWarnValueAdjusted
                : tpxOk;

@@ -6,7 +6,7 @@
 
 namespace tpx {
 
-// Returns whether a pixel of the tile is one of the source's. `pixel` is that of a constant border.
+// Returns whether a pixel of the tile takes anything from the source. `pixel` is that of a constant border.
 inline bool copyShifted(const TpxiWarpSpec& plan, ImageView<const Tpx8u> src, const DestinationTile& tile,
                         const Tpx8u* pixel, int pixelBytes) {
     const WholeShift shift = peek(plan.shift);
@@ -26,7 +26,7 @@ inline bool copyShifted(const TpxiWarpSpec& plan, ImageView<const Tpx8u> src, co
             if (kind == Border::Const) fill(all, pixel);
             continue;
         }
-        any = any || !middle.isEmpty();
+        any = any || kind == Border::Replicate || !middle.isEmpty();
         const Tpx8u* const from = src.row(borderSource<Border::Replicate>(row, plan.src.height));
         if (!middle.isEmpty())
             __builtin_memcpy(tile.at(middle.begin, y, pixelBytes), from + (middle.begin - shift.x) * pixelBytes,

@@ -285,21 +285,16 @@ TYPED_TEST(WarpPerspective, RectanglesAreImages) {
                 }
                 model.src = part;
                 model.border = tpxBorderTransparent;
-                // Only the rectangle is readable.
-                GuardedImage<T> src(part.width, part.height, job.channels, {0, Edge::End, 0});
+                const WarpSource<T> src(job, model.border, {roi.x, roi.y, part.width, part.height}, {}, turn);
                 GuardedImage<T> dst(64, 60, job.channels), before(64, 60, job.channels);
-                src.randomise(turn);
                 dst.randomise(turn + 5);
                 before.copySamplesFrom(dst);
                 const Plan<TypeParam> plan(job);
                 const bool isCut = roi.width > 31 - roi.x;
                 EXPECT_EQ(isCut ? tpxWarnValueAdjusted : tpxOk, plan.status);
-                const T* const first = reinterpret_cast<const T*>(reinterpret_cast<uintptr_t>(src.data()) -
-                                                                  uintptr_t(ptrdiff_t(roi.y) * src.step()) -
-                                                                  roi.x * job.channels * sizeof(T));
-                EXPECT_EQ(tpxOk, plan.run(first, src.step(), dst.data(), dst.step(), {0, 0, 64, 60}));
-                EXPECT_TRUE(
-                    fits(model, dst, before, [&](int x, int y, int c) { return double(src.at(x, y, c)); }));
+                EXPECT_EQ(tpxOk, plan.run(src.data(), src.step(), dst.data(), dst.step(), {0, 0, 64, 60}));
+                EXPECT_TRUE(fits(model, dst, before,
+                                 [&](int x, int y, int c) { return src(x + roi.x, y + roi.y, c); }));
             }
 }
 
@@ -371,6 +366,9 @@ TYPED_TEST(WarpPerspective, AnyCoefficientsStayInside) {
         job.border = words[random() % 5];
         job.channels = n % 2 ? 1 : 3;
         job.smoothEdge = job.border == tpxBorderInMemAll || (job.border & 15) == 7 ? int(random() % 2) : 0;
+        const WarpPart part(job.src, unsigned(random()));
+        const bool isPart = random() % 4 == 0;
+        if (isPart) job.coeffs.roi = part.roi;
         int bytes, init;
         const TpxStatus status = getSize(job, TypeParam::kType, &bytes, &init);
         ASSERT_TRUE(status == tpxOk || status == tpxErrCoefficient) << status;
@@ -383,8 +381,11 @@ TYPED_TEST(WarpPerspective, AnyCoefficientsStayInside) {
         made++;
         const Plan<TypeParam> plan(job, n % 3);
         ASSERT_GE(plan.status, tpxOk);
-        const WarpSource<T> src(job, {0, n % 2 ? Edge::End : Edge::Start, 0}, unsigned(n));
-        GuardedImage<T> dst(job.dst.width, job.dst.height, job.channels);
+        const Lie lie = {0, n % 2 ? Edge::End : Edge::Start, 0};
+        const WarpSource<T> src = isPart
+                                      ? WarpSource<T>(job, part.border(job.border), part.part, lie, unsigned(n))
+                                      : WarpSource<T>(job, lie, unsigned(n));
+        GuardedImage<T> dst(job.dst.width, job.dst.height, job.channels, lie);
         ASSERT_GE(plan.run(src.data(), src.step(), dst.data(), dst.step(), {0, 0, dst.width(), dst.height()}),
                   tpxOk);
     }
@@ -430,6 +431,25 @@ TEST(WarpPerspectiveStatus, OfWhatMissesTheSource) {
                                                                  : border == 1 ? 200
                                                                                : 17; }))
                 << kind << " " << border;
+        }
+}
+
+// A tile beyond the horizon gets nothing, but from a constant border.
+TEST(WarpPerspectiveStatus, OfTilesBeyondTheHorizon) {
+    GuardedImage<Tpx8u> dst(8, 8, 1);
+    for (TpxInterpolationType kind : kKinds)
+        for (TpxBorderType border : {0xF0, 7, 1, 6}) {
+            // The horizon is at x = 16.
+            const Job job{{8, 8}, {40, 8}, {{{{1, 0, 0}, {0, 1, 0}, {-1 / 16.0, 0, 1}}}}, 1, kind, border};
+            const WarpSource<Tpx8u> src(job, {}, 1);
+            const Plan<Names8u> plan(job);
+            EXPECT_EQ(tpxOk, plan.status);
+            dst.fill([](int, int, int) { return 9; });
+            EXPECT_EQ(tpxWarnNoQuadOverlap,
+                      plan.run(src.data(), src.step(), dst.data(), dst.step(), {16, 0, 8, 8}));
+            EXPECT_TRUE(matches(dst, [&](int, int, int) { return border == 6 ? 17 : 9; }))
+                << kind << " " << border;
+            EXPECT_EQ(tpxOk, plan.run(src.data(), src.step(), dst.data(), dst.step(), {0, 0, 8, 8}));
         }
 }
 

@@ -389,6 +389,9 @@ TYPED_TEST(WarpQuad, AnyCornersStayInside) {
         job.border = words[random() % 5];
         job.channels = n % 2 ? 1 : 3;
         job.smoothEdge = job.border == tpxBorderInMemAll || (job.border & 15) == 7 ? int(random() % 2) : 0;
+        const WarpPart part(job.src, unsigned(random()));
+        const bool isPart = random() % 4 == 0 && part.part.width > 1 && part.part.height > 1;
+        if (isPart) q.roi = part.roi;
         int bytes, init;
         const TpxStatus status = getSize(job, TypeParam::kType, &bytes, &init);
         ASSERT_TRUE(status == tpxOk || status == tpxErrQuad) << status;
@@ -402,8 +405,11 @@ TYPED_TEST(WarpQuad, AnyCornersStayInside) {
         if (plan.status == tpxErrWarpTransform) continue;
         made++;
         ASSERT_GE(plan.status, tpxOk);
-        const WarpSource<T> src(job, {0, n % 2 ? Edge::End : Edge::Start, 0}, unsigned(n));
-        GuardedImage<T> dst(job.dst.width, job.dst.height, job.channels);
+        const Lie lie = {0, n % 2 ? Edge::End : Edge::Start, 0};
+        const WarpSource<T> src = isPart
+                                      ? WarpSource<T>(job, part.border(job.border), part.part, lie, unsigned(n))
+                                      : WarpSource<T>(job, lie, unsigned(n));
+        GuardedImage<T> dst(job.dst.width, job.dst.height, job.channels, lie);
         ASSERT_GE(plan.run(src.data(), src.step(), dst.data(), dst.step(), {0, 0, dst.width(), dst.height()}),
                   tpxOk);
         ASSERT_TRUE(dst.paddingIntact());
@@ -423,13 +429,17 @@ TEST(WarpQuadStatus, OfWhatMisses) {
                            {boxOf({8, 8}), box(-3, 0, 3.5, 7), {4, 0}}};
     for (const Quads& quads : cases)
         for (TpxInterpolationType kind : kKinds)
-            for (TpxBorderType border : {0xF0, 7, 0x17, 6}) {
+            for (TpxBorderType border : {0xF0, 7, 0x17, 1, 6}) {
                 const Job job{{8, 8}, {8, 8}, quads, 1, kind, border};
                 const Plan<Names8u> plan(job);
                 dst.fill([](int, int, int) { return 9; });
-                EXPECT_EQ(border == 6 ? tpxOk : tpxWarnNoQuadOverlap, plan.status);
-                EXPECT_EQ(tpxWarnNoQuadOverlap, plan.run(src, dst));
-                EXPECT_TRUE(matches(dst, [&](int, int, int) { return border == 6 ? 17 : 9; }))
+                EXPECT_EQ(border == 1 || border == 6 ? tpxOk : tpxWarnNoQuadOverlap, plan.status);
+                // Replicate has the source's edge wherever the quadrangle is.
+                const bool isEdge = border == 1 && &quads == &cases[2];
+                EXPECT_EQ(isEdge ? tpxOk : tpxWarnNoQuadOverlap, plan.run(src, dst));
+                EXPECT_TRUE(matches(dst, [&](int, int, int) { return isEdge        ? 200
+                                                                     : border == 6 ? 17
+                                                                                   : 9; }))
                     << kind << " " << border;
             }
 }

@@ -226,34 +226,54 @@ inline std::vector<TpxBorderType> borders() {
     return words;
 }
 
-// The source of a job with just the pixels that may be read: itself, and one pixel further on sides in memory.
+// The source of a job with just the pixels that may be read: a rectangle of it, or all, and one pixel further
+// on sides in memory. The border is the one that the warp comes to.
 template <class T>
 class WarpSource {
  public:
     template <class Job>
-    WarpSource(const Job& job, Lie lie, unsigned seed)
-        : left_(further(job, tpxBorderInMemLeft)),
-          top_(further(job, tpxBorderInMemTop)),
-          image_(job.src.width + left_ + further(job, tpxBorderInMemRight),
-                 job.src.height + top_ + further(job, tpxBorderInMemBottom), job.channels, lie) {
+    WarpSource(const Job& job, Lie lie, unsigned seed) : WarpSource(job, job.border, wholeOf(job), lie, seed) {}
+    template <class Job>
+    WarpSource(const Job& job, TpxBorderType border, TpxiRect part, Lie lie, unsigned seed)
+        : left_(part.x - further(job, border, tpxBorderInMemLeft)),
+          top_(part.y - further(job, border, tpxBorderInMemTop)),
+          image_(part.x + part.width + further(job, border, tpxBorderInMemRight) - left_,
+                 part.y + part.height + further(job, border, tpxBorderInMemBottom) - top_, job.channels, lie) {
         image_.randomise(seed);
     }
+    // Of the source's first pixel, be it there or not.
     const T* data() const {
-        return reinterpret_cast<const T*>(
-            reinterpret_cast<const char*>(image_.data() + left_ * image_.channels()) +
-            ptrdiff_t(top_) * image_.step());
+        const ptrdiff_t before = left_ * ptrdiff_t(sizeof(T)) * image_.channels() + ptrdiff_t(top_) * step();
+        return reinterpret_cast<const T*>(reinterpret_cast<uintptr_t>(image_.data()) - uintptr_t(before));
     }
     int step() const { return image_.step(); }
-    double operator()(int x, int y, int c) const { return double(image_.at(x + left_, y + top_, c)); }
+    double operator()(int x, int y, int c) const { return double(image_.at(x - left_, y - top_, c)); }
 
  private:
     template <class Job>
-    static int further(const Job& job, unsigned side) {
-        const bool leaves = job.border == tpxBorderInMemAll || (job.border & 15) == tpxBorderTransparent;
-        return job.kind == tpxInterpolationCubic && leaves && (job.border & side) != 0;
+    static TpxiRect wholeOf(const Job& job) {
+        return {0, 0, job.src.width, job.src.height};
     }
-    int left_, top_;
+    template <class Job>
+    static int further(const Job& job, TpxBorderType border, unsigned side) {
+        const bool leaves = border == tpxBorderInMemAll || (border & 15) == tpxBorderTransparent;
+        return job.kind == tpxInterpolationCubic && leaves && (border & side) != 0;
+    }
+    int left_, top_; // of the pixels that there are
     GuardedImage<T> image_;
+};
+
+// A rectangle of a source that begins in it, and the part of it that there is.
+struct WarpPart {
+    TpxiRect roi, part;
+
+    WarpPart(TpxiSize src, unsigned random) {
+        roi = {int(random % unsigned(src.width)), int(random / 16 % unsigned(src.height)),
+               2 + int(random / 256 % 16), 2 + int(random / 4096 % 16)};
+        part = {roi.x, roi.y, std::min(roi.width, src.width - roi.x), std::min(roi.height, src.height - roi.y)};
+    }
+    // Pixels outside a rectangle's image stay as they were.
+    static TpxBorderType border(TpxBorderType given) { return (given & ~15u) | tpxBorderTransparent; }
 };
 
 } // namespace tpx::test
