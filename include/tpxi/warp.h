@@ -108,9 +108,9 @@ TPX_API TpxStatus tpxiWarpAffineCubicInit(TpxiSize srcSize, TpxiSize dstSize, Tp
  * Statuses, in order: tpxErrNullPointer; tpxWarnNoOperation (a size of exactly 0 and none below); tpxErrContext
  * (a plan for another type, interpolation or number of channels); tpxErrSize (below 1); tpxErrStep (not a whole
  * number of samples); tpxErrOutOfRange (an offset outside the destination); the plan's tpxWarnNoQuadOverlap,
- * with nothing written; tpxErrBorder; tpxWarnNoQuadOverlap (no pixel of the tile lies in the source, or with a
- * constant border near enough to it; constant borders are written all the same); tpxWarnValueAdjusted (the
- * tile was cut); tpxOk. */
+ * with nothing written; tpxErrBorder; tpxWarnNoQuadOverlap (no pixel of the tile takes anything from the
+ * source, as none lies in it, or with a constant border near enough to it; constant borders are written all the
+ * same); tpxWarnValueAdjusted (the tile was cut); tpxOk. */
 TPX_API TpxStatus tpxiWarpAffineNearest_8u_C1R(const Tpx8u* pSrc, int srcStep, Tpx8u* pDst, int dstStep,
                                                TpxiPoint dstRoiOffset, TpxiSize dstRoiSize,
                                                const TpxiWarpSpec* pSpec, Tpx8u* pBuffer);

@@ -380,7 +380,8 @@ TEST(WarpAffineSizes, AreThoseOfTheContract) {
     const auto of = [&](Coeffs c, TpxInterpolationType kind, TpxBorderType border) {
         return Job{s, d, c, 0, kind, border};
     };
-    const Coeffs half{{{1, 0, 0.5}, {0, 1, 0.5}}}, whole{{{1, 0, 3}, {0, 1, 2}}}, away{{{1, 0, 50}, {0, 1, 0}}};
+    const Coeffs half{{{1, 0, 0.5}, {0, 1, 0.5}}}, whole{{{1, 0, 3}, {0, 1, 2}}}, away{{{1, 0, 50}, {0, 1, 0}}},
+        low{{{1, 0, 0.5}, {0, 1, 10.5}}};
     const auto N = tpxInterpolationNearest, L = tpxInterpolationLinear, C = tpxInterpolationCubic;
     const auto T = tpxBorderTransparent, R = tpxBorderReplicate, K = tpxBorderConstant;
     // Rows: 0.5 to 7.5 have 1 to 7 whole ones, 2 to 9 have 2 to 9, -0.5 to 8.5 have 0 to 8.
@@ -388,6 +389,7 @@ TEST(WarpAffineSizes, AreThoseOfTheContract) {
         {"one table", of(half, N, T), 328 + 24 + 8 * 6},
         {"one table", of(half, L, R), 328 + 24 + 8 * 6},
         {"two tables", of(half, L, K), 328 + 24 + 8 * 6 + 24 + 8 * 8},
+        {"one table, rows 11 to the last one", of(low, L, T), 328 + 24 + 8 * 4},
         {"a shift", of(whole, L, T), 392 + 24 + 8 * 7},
         {"a shift, two tables", of(whole, N, K), 392 + 24 + 8 * 7 + 24 + 8 * 9},
         {"a miss", of(away, L, T), 392 + 16},
