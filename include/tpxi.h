@@ -31,6 +31,7 @@
 #include "tpxi/filters_median.h"
 #include "tpxi/fourier.h"
 #include "tpxi/geometry.h"
+#include "tpxi/remap.h"
 #include "tpxi/resize_taps.h"
 #include "tpxi/statistics.h"
 #include "tpxi/threshold.h"

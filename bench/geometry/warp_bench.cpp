@@ -1,6 +1,7 @@
 #include "../families.h"
 #include "../frame/image.h"
 #include "../frame/pointwise.h"
+#include "models/remap.h"
 #include "models/warp.h"
 
 #include <cmath>
@@ -128,6 +129,58 @@ void addWarp(const char* name, Warp<T> function, TpxInterpolationType interpolat
 #define PERSPECTIVE(T, kind, types, channels, degrees) \
     WARP(T, Perspective, rectification, kind, types, channels, degrees)
 
+template <typename T>
+using MapOf = std::conditional_t<sizeof(T) == 8, Tpx64f, Tpx32f>;
+template <typename T>
+using Remap = TpxStatus (*)(const T*, TpxiSize, int, TpxiRect, const MapOf<T>*, int, const MapOf<T>*, int, T*,
+                            int, TpxiSize, int);
+
+// The same rotation by maps.
+template <typename T>
+void addRemap(const std::string& name, Remap<T> function, int interpolation, int channels) {
+    using Map = MapOf<T>;
+    for (const TpxiSize size : {TpxiSize{640, 480}, TpxiSize{1920, 1080}}) {
+        const double samples = static_cast<double>(size.width) * size.height * channels;
+        addJob({"Warp", name, text(size), samples, samples * sizeof(T) * 2}, [=] {
+            const auto src =
+                std::make_shared<Image<T>>(size, channels, 0, std::is_integral_v<T> ? T(-1) : T(1));
+            const auto dst = std::make_shared<Image<T>>(size, channels);
+            const auto xMap = std::make_shared<Image<Map>>(size, 1);
+            const auto yMap = std::make_shared<Image<Map>>(size, 1);
+            constexpr ptrdiff_t kMapSize = sizeof(Map);
+            const ptrdiff_t mapStep = xMap->step() / kMapSize;
+            const auto warp = rotation(size, 15, tpxInterpolationLinear);
+            for (int y = 0; y < size.height; ++y)
+                for (int x = 0; x < size.width; ++x) {
+                    const auto at = warp.place(x, y);
+                    xMap->data()[y * mapStep + x] = static_cast<Map>(at.x);
+                    yMap->data()[y * mapStep + x] = static_cast<Map>(at.y);
+                }
+            const TpxiRect roi = {0, 0, size.width, size.height};
+            const auto ours = [=] {
+                return function(src->data(), size, src->step(), roi, xMap->data(), xMap->step(), yMap->data(),
+                                yMap->step(), dst->data(), dst->step(), size, interpolation);
+            };
+            const auto scalar = [=](const Image<T>& to) {
+                constexpr ptrdiff_t kSize = sizeof(T);
+                tpx::model::remap(tpx::model::Remap{size, roi, interpolation}, src->data(), src->step() / kSize,
+                                  xMap->data(), yMap->data(), mapStep, to.data(), to.step() / kSize, channels,
+                                  size);
+            };
+            const Image<T> expected(size, channels);
+            check(ours());
+            scalar(expected);
+            checkSame(*dst, expected, std::is_integral_v<T> ? 1 : 1e-5);
+            return std::vector<Contender>{{kOurs, [=] { ours(); }},
+                                          {kCopy, [=] { copyImage(*src, *dst); }},
+                                          {kScalar, [=] { scalar(*dst); }}};
+        });
+    }
+}
+
+#define REMAP(T, types, channels, kind, interpolation) \
+    addRemap<T>("tpxiRemap_" #types ", " kind, tpxiRemap_##types, interpolation, channels)
+
 } // namespace
 
 void addWarps() {
@@ -149,6 +202,18 @@ void addWarps() {
     PERSPECTIVE(Tpx8u, Linear, 8u_C3R, 3, 15);
     PERSPECTIVE(Tpx32f, Linear, 32f_C1R, 1, 15);
     PERSPECTIVE(Tpx8u, Cubic, 8u_C1R, 1, 15);
+    REMAP(Tpx8u, 8u_C1R, 1, "nearest", 1);
+    REMAP(Tpx8u, 8u_C1R, 1, "linear", 2);
+    REMAP(Tpx8u, 8u_C3R, 3, "linear", 2);
+    REMAP(Tpx16u, 16u_C1R, 1, "linear", 2);
+    REMAP(Tpx32f, 32f_C1R, 1, "linear", 2);
+    REMAP(Tpx64f, 64f_C1R, 1, "linear", 2);
+    REMAP(Tpx8u, 8u_C1R, 1, "cubic", 4);
+    REMAP(Tpx8u, 8u_C3R, 3, "cubic", 4);
+    REMAP(Tpx8u, 8u_C1R, 1, "Catmull-Rom", 6);
+    REMAP(Tpx8u, 8u_C1R, 1, "Lanczos", 16);
+    REMAP(Tpx8u, 8u_C3R, 3, "Lanczos", 16);
+    REMAP(Tpx32f, 32f_C1R, 1, "Lanczos", 16);
 }
 
 } // namespace bench

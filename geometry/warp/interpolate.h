@@ -51,13 +51,32 @@ struct Interpolation {
     CubicWeights<Real> cubic = {};
 };
 
-// The kernels (nearest.cpp, linear.cpp, cubic.cpp). Pixels of one size share theirs of nearest.
+// The kernels (nearest.cpp, linear.cpp, cubic.cpp, lanczos.cpp, bytes.cpp). Pixels of one size share theirs of
+// nearest.
+//
+// A fraction is that of the pixel below the position, but where the taps were moved to lie in the image: then
+// it is the distance from the pixel that is where the one below would be, less than 0 or more than 1.
 template <int PixelBytes>
 void interpolateNearest(const Taps<Tpx32f>& taps, Tpx8u* dst, int count);
 template <class T, int N>
 void interpolateLinear(const Taps<RealOf<T>>& taps, Tpx8u* dst, int count);
 template <class T, int N>
 void interpolateCubic(const Taps<RealOf<T>>& taps, Tpx8u* dst, int count);
+
+// Those whose taps may have been moved: the cubic through four samples; Catmull-Rom splines, which are the
+// former there; six taps of Lanczos.
+template <class T, int N>
+void interpolateThroughSamples(const Taps<RealOf<T>>& taps, Tpx8u* dst, int count);
+template <class T, int N>
+void interpolateCatmullRom(const Taps<RealOf<T>>& taps, Tpx8u* dst, int count);
+template <class T, int N>
+void interpolateLanczos(const Taps<RealOf<T>>& taps, Tpx8u* dst, int count);
+
+// Of bytes, in integers. Fractions of cubic are distances from the first tap.
+template <int N>
+void interpolateLinearBytes(const Taps<Tpx32f>& taps, Tpx8u* dst, int count);
+template <int N>
+void interpolateCubicBytes(const Taps<Tpx32f>& taps, Tpx8u* dst, int count);
 
 template <class T, int N, class Real>
 void mixPixels(const Tpx8u* src, const Real* share, Tpx8u* dst, int count);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/images/gather.h"
+#include "frame/simd/doubles.h"
 #include "geometry/warp/coordinates.h"
 
 namespace tpx {
@@ -39,6 +40,10 @@ constexpr Window windowOf(Footprint footprint, int64_t first, int64_t end) {
     return {double(first - footprint.offset), last + 1, last};
 }
 
+inline void storeFractions(Tpx64f* to, V64f f) { store(to, f); }
+inline void storeFractions(Tpx32f* to, V32f f) { store(to, f); }
+inline void storeFractions(Tpx32f* to, V64f f) { storeFour(to, toFloat(f)); }
+
 struct Grid {
     Window x, y;
     double pixelBytes, step;
@@ -53,12 +58,6 @@ inline void locate(const Row& row, int64_t x, int count, const Grid& grid, Sites
     const auto below = [](V64f s, const Window& window) {
         return minOf(rounded<Rounding::Down>(s), splat<V64f>(window.last));
     };
-    const auto putFraction = [](Real* to, V64f f) {
-        if constexpr (sizeof(Real) == 8)
-            store(to, f);
-        else
-            storeFour(to, Four<float>(_mm256_cvtpd_ps(f)));
-    };
     const V64f pixelBytes = splat<V64f>(grid.pixelBytes), step = splat<V64f>(grid.step);
     V64f at = splat<V64f>(double(x)) + V64f{0, 1, 2, 3};
     for (int i = 0; i < wholeUnits(count); i += 4, at += splat<V64f>(4)) {
@@ -68,8 +67,8 @@ inline void locate(const Row& row, int64_t x, int count, const Grid& grid, Sites
         const V64f place = x0 * pixelBytes + y0 * step + splat<V64f>(kPlaceMagic);
         store(reinterpret_cast<Tpx64f*>(sites.place + i), place);
         if constexpr (HasFractions) {
-            putFraction(sites.fx + i, sx - x0);
-            putFraction(sites.fy + i, sy - y0);
+            storeFractions(sites.fx + i, sx - x0);
+            storeFractions(sites.fy + i, sy - y0);
         }
     }
 }

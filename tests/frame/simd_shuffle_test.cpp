@@ -1,6 +1,7 @@
 // Moves of lanes, pixels and channels, masks of bits, small tables, gathered pieces.
 #include <gtest/gtest.h>
 
+#include "frame/simd/doubles.h"
 #include "frame/simd/simd.h"
 #include "tests/frame/simd_lanes.h"
 
@@ -103,6 +104,8 @@ TEST(Simd, MasksOfBits) {
         ASSERT_EQ(laneBits(maskOf<Tpx8u>(bits, 0)), bits);
         ASSERT_EQ(laneBits(Pair<V16s>{maskOf<Tpx16u>(bits, 0), maskOf<Tpx16u>(bits >> 8, 0)}), bits);
         ASSERT_EQ(laneBits(Pair<B32f>{maskOf<Tpx32f>(bits, 0), maskOf<Tpx32f>(bits >> 8, 0)}), bits);
+        const auto lane = [bits](int i) { return -Tpx64s(bits >> i & 1); };
+        ASSERT_EQ(laneBits(B64f{lane(0), lane(1), lane(2), lane(3)}), bits & 15);
     }
 }
 
