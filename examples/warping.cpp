@@ -1,4 +1,4 @@
-// Warps: planned once from coefficients or quadrangles, for any number of images.
+// Warps: planned once from coefficients or quadrangles, for any number of images, or through maps of positions.
 #include "gallery.h"
 
 namespace {
@@ -7,6 +7,19 @@ struct Warped {
     Image8u image;
     Operation operation;
 };
+
+// The picture that warp(pixels) makes, over stripes that it may leave to be seen.
+template <class Warp>
+Warped overStripes(const char* name, const char* function, TpxiSize srcSize, TpxiSize size, Warp warp) {
+    Image8u image(size);
+    const Pixels dst = image.view();
+    const double ms = bestTime([&] { warp(dst); });
+    for (int y = 0; y < size.height; ++y)
+        for (int x = 0; x < size.width; ++x)
+            std::fill_n(dst.at(x, y), kChannels, static_cast<Tpx8u>((x + y) / 12 % 2 ? 80 : 95));
+    warp(dst); // what a smooth edge is blended with is new
+    return {std::move(image), {name, function, srcSize, size, 1, ms}};
+}
 
 // A plan, and the work buffer for the whole of its destination.
 class WarpPlan {
@@ -27,20 +40,12 @@ class WarpPlan {
     WarpPlan(const WarpPlan&) = delete;
     WarpPlan& operator=(const WarpPlan&) = delete;
 
-    // The picture of `src` by one of the processing calls, over stripes that some borders leave to be seen.
+    // The picture of `src` by one of the processing calls.
     template <class Call>
     Warped run(const char* name, const char* function, Call call, ConstPixels src) {
-        Image8u image(dst_);
-        const Pixels dst = image.view();
-        const auto warp = [&] {
+        return overStripes(name, function, src.size, dst_, [&](Pixels dst) {
             check(call(src.data, src.step, dst.data, dst.step, {0, 0}, dst_, spec(), buffer_.data()), function);
-        };
-        const double ms = bestTime(warp);
-        for (int y = 0; y < dst_.height; ++y)
-            for (int x = 0; x < dst_.width; ++x)
-                std::fill_n(dst.at(x, y), kChannels, static_cast<Tpx8u>((x + y) / 12 % 2 ? 80 : 95));
-        warp(); // what a smooth edge is blended with is new
-        return {std::move(image), {name, function, src.size, dst_, 1, ms}};
+        });
     }
 
  private:
@@ -117,6 +122,53 @@ Warped turnedDetail(const char* name, ConstPixels detail, TpxBorderType border, 
     return affine(name, detail, {300, 200}, coeffs, border, smoothEdge);
 }
 
+// ---- Through maps ----------------------------------------------------------------------------------------
+
+// Moves every pixel along the line from the picture's middle: what appears at distance r from there, in half
+// diagonals, is taken from scale(r) times as far.
+template <class Scale>
+Warped radial(const char* name, ConstPixels src, int interpolation, Scale scale) {
+    const auto [width, height] = src.size;
+    const double middle[2] = {(width - 1) / 2.0, (height - 1) / 2.0}, unit = std::hypot(middle[0], middle[1]);
+    std::vector<Tpx32f> xMap, yMap;
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) {
+            const double dx = x - middle[0], dy = y - middle[1], factor = scale(std::hypot(dx, dy) / unit);
+            xMap.push_back(static_cast<Tpx32f>(middle[0] + dx * factor));
+            yMap.push_back(static_cast<Tpx32f>(middle[1] + dy * factor));
+        }
+    const int mapStep = width * static_cast<int>(sizeof(Tpx32f));
+    return overStripes(name, "tpxiRemap_8u_C3R", src.size, src.size, [&](Pixels dst) {
+        check(tpxiRemap_8u_C3R(src.data, src.size, src.step, {0, 0, width, height}, xMap.data(), mapStep,
+                               yMap.data(), mapStep, dst.data, dst.step, dst.size, interpolation),
+              "tpxiRemap_8u_C3R");
+    });
+}
+
+// How much further out the lens has found what it draws at distance r.
+constexpr double kBend = 0.45;
+double lens(double r) { return 1 + kBend * r * r; }
+
+// Where the lens draws what is at distance r, for each unit of r: Newton's method for d lens(d) = r.
+double undone(double r) {
+    double d = r;
+    for (int i = 0; i < 8; ++i) d -= (d * lens(d) - r) / (1 + 3 * kBend * d * d);
+    return r > 0 ? d / r : 1;
+}
+
+// With straight lines, to see them bend.
+Image8u withGrid(ConstPixels src) {
+    Image8u image(src.size);
+    const Pixels dst = image.view();
+    check(tpxiCopy_8u_C3R(src.data, src.step, dst.data, dst.step, src.size), "tpxiCopy_8u_C3R");
+    const int pitch = std::max(src.size.width / 12, 2), line = std::max(src.size.width / 300, 1);
+    for (int y = 0; y < src.size.height; ++y)
+        for (int x = 0; x < src.size.width; ++x)
+            if ((x + pitch / 2) % pitch < line || (y + pitch / 2) % pitch < line)
+                std::fill_n(dst.at(x, y), kChannels, static_cast<Tpx8u>(235));
+    return image;
+}
+
 } // namespace
 
 void warps(Gallery& gallery, const Image8u& source) {
@@ -134,4 +186,10 @@ void warps(Gallery& gallery, const Image8u& source) {
                             turnedDetail("Transparent, smooth edge", detail, tpxBorderTransparent, 1),
                             turnedDetail("In memory: taps reach outside", detail, tpxBorderInMemAll)})
         gallery.show(w.image.view(), w.operation);
+
+    gallery.sheet().section("Through maps: bent by a lens, and undone");
+    const Image8u grid = withGrid(photo);
+    const Warped bent = radial("Bent by a lens", grid.view(), tpxInterpolationCubic, lens);
+    const Warped straight = radial("Straightened", bent.image.view(), tpxInterpolationLanczos, undone);
+    for (const Warped* w : {&bent, &straight}) gallery.show(w->image.view(), w->operation);
 }
