@@ -45,36 +45,34 @@ struct ByProduct {
     }
 };
 
-// The same means of bytes from sums in 16 bits, in integers: (sum x factor / 2^16 + half) >> shift, that is sum
-// / samples + 1/2 rounded down. With an odd number of samples no quotient is a tie, and the nearest one is 1 /
-// (2 samples) away from it. Both ways stay closer to the quotient q, which is at most 255: the product is off
-// by no more than q 2^-23, and the integers by q |factor samples / 2^(16 + shift) - 1|. The latter is tested.
+// The same means of bytes from sums in 16 bits, in integers: (sum + samples / 2) x factor / 2^(16 + shift),
+// rounded down. With an odd number of samples no mean is a tie, and the nearest one is 1 / (2 samples) away
+// from it, more than the single-precision product is off. The integers' quotient is right while the factor's
+// excess over 2^(16 + shift) / samples adds less than 1 / samples to it (Granlund and Montgomery 1994), which
+// is tested.
 struct ByShift {
-    V16u factor, half;
+    V16u bias, factor;
     int shift = 0;
     bool isExact = false;
 
     explicit ByShift(int64_t samples) {
-        if (samples % 2 == 0 || samples < 3 || samples > 257) return;
+        if (samples % 2 == 0 || samples < 3 || samples > 255) return;
         while (samples >> (shift + 1)) shift++;
-        const int64_t one = int64_t(1) << (16 + shift), f = (one + samples / 2) / samples,
-                      off = f * samples > one ? f * samples - one : one - f * samples;
-        isExact = 2 * samples * 255 * off < one;
+        const int64_t one = int64_t(1) << (16 + shift), f = one / samples + 1, excess = f * samples - one,
+                      largest = 255 * samples + samples / 2;
+        isExact = largest * excess < one;
+        bias = splat<V16u>(Tpx16u(samples / 2));
         factor = splat<V16u>(Tpx16u(f));
-        half = splat<V16u>(Tpx16u(1 << (shift - 1)));
     }
 
-    [[gnu::always_inline]] V16u eight(V16u sums) const {
-        return shiftRight(multiplyHigh(sums, factor) + half, shift);
-    }
-    template <class D, class Sum, class At>
-    [[gnu::always_inline]] Vec<D> means(At sumsAt, ptrdiff_t i) const {
-        return narrow<D>(Pair<V16u>{eight(sumsAt(i)), eight(sumsAt(i + 8))});
+    [[gnu::always_inline]] V16u ofBiased(V16u sums) const {
+        return shiftRight(multiplyHigh(sums, factor), shift);
     }
 };
 
 // The same in one multiplication, sum x factor / 2^15 rounded, for a few small numbers of samples.
 struct ByRounding {
+    V16u bias{};
     V16s factor;
     bool isExact = false;
 
@@ -85,10 +83,20 @@ struct ByRounding {
         factor = splat<V16s>(Tpx16s(f));
     }
 
-    [[gnu::always_inline]] V16u eight(V16u sums) const { return V16u(multiplyRounded(V16s(sums), factor)); }
+    [[gnu::always_inline]] V16u ofBiased(V16u sums) const { return V16u(multiplyRounded(V16s(sums), factor)); }
+};
+
+// Sixteen means of bytes by either.
+template <class Mean>
+struct OfWords : Mean {
+    using Mean::Mean;
+
     template <class D, class Sum, class At>
     [[gnu::always_inline]] Vec<D> means(At sumsAt, ptrdiff_t i) const {
-        return narrow<D>(Pair<V16u>{eight(sumsAt(i)), eight(sumsAt(i + 8))});
+        const auto eight = [&](ptrdiff_t at) __attribute__((always_inline)) {
+            return this->ofBiased(sumsAt(at) + this->bias);
+        };
+        return narrow<D>(Pair<V16u>{eight(i), eight(i + 8)});
     }
 };
 
@@ -139,7 +147,7 @@ void meansOfSquare(Region<Tpx8u, Tpx8u> region, Mean mean) {
             const Tpx8u* from = src.from(x, ptrdiff_t(y)).data;
             Tpx8u* to = region.dst.from(x, ptrdiff_t(y)).data;
             RowOfSums<Side> ring[Side];
-            V16s even{}, odd{}; // of the rows above the lowest one
+            V16s even = V16s(mean.bias), odd = even; // of the rows above the lowest one
             for (int k = 0; k < Side - 1; k++, from = addBytes(from, src.step)) {
                 ring[k] = RowOfSums<Side>(from);
                 even += ring[k].even;
@@ -151,7 +159,7 @@ void meansOfSquare(Region<Tpx8u, Tpx8u> region, Mean mean) {
                     const RowOfSums<Side> below(from);
                     even += below.even;
                     odd += below.odd;
-                    put(to, V8u(mean.eight(V16u(even)) | mean.eight(V16u(odd)) << 8));
+                    put(to, V8u(mean.ofBiased(V16u(even)) | mean.ofBiased(V16u(odd)) << 8));
                     even -= ring[k].even;
                     odd -= ring[k].odd;
                     ring[(k + Side - 1) % Side] = below;
@@ -344,8 +352,8 @@ class BoxKernel {
     Reach reach_;
     BoxMemory memory_;
     ByProduct byProduct_;
-    ByShift byShift_;
-    ByRounding byRounding_;
+    OfWords<ByShift> byShift_;
+    OfWords<ByRounding> byRounding_;
 };
 
 // ---- Work buffers -----------------------------------------------------------------------------------------

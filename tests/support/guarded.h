@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 #include <sys/mman.h>
-#include <unistd.h>
 
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <random>
@@ -17,23 +17,54 @@ namespace tpx::test {
 // Which end of the memory lies at an unreadable page.
 enum class Edge { End, Start };
 
+// Pages between two unreadable ones. Tests ask for very many of few sizes, so they are kept for the next.
+class GuardedPages {
+ public:
+    explicit GuardedPages(size_t pages) : pages_(pages) {
+        if (pages < kKept && !spare()[pages].empty()) {
+            base_ = spare()[pages].back();
+            spare()[pages].pop_back();
+            std::memset(data(), 0, pages * kPage);
+            return;
+        }
+        base_ = static_cast<uint8_t*>(
+            mmap(nullptr, total(pages), PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+        if (base_ == MAP_FAILED) throw std::bad_alloc();
+        mprotect(base_, kPage, PROT_NONE);
+        mprotect(base_ + kPage * (pages + 1), kPage, PROT_NONE);
+    }
+    ~GuardedPages() {
+        if (pages_ < kKept)
+            spare()[pages_].push_back(base_);
+        else
+            munmap(base_, total(pages_));
+    }
+    GuardedPages(const GuardedPages&) = delete;
+    GuardedPages& operator=(const GuardedPages&) = delete;
+
+    static constexpr size_t kPage = 4096;
+    uint8_t* data() { return base_ + kPage; }
+    uint8_t* end() { return data() + pages_ * kPage; }
+
+ private:
+    static constexpr size_t kKept = 64; // larger ones are rare
+    using Spare = std::array<std::vector<uint8_t*>, kKept>;
+    static size_t total(size_t pages) { return (pages + 2) * kPage; }
+    static Spare& spare() {
+        thread_local Spare pages;
+        return pages;
+    }
+    size_t pages_;
+    uint8_t* base_;
+};
+
 // `bytes` of memory between unreadable pages: it ends directly at one, or starts `misalign` bytes behind one.
 class GuardedBytes {
  public:
-    explicit GuardedBytes(size_t bytes, size_t misalign = 0, Edge edge = Edge::End) : size_(bytes) {
-        const size_t page = size_t(sysconf(_SC_PAGESIZE));
-        const size_t inner = (bytes + misalign + page - 1) / page * page;
-        total_ = inner + 2 * page;
-        base_ = static_cast<uint8_t*>(
-            mmap(nullptr, total_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
-        if (base_ == MAP_FAILED) throw std::bad_alloc();
-        mprotect(base_, page, PROT_NONE);
-        mprotect(base_ + page + inner, page, PROT_NONE);
-        data_ = edge == Edge::End ? base_ + page + inner - bytes - misalign : base_ + page + misalign;
-    }
-    ~GuardedBytes() { munmap(base_, total_); }
-    GuardedBytes(const GuardedBytes&) = delete;
-    GuardedBytes& operator=(const GuardedBytes&) = delete;
+    explicit GuardedBytes(size_t bytes, size_t misalign = 0, Edge edge = Edge::End)
+        : pages_((bytes + misalign + GuardedPages::kPage - 1) / GuardedPages::kPage),
+          data_(edge == Edge::End ? pages_.end() - bytes - misalign : pages_.data() + misalign),
+          size_(bytes) {}
 
     uint8_t* data() { return data_; }
     const uint8_t* data() const { return data_; }
@@ -41,9 +72,9 @@ class GuardedBytes {
     void fill(uint8_t value) { std::memset(data_, value, size_); }
 
  private:
-    uint8_t* base_;
+    GuardedPages pages_;
     uint8_t* data_;
-    size_t size_, total_;
+    size_t size_;
 };
 
 // How an image lies in memory: bytes between rows, where the unreadable page is, and an odd start.
