@@ -466,12 +466,8 @@ TpxStatus boxFilter(const BoxCall<S>& call) {
     if (border.kind == Border::Const)
         for (int c = 0; c < coloursOf(L); c++) value[c] = peek(call.value + c);
     const FilterCall<S, S> filter = {call.src, call.dst, call.roi, call.mask, border, value, strips};
-    const BoxKernel<L, S> kernel(call.mask, {call.buffer, ptrdiff_t(areas.columns)});
-    const bool byStrips = isSmallerThanRegion(call.mask, call.roi);
-    if (call.src.data == call.dst.data)
-        filterInPlace<N>(filter, byStrips, areas.all() - areas.columns, kernel);
-    else
-        filterRegion<N>(filter, byStrips, kernel);
+    filterAnywhere<N>(filter, areas.all() - areas.columns,
+                      BoxKernel<L, S>(call.mask, {call.buffer, ptrdiff_t(areas.columns)}));
     return tpxOk;
 }
 

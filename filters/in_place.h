@@ -131,10 +131,13 @@ void inPieces(const FilterCall<T, T>& call, BorderWord readable, int64_t bytes, 
 
 } // namespace in_place
 
-// Runs kernel over all of a call's region, whose destination is its source. `bytes` are those of call.strips;
-// where they do not hold as many extended rows as the mask has, masks are rows, and borders not mirrored.
+// Runs kernel over all of a call's region, whose destination may be its source. `bytes` are those of
+// call.strips; where they do not hold as many extended rows as the mask has, masks are rows, and borders not
+// mirrored.
 template <int N, class T, class Kernel>
-void filterInPlace(const FilterCall<T, T>& call, bool byStrips, int64_t bytes, Kernel kernel) {
+void filterAnywhere(const FilterCall<T, T>& call, int64_t bytes, Kernel kernel) {
+    const bool byStrips = isSmallerThanRegion(call.mask, call.roi);
+    if (call.src.data != call.dst.data) return filterRegion<N>(call, byStrips, kernel);
     const BorderWord readable = border_model::readableSides(call.border, call.mask);
     const int64_t capacity = bytes / ((call.roi.width + call.mask.width - 1) * N * int64_t(sizeof(T)));
     if (capacity >= call.mask.height)

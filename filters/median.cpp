@@ -96,9 +96,8 @@ TpxStatus median(const Call<T>& call) {
     const BorderWord border = readBorder<Border::Replicate, Border::Const>(call.border);
     if (!border.valid) return tpxErrBorder;
 
-    const bool inPlace = call.src.data == call.dst.data;
     if (call.mask.width == 1 && call.mask.height == 1) {
-        if (!inPlace)
+        if (call.src.data != call.dst.data)
             mapImage<L>(
                 samplesOf(call.roi, N), [](auto x) { return x; }, call.dst, call.src);
         return tpxOk;
@@ -106,13 +105,8 @@ TpxStatus median(const Call<T>& call) {
     T value[N];
     for (T& sample : value) sample = call.borderValue;
     const FilterCall<T, T> filter{call.src, call.dst, call.roi, call.mask, border, value, call.buffer};
-    const bool byStrips = isSmallerThanRegion(call.mask, call.roi);
     withMedianOf<L, T>(call.mask, [&](RegionKernel<T> kernel) {
-        if (inPlace)
-            filterInPlace<N>(filter, byStrips, int64_t(bufferBytes(call.roi, call.mask, kTypeOf<T>, N)),
-                             kernel);
-        else
-            filterRegion<N>(filter, byStrips, kernel);
+        filterAnywhere<N>(filter, int64_t(bufferBytes(call.roi, call.mask, kTypeOf<T>, N)), kernel);
     });
     return tpxOk;
 }

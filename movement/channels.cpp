@@ -86,7 +86,8 @@ TpxStatus setChannel(T value, Channel<T, N> dst, TpxiSizeL roi) {
 
 // ---- Planes ---------------------------------------------------------------------------------------------
 
-// When results go past the caches: by the traffic, and for the narrow samples also by how the rows lie.
+// When results go past the caches: by the traffic, and for the narrow samples also by how the rows lie. From
+// planes rows of 512 pixels and more do, wherever they lie.
 template <class T, int N>
 bool streamsPlanes(bool toPlanes, const Interleaved<T, N>& pixels, ptrdiff_t planeStep, TpxiSizeL roi) {
     const uint64_t traffic = trafficOf(samplesOf(roi, 1), pixels, pixels);
