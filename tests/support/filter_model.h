@@ -102,6 +102,8 @@ void sweepFilterCases(std::vector<unsigned> kinds, Body body) {
         for (int height : {1, 3, 6, 40})
             for (int k = 0; k < 5; k++)
                 visit(width, height, words[(turn * 7 + unsigned(k) * 11) % words.size()]);
+    // Rows that kernels take in several stretches.
+    for (int width : {513, 530, 1100}) visit(width, 3, words[turn * 7 % words.size()]);
 }
 
 } // namespace tpx::test
