@@ -462,6 +462,16 @@ TEST(General, LargeKernels) {
     }
 }
 
+// Results are made two rows at a time; the second of the last pair may not be read for.
+TEST(General, OddNumbersOfRowsEndWithTheImage) {
+    for (const TpxiSize kernel : {TpxiSize{3, 3}, TpxiSize{5, 5}, TpxiSize{3, 4}})
+        for (const bool floats : {false, true}) {
+            expectLargeKernel<Tpx8u>(kernel, {130, 5}, 1, floats, tpxBorderInMemAll);
+            expectLargeKernel<Tpx16s>(kernel, {130, 5}, 3, floats, tpxBorderInMemAll);
+            expectLargeKernel<Tpx32f>(kernel, {130, 5}, 1, true, tpxBorderInMemAll);
+        }
+}
+
 // ---- The thread's direction of rounding -------------------------------------------------------------------
 
 TEST(General, DirectionOfTheControlRegister) {
