@@ -44,6 +44,7 @@ float* put(float* at, Complex<double> z) {
 }
 
 void makeTwiddles(float* at, uint64_t length, const Factors& f, Complex<double>* rootTable) {
+    Roots::makeTable(length, rootTable);
     const Roots roots(length, rootTable);
     uint64_t n = length;
     for (int i = 0; i < f.count; i++) {
@@ -89,40 +90,61 @@ void transformDouble(Complex<double>* x, uint64_t n, const Roots& roots) {
 void makeChirp(float* chirp, float* spectrum, uint64_t n, Complex<double>* wound, Complex<double>* rootTable) {
     const uint64_t m = convolutionLength(n);
     for (uint64_t i = 0; i < m; i++) wound[i] = {0, 0};
+    Roots::makeTable(2 * n, rootTable);
     const Roots roots(2 * n, rootTable);
     for (uint64_t k = 0; k < n; k++) {
         const Complex<double> z = roots(k * k % (2 * n));
         chirp = put(chirp, z);
         wound[k] = wound[(m - k) % m] = {z.re, -z.im};
     }
+    Roots::makeTable(m, rootTable);
     transformDouble(wound, m, Roots(m, rootTable));
     const double scale = 1 / double(m);
     for (uint64_t k = 0; k < m; k++) spectrum = put(spectrum, {wound[k].re * scale, wound[k].im * scale});
 }
 
+// ---- Long lines ------------------------------------------------------------------------------------------
+
+// Groups of longer lines leave the caches; shorter lines that are alone gain nothing.
+constexpr uint64_t kLongestGroup = 32768, kShortestAlone = 256;
+
+// The rows of the matrix: the largest divisor up to the square root.
+uint64_t splitRows(uint64_t n) {
+    uint64_t rows = 1;
+    while ((rows + 1) * (rows + 1) <= n) rows++;
+    while (n % rows) rows--;
+    return rows;
+}
+
+struct SplitKinds {
+    LineKind columns, rows;
+    explicit SplitKinds(uint64_t n) : columns{splitRows(n), false}, rows{n / splitRows(n), false} {}
+    bool isSquare() const { return columns.length == rows.length; }
+};
+
 // ---- Passes ----------------------------------------------------------------------------------------------
 
 inline Lanes splatComplex(const float* p) { return {splat<V32f>(p[0]), splat<V32f>(p[1])}; }
 
-// n elements in `runs` interleaved sequences, of which butterflies take every rest-th element.
+// Of n elements in `runs` interleaved sequences a butterfly takes every rest-th element.
 template <class B>
-const float* passOf(const B& butterfly, const float* src, float* dst, ptrdiff_t n, ptrdiff_t runs,
+const float* passOf(const B& butterfly, const Group& group, ptrdiff_t n, ptrdiff_t runs,
                     const float* twiddles) {
     const int radix = butterfly.radix();
     const ptrdiff_t rest = n / radix;
     const auto part = [&]<bool Turn>(ptrdiff_t p) {
-        const float* const from = src + p * runs * kGroupFloats;
-        float* const to = dst + p * radix * runs * kGroupFloats;
-        for (ptrdiff_t q = 0; q < runs * kGroupFloats; q += kGroupFloats) {
+        const Group from{group.data + p * runs * Group::kFloats, nullptr};
+        const Group to{group.other + p * radix * runs * Group::kFloats, nullptr};
+        for (ptrdiff_t q = 0; q < runs; q++) {
             Lanes x[B::kMost];
 #pragma GCC unroll 16
-            for (int i = 0; i < radix; i++) x[i] = loadElement(from + q + i * rest * runs * kGroupFloats);
+            for (int i = 0; i < radix; i++) x[i] = from.load(q + i * rest * runs);
             butterfly.run(x);
-            storeElement(to + q, x[0]);
+            to.store(q, x[0]);
 #pragma GCC unroll 16
             for (int k = 1; k < radix; k++) {
                 if constexpr (Turn) x[k] = multiply(x[k], splatComplex(twiddles + 2 * k - 2));
-                storeElement(to + q + k * runs * kGroupFloats, x[k]);
+                to.store(q + k * runs, x[k]);
             }
         }
     };
@@ -131,119 +153,214 @@ const float* passOf(const B& butterfly, const float* src, float* dst, ptrdiff_t 
     return twiddles;
 }
 
-const float* pass(int radix, const float* src, float* dst, ptrdiff_t n, ptrdiff_t runs, const float* table) {
+const float* pass(int radix, const Group& group, ptrdiff_t n, ptrdiff_t runs, const float* table) {
     const float* const twiddles = table + (radix & 1 ? 2 * (radix - 1) : 0);
     switch (radix) {
         case 2:
-            return passOf(EvenButterfly<2>(), src, dst, n, runs, twiddles);
+            return passOf(EvenButterfly<2>(), group, n, runs, twiddles);
         case 4:
-            return passOf(EvenButterfly<4>(), src, dst, n, runs, twiddles);
+            return passOf(EvenButterfly<4>(), group, n, runs, twiddles);
         case 8:
-            return passOf(EvenButterfly<8>(), src, dst, n, runs, twiddles);
+            return passOf(EvenButterfly<8>(), group, n, runs, twiddles);
         case 3:
-            return passOf(OddButterfly<3>(table), src, dst, n, runs, twiddles);
+            return passOf(OddButterfly<3>(table), group, n, runs, twiddles);
         case 5:
-            return passOf(OddButterfly<5>(table), src, dst, n, runs, twiddles);
+            return passOf(OddButterfly<5>(table), group, n, runs, twiddles);
         case 7:
-            return passOf(OddButterfly<7>(table), src, dst, n, runs, twiddles);
+            return passOf(OddButterfly<7>(table), group, n, runs, twiddles);
         default:
-            return passOf(OddButterfly<0>(table, radix), src, dst, n, runs, twiddles);
+            return passOf(OddButterfly<0>(table, radix), group, n, runs, twiddles);
     }
 }
 
-ptrdiff_t elementsOf(const Line& line) {
-    ptrdiff_t n = 1;
-    for (int i = 0; i < line.passes; i++) n *= line.radix[i];
-    return n;
+template <class S>
+void exchangeBuffers(S& sequences) {
+    float* const data = sequences.data;
+    sequences.data = sequences.other;
+    sequences.other = data;
 }
 
-float* transformByPasses(const Line& line, float* data, float* other) {
+void transformByPasses(const Line& line, Group& group) {
     const float* table = line.twiddles;
-    ptrdiff_t n = elementsOf(line), runs = 1;
+    ptrdiff_t n = line.elements, runs = 1;
     for (int i = 0; i < line.passes; i++) {
-        table = pass(line.radix[i], data, other, n, runs, table);
+        table = pass(line.radix[i], group, n, runs, table);
         n /= line.radix[i];
         runs *= line.radix[i];
-        float* const swap = data;
-        data = other;
-        other = swap;
+        exchangeBuffers(group);
     }
-    return data;
+}
+
+// A matrix by its columns, turned by what their place and the frequency make, and its rows. These give every
+// so-many-th frequency each, so that eight rows store whole lines.
+void transformBySplit(const Line& line, LongLine& sequence) {
+    const Line &ofColumns = *line.split->columns, &ofRows = *line.split->rows;
+    const ptrdiff_t height = ofColumns.elements, width = ofRows.elements;
+    const Roots roots(uint64_t(line.elements), line.split->roots);
+    const ImageView<float> matrix{sequence.data, width * 2 * ptrdiff_t(sizeof(float))};
+    forColumns<Group>(width, [&](const auto& columns, ptrdiff_t x) {
+        const ImageView<float> strip = matrix.from(2 * x, 0);
+        Group group = sequence.group;
+        for (ptrdiff_t y = 0; y < height; y++) group.store(y, columns.load(strip.row(y)));
+        transform(ofColumns, group);
+        ptrdiff_t turns = 0;
+        for (ptrdiff_t k = 0; k < height; k++, turns += x) {
+            if (turns >= line.elements) turns -= line.elements;
+            const Complex<double> root = roots(uint64_t(turns));
+            const Lanes turn = multiply(line.split->laneRoots[k],
+                                        Lanes{splat<V32f>(float(root.re)), splat<V32f>(float(root.im))});
+            columns.store(strip.row(k), toInterleaved(multiply(group.load(k), turn)));
+        }
+    });
+    const ImageView<float> result{sequence.other, height * 2 * ptrdiff_t(sizeof(float))};
+    forColumns<Group>(height, [&](const auto& columns, ptrdiff_t k) {
+        Group group = sequence.group;
+        loadRows<false>(rowsFrom<Group>(matrix, k, height), width, group);
+        transform(ofRows, group);
+        for (ptrdiff_t j = 0; j < width; j++) columns.store(result.row(j) + 2 * k, inRowOrder(group.load(j)));
+    });
+    exchangeBuffers(sequence);
 }
 
 // The middle transform back is one forth with both parts exchanged.
-float* transformByChirp(const Line& line, float* data, float* other) {
-    const ptrdiff_t n = line.length, m = elementsOf(*line.inner);
-    for (ptrdiff_t i = 0; i < n; i++) {
-        float* const at = data + i * kGroupFloats;
-        storeElement(at, multiply(loadElement(at), splatComplex(line.chirp + 2 * i)));
-    }
-    for (ptrdiff_t i = n; i < m; i++) storeElement(data + i * kGroupFloats, Lanes{});
-    float* const spectrum = transformByPasses(*line.inner, data, other);
-    for (ptrdiff_t i = 0; i < m; i++) {
-        float* const at = spectrum + i * kGroupFloats;
-        const Lanes x = multiply(loadElement(at), splatComplex(line.spectrum + 2 * i));
-        storeElement(at, {x.im, x.re});
-    }
-    float* const result = transformByPasses(*line.inner, spectrum, spectrum == data ? other : data);
-    for (ptrdiff_t i = 0; i < n; i++) {
-        float* const at = result + i * kGroupFloats;
-        const Lanes x = loadElement(at);
-        storeElement(at, multiply(Lanes{x.im, x.re}, splatComplex(line.chirp + 2 * i)));
-    }
-    return result;
+template <class S>
+void transformByChirp(const Line& line, S& s) {
+    const Chirp& chirp = *line.chirp;
+    const ptrdiff_t n = line.length, m = line.elements;
+    for (ptrdiff_t i = 0; i < n; i++) s.store(i, multiply(s.load(i), splatComplex(chirp.chirp + 2 * i)));
+    for (ptrdiff_t i = n; i < m; i++) s.store(i, Lanes{});
+    transform(*chirp.inner, s);
+    for (ptrdiff_t i = 0; i < m; i++)
+        s.store(i, turned<true>(multiply(s.load(i), splatComplex(chirp.spectrum + 2 * i))));
+    transform(*chirp.inner, s);
+    for (ptrdiff_t i = 0; i < n; i++)
+        s.store(i, multiply(turned<true>(s.load(i)), splatComplex(chirp.chirp + 2 * i)));
 }
 
 } // namespace
 
-uint64_t groupBytes(uint64_t length) {
-    const uint64_t elements = factorsOf(length).complete ? length : convolutionLength(length);
-    return 2 * elements * kGroupFloats * sizeof(float);
+// ---- Plans -----------------------------------------------------------------------------------------------
+
+LineKind LineKind::of(uint64_t length, uint64_t count) {
+    const uint64_t elements = LineKind{length, false}.elements();
+    return {length, elements > kLongestGroup || (count == 1 && elements >= kShortestAlone)};
+}
+bool LineKind::isChirp() const { return !factorsOf(length).complete; }
+uint64_t LineKind::elements() const { return isChirp() ? convolutionLength(length) : length; }
+uint64_t LineKind::bufferBytes() const {
+    constexpr uint64_t kElement = Group::kFloats * sizeof(float);
+    if (!isLong) return 2 * elements() * kElement;
+    return 2 * roundUp(elements() * 2 * sizeof(float), kBlockAlignment) +
+           2 * SplitKinds(elements()).rows.length * kElement;
 }
 
-Line* layOutLine(BlockLayout& block, uint64_t length, bool sharesTables) {
+Line* layOutLine(BlockLayout& block, LineKind kind, bool sharesTables) {
     Line* const line = block.take<Line>(1, kBlockAlignment);
-    const Factors factors = factorsOf(length);
     block.take<Tpx8u>(kLineBytes1D - sizeof(Line));
     const float* twiddles = line ? reinterpret_cast<float*>(line + 1) : nullptr;
-    const float *chirp = nullptr, *spectrum = nullptr;
-    const Line* inner = nullptr;
-    if (!sharesTables && factors.complete && length > kShortLine)
-        twiddles = block.take<float>(twiddleFloats(length, factors), kBlockAlignment);
-    if (!sharesTables && !factors.complete) {
-        inner = layOutLine(block, convolutionLength(length), false);
-        chirp = block.take<float>(2 * length, kBlockAlignment);
-        spectrum = block.take<float>(2 * convolutionLength(length), kBlockAlignment);
+    Chirp chirp{}, *chirpPlace = nullptr;
+    Split split{}, *splitPlace = nullptr;
+    if (sharesTables) {
+        // Nothing of its own.
+    } else if (kind.isChirp()) {
+        const uint64_t m = kind.elements();
+        chirpPlace = block.take<Chirp>(1, kBlockAlignment);
+        chirp.inner = layOutLine(block, {m, kind.isLong}, false);
+        chirp.chirp = block.take<float>(2 * kind.length, kBlockAlignment);
+        chirp.spectrum = block.take<float>(2 * m, kBlockAlignment);
+    } else if (kind.isLong) {
+        const SplitKinds parts(kind.length);
+        splitPlace = block.take<Split>(1, kBlockAlignment);
+        split.rows = split.columns = layOutLine(block, parts.columns, false);
+        if (!parts.isSquare()) split.rows = layOutLine(block, parts.rows, false);
+        split.roots = block.take<Complex<double>>(Roots::tableEntries(kind.length), kBlockAlignment);
+        split.laneRoots = block.take<Lanes>(parts.columns.length, kBlockAlignment);
+    } else if (kind.length > uint64_t(kShortLine)) {
+        twiddles = block.take<float>(twiddleFloats(kind.length, factorsOf(kind.length)), kBlockAlignment);
     }
     if (!line) return nullptr;
     line->twiddles = twiddles;
-    line->inner = inner;
-    line->chirp = chirp;
-    line->spectrum = spectrum;
+    line->chirp = chirpPlace;
+    line->split = splitPlace;
+    if (chirpPlace) *chirpPlace = chirp;
+    if (splitPlace) *splitPlace = split;
     return line;
 }
 
-uint64_t lineInitBytes(uint64_t length) {
-    if (factorsOf(length).complete) return Roots::tableEntries(length) * sizeof(Complex<double>);
-    const uint64_t m = convolutionLength(length);
-    const uint64_t entries = maxOf(Roots::tableEntries(m), Roots::tableEntries(2 * length));
-    return (m + entries) * sizeof(Complex<double>);
+uint64_t lineInitBytes(LineKind kind) {
+    const uint64_t m = kind.elements();
+    const uint64_t entries =
+        maxOf(Roots::tableEntries(m), kind.isChirp() ? Roots::tableEntries(2 * kind.length) : 0);
+    return ((kind.isChirp() ? m : 0) + entries) * sizeof(Complex<double>);
 }
 
-void initLine(Line* line, uint64_t length, void* memory) {
-    const Factors factors = factorsOf(length);
+void initLine(Line* line, LineKind kind, void* memory) {
     auto* const numbers = static_cast<Complex<double>*>(memory);
-    line->passes = factors.complete ? factors.count : 0;
-    for (int i = 0; i < line->passes; i++) line->radix[i] = factors.radix[i];
-    if (factors.complete) return makeTwiddles(const_cast<float*>(line->twiddles), length, factors, numbers);
-    const uint64_t m = convolutionLength(length);
-    initLine(const_cast<Line*>(line->inner), m, memory);
-    makeChirp(const_cast<float*>(line->chirp), const_cast<float*>(line->spectrum), length, numbers,
-              numbers + m);
+    line->elements = Tpx32s(kind.elements());
+    line->isLong = kind.isLong;
+    line->passes = 0;
+    if (line->chirp) {
+        const Chirp& chirp = *line->chirp;
+        initLine(const_cast<Line*>(chirp.inner), {kind.elements(), kind.isLong}, memory);
+        makeChirp(const_cast<float*>(chirp.chirp), const_cast<float*>(chirp.spectrum), kind.length, numbers,
+                  numbers + kind.elements());
+    } else if (line->split) {
+        const Split& split = *line->split;
+        const SplitKinds parts(kind.length);
+        initLine(const_cast<Line*>(split.columns), parts.columns, memory);
+        if (!parts.isSquare()) initLine(const_cast<Line*>(split.rows), parts.rows, memory);
+        Roots::makeTable(kind.length, const_cast<Complex<double>*>(split.roots));
+        const Roots roots(kind.length, split.roots);
+        for (uint64_t k = 0; k < parts.columns.length; k++)
+            for (int i = 0; i < 8; i++) {
+                const Complex<double> root = roots(k * uint64_t(kColumnOfLane[i]) % kind.length);
+                Lanes& at = const_cast<Lanes*>(split.laneRoots)[k];
+                at.re[i] = float(root.re);
+                at.im[i] = float(root.im);
+            }
+    } else {
+        const Factors factors = factorsOf(kind.length);
+        line->passes = factors.count;
+        for (int i = 0; i < factors.count; i++) line->radix[i] = factors.radix[i];
+        makeTwiddles(const_cast<float*>(line->twiddles), kind.length, factors, numbers);
+    }
 }
 
-float* transform(const Line& line, float* data, float* other) {
-    return line.inner ? transformByChirp(line, data, other) : transformByPasses(line, data, other);
+void lendTables(const Line& from, Line* to) {
+    to->elements = from.elements;
+    to->passes = from.passes;
+    to->twiddles = from.twiddles;
+    to->chirp = from.chirp;
+    to->split = from.split;
+    to->isLong = from.isLong;
+    for (int i = 0; i < from.passes; i++) to->radix[i] = from.radix[i];
+}
+
+// ---- Transforms ------------------------------------------------------------------------------------------
+
+template <>
+Group sequencesOf<Group>(const Line& line, float* buffers) {
+    return {buffers, buffers + ptrdiff_t(line.elements) * Group::kFloats};
+}
+template <>
+LongLine sequencesOf<LongLine>(const Line& line, float* buffers) {
+    const Line& split = line.chirp ? *line.chirp->inner : line;
+    const auto floats = ptrdiff_t(roundUp(uint64_t(line.elements) * 2, kBlockAlignment / sizeof(float)));
+    float* const group = buffers + 2 * floats;
+    return {buffers, buffers + floats, sequencesOf<Group>(*split.split->rows, group)};
+}
+
+void transform(const Line& line, Group& group) {
+    if (line.chirp)
+        transformByChirp(line, group);
+    else
+        transformByPasses(line, group);
+}
+void transform(const Line& line, LongLine& sequence) {
+    if (line.chirp)
+        transformByChirp(line, sequence);
+    else
+        transformBySplit(line, sequence);
 }
 
 } // namespace tpx

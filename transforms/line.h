@@ -1,6 +1,6 @@
-// The one-dimensional transform of eight sequences at a time.
+// The one-dimensional transform, of eight sequences at a time.
 //
-// A *group* is eight sequences of complex numbers in the lanes of registers: element i of all of them is 16
+// A *group* is eight sequences of complex numbers in the lanes of registers: an element of all of them is 16
 // floats, eight real parts and eight imaginary ones. Rows and columns of images are brought into groups and
 // back by transforms/groups.h; a Line transforms a group and knows nothing of images.
 //
@@ -8,14 +8,63 @@
 // frequency of C. Van Loan, "Computational Frameworks for the Fast Fourier Transform", 1992), from one buffer
 // to another and back, with no reordering of elements anywhere. Other lengths are a convolution with a chirp
 // (L. I. Bluestein, IEEE Transactions on Audio and Electroacoustics 18, 1970) by transforms of a power of two.
+//
+// Long lines, whose groups would leave the caches, and lines that are alone are taken one by one. Their
+// elements are a matrix, whose columns and then rows are transformed in groups (D. H. Bailey, "FFTs in External
+// or Hierarchical Memory", 1989).
 #pragma once
 
 #include "frame/memory/caller_memory.h"
+#include "transforms/butterflies.h"
 #include "transforms/roots.h"
 
 namespace tpx {
 
-inline constexpr int kGroupFloats = 16; // of an element
+// ---- Sequences -------------------------------------------------------------------------------------------
+
+// Eight sequences, in one of two buffers.
+struct Group {
+    static constexpr int kLanes = 8;
+    static constexpr int kFloats = 16; // of an element
+
+    float *data, *other;
+
+    Lanes load(ptrdiff_t i) const { return {tpx::load(data + i * kFloats), tpx::load(data + i * kFloats + 8)}; }
+    void store(ptrdiff_t i, Lanes x) const {
+        tpx::store(data + i * kFloats, x.re);
+        tpx::store(data + i * kFloats + 8, x.im);
+    }
+};
+
+// One sequence, which stands in every lane that is loaded. The group is for its parts.
+struct LongLine {
+    static constexpr int kLanes = 1;
+
+    float *data, *other;
+    Group group;
+
+    Lanes load(ptrdiff_t i) const { return {splat<V32f>(data[2 * i]), splat<V32f>(data[2 * i + 1])}; }
+    void store(ptrdiff_t i, Lanes x) const {
+        data[2 * i] = x.re[0];
+        data[2 * i + 1] = x.im[0];
+    }
+};
+
+// ---- Plans -----------------------------------------------------------------------------------------------
+
+struct Line;
+
+struct Chirp {
+    const Line* inner;     // the transform of the convolution
+    const float* chirp;    // exp(-pi i k^2 / n)
+    const float* spectrum; // the transform of its conjugate, divided by that transform's length
+};
+
+struct Split {
+    const Line *columns, *rows; // may be the same
+    const Complex<double>* roots;
+    const Lanes* laneRoots; // for each row, those of columns 0 to 7
+};
 
 // A one-dimensional plan. It lies in the caller's block, with its tables behind it.
 struct Line {
@@ -24,34 +73,49 @@ struct Line {
     Tpx32s doFwdScale, doInvScale;
     Tpx32f scale;
     Tpx32s hint;
-    Tpx32s bufSize; // of both buffers of a group; 0 if they fit the stack
+    Tpx32s bufSize; // of the buffers of a group or a long line; 0 if they fit the stack
 
-    Tpx32s passes;
+    Tpx32s elements, passes;
+    // One of them has the tables.
     const float* twiddles; // of the passes, one behind the other
-    // Of a chirp transform: the transform of its convolution, the chirp, and the transform of the chirp's
-    // conjugate, divided by that transform's length. Else null.
-    const Line* inner;
-    const float *chirp, *spectrum;
-    Tpx8u radix[32];
+    const Chirp* chirp;
+    const Split* split;
+    Tpx8u isLong, radix[31];
 };
 
-// Short lines have their tables within this room.
+// Short lines have their tables within this room, and their groups on the stack.
 inline constexpr uint64_t kLineBytes1D = 208;
-inline constexpr int kShortLine = 16;
+inline constexpr ptrdiff_t kShortLine = 16;
 static_assert(sizeof(Line) + 2 * 14 * sizeof(float) <= kLineBytes1D);
 
-// The bytes of both buffers of a group; no less for shorter ones with the same kind of factors.
-uint64_t groupBytes(uint64_t length);
+// What a line's method depends on.
+struct LineKind {
+    uint64_t length;
+    bool isLong;
+
+    // A side of an image, of which there are so many.
+    static LineKind of(uint64_t length, uint64_t count);
+    bool isChirp() const;
+    uint64_t elements() const; // those of the convolution, if there is one
+    uint64_t bufferBytes() const;
+};
 
 // Takes a plan and its tables from the block; null if only counted. One that shares tables is lent them later.
-Line* layOutLine(BlockLayout& block, uint64_t length, bool sharesTables);
-// The bytes that making the tables needs beside; 0 up to 1024 if the length has no chirp.
-uint64_t lineInitBytes(uint64_t length);
+Line* layOutLine(BlockLayout& block, LineKind kind, bool sharesTables);
+// The bytes that making the tables needs beside.
+uint64_t lineInitBytes(LineKind kind);
 // Makes the tables of a plan that layOutLine took, in memory of so many bytes.
-void initLine(Line* line, uint64_t length, void* memory);
+void initLine(Line* line, LineKind kind, void* memory);
+void lendTables(const Line& from, Line* to);
 
-// Transforms the group in `data` and tells which of the two buffers the result is in. The inverse is the same
-// with real and imaginary parts exchanged, before and after.
-float* transform(const Line& line, float* data, float* other);
+// ---- Transforms ------------------------------------------------------------------------------------------
+
+// The sequences of a line in buffers of its bufferBytes.
+template <class S>
+S sequencesOf(const Line& line, float* buffers);
+
+// The inverse is the same with real and imaginary parts exchanged, before and after.
+void transform(const Line& line, Group& group);
+void transform(const Line& line, LongLine& sequence);
 
 } // namespace tpx

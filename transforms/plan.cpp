@@ -25,8 +25,7 @@ TpxStatus checkOrder(int order, int flag, Domain domain) {
 TpxStatus checkLength(uint64_t length, int flag, Domain domain) {
     if (!isFlag(flag)) return tpxErrFftFlag;
     if ((length & (length - 1)) == 0) return tpxOk;
-    const bool isOddChirp =
-        domain == Domain::Real && length % 2 && groupBytes(length) != groupBytes(1) * length;
+    const bool isOddChirp = domain == Domain::Real && length % 2 && LineKind{length, false}.isChirp();
     return length > (isOddChirp ? kLongestOddChirp : kLongestFactored) ? tpxErrSize : tpxOk;
 }
 
@@ -39,8 +38,8 @@ struct Shape {
     Domain domain;
 
     uint64_t lengthOf(int n) const { return isPowerOfTwo ? uint64_t(1) << n : uint64_t(n); }
-    uint64_t width() const { return lengthOf(x); }
-    uint64_t height() const { return lengthOf(y); }
+    LineKind rows() const { return LineKind::of(lengthOf(x), lengthOf(y)); }
+    LineKind columns() const { return LineKind::of(lengthOf(y), lengthOf(x)); }
     bool isReal() const { return domain == Domain::Real; }
 };
 
@@ -63,11 +62,13 @@ Lines layOutLines(BlockLayout& block, const Shape& shape) {
     const bool isSquare = shape.x == shape.y;
     block.take<Tpx8u>(kRecordBytes);
     Lines lines{};
-    lines.rows = layOutLine(block, shape.width(), false);
-    if (shape.isReal() || !isSquare) lines.columns = layOutLine(block, shape.height(), isSquare);
-    if (shape.isReal() && !isSquare) lines.realColumns = layOutLine(block, shape.height(), true);
+    lines.rows = layOutLine(block, shape.rows(), false);
+    if (shape.isReal() || !isSquare) lines.columns = layOutLine(block, shape.columns(), isSquare);
+    if (shape.isReal() && !isSquare) lines.realColumns = layOutLine(block, shape.columns(), true);
     return lines;
 }
+
+uint64_t bufSizeOf(LineKind kind) { return kind.length > uint64_t(kShortLine) ? kind.bufferBytes() : 0; }
 
 struct PlanSizes {
     uint64_t spec, init, work;
@@ -75,18 +76,18 @@ struct PlanSizes {
 };
 
 PlanSizes sizesOf(const Shape& shape) {
-    const uint64_t width = shape.width(), height = shape.height();
+    const LineKind rows = shape.rows(), columns = shape.columns();
     const auto anywhere = [](uint64_t bytes) {
         return bytes ? roundUp(bytes, kBlockAlignment) + kBlockAlignment : 0;
     };
     BlockLayout spec, work;
     layOutLines(spec, shape);
     // By contract there is some room at least, though short lines use none; one row of them may do without.
-    if (maxOf(width, height) > kShortLine)
-        layOutWork(work, maxOf(groupBytes(width), groupBytes(height)), height);
-    const uint64_t room = maxOf(shape.isReal() ? 16 * width : 0, 64 * height);
-    const bool none = !shape.isPowerOfTwo && height == 1 && width <= kShortLine;
-    return {anywhere(spec.bytes()), anywhere(maxOf(lineInitBytes(width), lineInitBytes(height))),
+    const uint64_t buffers = maxOf(bufSizeOf(rows), bufSizeOf(columns));
+    if (buffers) layOutWork(work, buffers, columns.length);
+    const uint64_t room = maxOf(shape.isReal() ? 16 * rows.length : 0, 64 * columns.length);
+    const bool none = !shape.isPowerOfTwo && columns.length == 1 && !buffers;
+    return {anywhere(spec.bytes()), anywhere(maxOf(lineInitBytes(rows), lineInitBytes(columns))),
             none ? 0 : anywhere(maxOf(work.bytes(), room))};
 }
 
@@ -100,23 +101,14 @@ TpxStatus getSizes(const Shape& shape, int flag, int* specSize, int* initSize, i
     return tpxOk;
 }
 
-void describeLine(Line* line, int told, uint64_t length, int flag, int hint, Tpx32s tag) {
+void describeLine(Line* line, int told, LineKind kind, int flag, int hint, Tpx32s tag) {
     line->tag = tag;
     line->length = told;
     line->doFwdScale = flag == tpxFftDivForward || flag == tpxFftDivBySqrt;
     line->doInvScale = flag == tpxFftDivInverse || flag == tpxFftDivBySqrt;
-    line->scale = flag == tpxFftDivBySqrt ? float(1 / squareRoot(double(length))) : 1 / float(length);
+    line->scale = flag == tpxFftDivBySqrt ? float(1 / squareRoot(double(kind.length))) : 1 / float(kind.length);
     line->hint = hint;
-    line->bufSize = length > kShortLine ? Tpx32s(groupBytes(length)) : 0;
-}
-
-void lendTables(const Line& from, Line* to) {
-    to->twiddles = from.twiddles;
-    to->inner = from.inner;
-    to->chirp = from.chirp;
-    to->spectrum = from.spectrum;
-    to->passes = from.passes;
-    for (int i = 0; i < from.passes; i++) to->radix[i] = from.radix[i];
+    line->bufSize = Tpx32s(bufSizeOf(kind));
 }
 
 template <class Spec>
@@ -134,17 +126,17 @@ TpxStatus initPlan(int x, int y, int flag, int hint, Spec* callersSpec, Tpx8u* i
     BlockLayout block(spec);
     const Lines lines = layOutLines(block, shape);
     const Tpx32s complexTag = shape.isPowerOfTwo ? 4 : 13, realTag = shape.isPowerOfTwo ? 6 : 15;
-    describeLine(lines.rows, x, shape.width(), flag, hint, shape.isReal() ? realTag : complexTag);
-    initLine(lines.rows, shape.width(), alignUp(initBuf));
+    describeLine(lines.rows, x, shape.rows(), flag, hint, shape.isReal() ? realTag : complexTag);
+    initLine(lines.rows, shape.rows(), alignUp(initBuf));
     if (lines.columns) {
-        describeLine(lines.columns, y, shape.height(), flag, hint, complexTag);
+        describeLine(lines.columns, y, shape.columns(), flag, hint, complexTag);
         if (x == y)
             lendTables(*lines.rows, lines.columns);
         else
-            initLine(lines.columns, shape.height(), alignUp(initBuf));
+            initLine(lines.columns, shape.columns(), alignUp(initBuf));
     }
     if (lines.realColumns) {
-        describeLine(lines.realColumns, y, shape.height(), flag, hint, realTag);
+        describeLine(lines.realColumns, y, shape.columns(), flag, hint, realTag);
         lendTables(*lines.columns, lines.realColumns);
     }
     spec->lenX = x;

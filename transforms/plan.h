@@ -31,17 +31,29 @@ inline constexpr bool kIsPowerOfTwo =
 template <class Spec>
 inline constexpr Tpx32s kTagOf = (kIsPowerOfTwo<Spec> ? 25 : 27) + (kDomainOf<Spec> == Domain::Real);
 
+// A work buffer holds the buffers of a group or a long line and, of real transforms, column 0 and the last
+// column of a channel. Where all lines are short they are on the stack.
+struct WorkParts {
+    float *buffers, *edges[2];
+};
+inline WorkParts layOutWork(BlockLayout& block, uint64_t bufferBytes, uint64_t height) {
+    WorkParts parts;
+    parts.buffers = block.take<float>(bufferBytes / sizeof(float));
+    for (float*& edge : parts.edges) edge = block.take<float>(height);
+    return parts;
+}
+inline constexpr uint64_t kShortBytes = 2 * kShortLine * Group::kFloats * sizeof(float);
+
 // What a processing call knows of its plan.
-struct Transform {
+struct Transform : WorkParts {
     Extent size;
     const Line *rows, *columns;
-    Work work;
-
-    // Where a forward transform is scaled, and an inverse one; 1 elsewhere.
-    static float scaleOf(const Line& line, bool inverse) {
-        return (inverse ? line.doInvScale : line.doFwdScale) ? line.scale : 1;
-    }
 };
+
+// What results are multiplied by.
+inline float scaleOf(const Line& line, bool inverse) {
+    return (inverse ? line.doInvScale : line.doFwdScale) ? line.scale : 1;
+}
 
 // Checks the arguments of a processing call in their order, then process(transform, src, dst).
 template <class Spec, class Process>
@@ -54,15 +66,14 @@ inline TpxStatus runPlan(const float* src, int srcStep, float* dst, int dstStep,
     if (srcStep < 1 || dstStep < 1) return tpxErrStep;
     if (anyNull(buffer) && spec->workSize != 0) return tpxErrNullPointer;
 
-    Transform plan;
+    const Line* const columns = spec->columns ? spec->columns : spec->rows;
     const auto lengthOf = [](Tpx32s x) { return kIsPowerOfTwo<Spec> ? ptrdiff_t(1) << x : ptrdiff_t(x); };
-    plan.size = {lengthOf(spec->lenX), lengthOf(spec->lenY)};
-    plan.rows = spec->rows;
-    plan.columns = spec->columns ? spec->columns : spec->rows;
-    alignas(kBlockAlignment) float shortWork[kShortFloats];
-    const auto bytes = uint64_t(maxOf(plan.rows->bufSize, plan.columns->bufSize));
-    BlockLayout block(bytes ? static_cast<void*>(alignUp(buffer)) : shortWork);
-    plan.work = layOutWork(block, bytes ? bytes : groupBytes(kShortLine), uint64_t(plan.size.height));
+    const Extent size = {lengthOf(spec->lenX), lengthOf(spec->lenY)};
+    alignas(kBlockAlignment) Tpx8u shortWork[kShortBytes + 2 * kShortLine * sizeof(float)];
+    const auto bytes = uint64_t(maxOf(spec->rows->bufSize, columns->bufSize));
+    BlockLayout block(bytes ? alignUp(buffer) : shortWork);
+    const Transform plan = {layOutWork(block, bytes ? bytes : kShortBytes, uint64_t(size.height)), size,
+                            spec->rows, columns};
     process(plan, ImageView<const float>{src, srcStep}, ImageView<float>{dst, dstStep});
     return tpxOk;
 }

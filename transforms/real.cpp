@@ -17,21 +17,11 @@ namespace {
 
 // ---- Columns ---------------------------------------------------------------------------------------------
 
-// Eight columns of samples and eight that are 8 pixels further right.
+// Eight columns of samples, or one, and those that are 8 pixels further right.
 template <int Channels, bool Whole>
 struct ColumnPairs {
-    B32f first, second, firstStored, secondStored; // lanes that exist; those that are no alpha
+    B32f first, second; // lanes that exist, and are not of an alpha that stays
 
-    // `samples` are left from the first one on.
-    ColumnPairs(ptrdiff_t samples, bool keepsAlpha) {
-        first = firstStored = firstLanes(samples);
-        second = secondStored = firstLanes(samples - 8 * Channels);
-        if (keepsAlpha) {
-            const B32f colours = {-1, -1, -1, 0, -1, -1, -1, 0};
-            firstStored &= colours;
-            secondStored &= colours;
-        }
-    }
     Pair<V32f> load(const float* p) const {
         if constexpr (Whole) return {tpx::load(p), tpx::load(p + 8 * Channels)};
         return {loadLanes(p, first), loadLanes(p + 8 * Channels, second)};
@@ -41,71 +31,85 @@ struct ColumnPairs {
             tpx::store(p, a);
             tpx::store(p + 8 * Channels, b);
         } else {
-            storeLanes(p, firstStored, a);
-            storeLanes(p + 8 * Channels, secondStored, b);
+            storeLanes(p, first, a);
+            storeLanes(p + 8 * Channels, second, b);
         }
     }
 };
 
-template <class Columns>
-void columnsForward(const Transform& plan, ImageView<const float> src, ImageView<float> dst,
-                    const Columns& columns) {
-    const ptrdiff_t n = plan.size.height;
-    for (ptrdiff_t y = 0; y < n; y++) {
-        const Pair<V32f> samples = columns.load(src.row(y));
-        storeElement(elementAt(plan.work.data, y), {samples.low, samples.high});
-    }
-    float* const result = transform(*plan.columns, plan.work.data, plan.work.other);
-    const float factor = Transform::scaleOf(*plan.columns, false);
-    const V32f scale = splat<V32f>(factor), half = splat<V32f>(factor / 2);
-    const auto storeReal = [&](ptrdiff_t k) {
-        const Lanes z = scaled(loadElement(elementAt(result, k)), scale);
-        columns.store(dst.row(k), z.re, z.im);
+// Calls each(columns, x) for all columns of the image, x counting samples: blocks of 16 pixels.
+template <Layout L, class S, class Each>
+void forColumnPairs(ptrdiff_t width, Each each) {
+    constexpr int kChannels = channelsOf(L);
+    const ptrdiff_t samples = width * kChannels;
+    const auto lanes = [](ptrdiff_t n) {
+        const B32f existing = firstLanes(minOf(n, ptrdiff_t(S::kLanes)));
+        return L == Layout::AC4 ? existing & B32f{-1, -1, -1, 0, -1, -1, -1, 0} : existing;
     };
-    storeReal(0);
-    for (ptrdiff_t k = 1; k < n - k; k++) {
-        const Twins t = takeApart(loadElement(elementAt(result, k)), loadElement(elementAt(result, n - k)));
-        columns.store(dst.row(k), t.first.re * half, t.second.re * half);
-        columns.store(dst.row(n - k), t.first.im * half, t.second.im * half);
-    }
-    if (n % 2 == 0) storeReal(n / 2);
-}
-
-template <class Columns>
-void columnsInverse(const Transform& plan, ImageView<float> image, const Columns& columns) {
-    const ptrdiff_t n = plan.size.height;
-    const auto put = [&](ptrdiff_t k, Lanes z) { storeElement(elementAt(plan.work.data, k), turned<true>(z)); };
-    const auto putReal = [&](ptrdiff_t k) {
-        const Pair<V32f> re = columns.load(image.row(k));
-        put(k, {re.low, re.high});
-    };
-    putReal(0);
-    for (ptrdiff_t k = 1; k < n - k; k++) {
-        const Pair<V32f> re = columns.load(image.row(k)), im = columns.load(image.row(n - k));
-        const Twins z = putTogether({re.low, im.low}, {re.high, im.high});
-        put(k, z.first);
-        put(n - k, z.second);
-    }
-    if (n % 2 == 0) putReal(n / 2);
-    float* const result = transform(*plan.columns, plan.work.data, plan.work.other);
-    const V32f scale = splat<V32f>(Transform::scaleOf(*plan.columns, true));
-    for (ptrdiff_t y = 0; y < n; y++) {
-        const Lanes z = turned<true>(scaled(loadElement(elementAt(result, y)), scale));
-        columns.store(image.row(y), z.re, z.im);
-    }
-}
-
-// Calls pairs(columns, x) for all columns of the image, x counting samples: blocks of 16 pixels.
-template <int Channels, class Each>
-void forColumnPairs(Extent size, bool keepsAlpha, Each each) {
-    const ptrdiff_t samples = size.width * Channels;
-    for (ptrdiff_t block = 0; block < samples; block += 16 * Channels)
-        for (ptrdiff_t x = block; x < block + 8 * Channels && x < samples; x += 8) {
-            if (!keepsAlpha && block + 16 * Channels <= samples)
-                each(ColumnPairs<Channels, true>(samples - x, false), x);
+    for (ptrdiff_t block = 0; block < samples; block += 16 * kChannels)
+        for (ptrdiff_t x = block; x < block + 8 * kChannels && x < samples; x += S::kLanes) {
+            if (L == Layout::AC4 && S::kLanes == 1 && x % 4 == 3) continue;
+            if (L != Layout::AC4 && S::kLanes == 8 && block + 16 * kChannels <= samples)
+                each(ColumnPairs<kChannels, true>(), x);
             else
-                each(ColumnPairs<Channels, false>(samples - x, keepsAlpha), x);
+                each(ColumnPairs<kChannels, false>{lanes(samples - x), lanes(samples - x - 8 * kChannels)}, x);
         }
+}
+
+template <Layout L, class S>
+void columnsForward(const Transform& plan, ImageView<const float> from, ImageView<float> to) {
+    const ptrdiff_t n = plan.size.height;
+    const float factor = scaleOf(*plan.columns, false);
+    const V32f scale = splat<V32f>(factor), half = splat<V32f>(factor / 2);
+    forColumnPairs<L, S>(plan.size.width, [&](const auto& columns, ptrdiff_t x) {
+        const ImageView<const float> src = from.from(x, 0);
+        const ImageView<float> dst = to.from(x, 0);
+        S sequences = sequencesOf<S>(*plan.columns, plan.buffers);
+        for (ptrdiff_t y = 0; y < n; y++) {
+            const Pair<V32f> samples = columns.load(src.row(y));
+            sequences.store(y, {samples.low, samples.high});
+        }
+        transform(*plan.columns, sequences);
+        const auto storeReal = [&](ptrdiff_t k) {
+            const Lanes z = scaled(sequences.load(k), scale);
+            columns.store(dst.row(k), z.re, z.im);
+        };
+        storeReal(0);
+        for (ptrdiff_t k = 1; k < n - k; k++) {
+            const Twins t = takeApart(sequences.load(k), sequences.load(n - k));
+            columns.store(dst.row(k), t.first.re * half, t.second.re * half);
+            columns.store(dst.row(n - k), t.first.im * half, t.second.im * half);
+        }
+        if (n % 2 == 0) storeReal(n / 2);
+    });
+}
+
+template <Layout L, class S>
+void columnsInverse(const Transform& plan, ImageView<float> image) {
+    const ptrdiff_t n = plan.size.height;
+    const V32f scale = splat<V32f>(scaleOf(*plan.columns, true));
+    forColumnPairs<L, S>(plan.size.width, [&](const auto& columns, ptrdiff_t x) {
+        const ImageView<float> strip = image.from(x, 0);
+        S sequences = sequencesOf<S>(*plan.columns, plan.buffers);
+        const auto put = [&](ptrdiff_t k, Lanes z) { sequences.store(k, turned<true>(z)); };
+        const auto putReal = [&](ptrdiff_t k) {
+            const Pair<V32f> re = columns.load(strip.row(k));
+            put(k, {re.low, re.high});
+        };
+        putReal(0);
+        for (ptrdiff_t k = 1; k < n - k; k++) {
+            const Pair<V32f> re = columns.load(strip.row(k)), im = columns.load(strip.row(n - k));
+            const Twins z = putTogether({re.low, im.low}, {re.high, im.high});
+            put(k, z.first);
+            put(n - k, z.second);
+        }
+        if (n % 2 == 0) putReal(n / 2);
+        transform(*plan.columns, sequences);
+        for (ptrdiff_t y = 0; y < n; y++) {
+            const Lanes z = turned<true>(scaled(sequences.load(y), scale));
+            columns.store(strip.row(y), z.re, z.im);
+        }
+    });
 }
 
 // ---- Rows ------------------------------------------------------------------------------------------------
@@ -117,22 +121,15 @@ struct RowPairs {
     B32f special;
     bool anySpecial;
 
-    RowPairs(ptrdiff_t first, ptrdiff_t height) {
+    RowPairs(ptrdiff_t first, ptrdiff_t lanes, ptrdiff_t height) {
         anySpecial = first == 0;
         for (int i = 0; i < 8; i++) {
-            k[i] = minOf(first + i, (height - 1) / 2);
+            k[i] = minOf(first + i % lanes, (height - 1) / 2);
             mirror[i] = k[i] ? height - k[i] : height % 2 ? 0 : height / 2;
             special[i] = k[i] ? 0 : -1;
         }
     }
 };
-
-template <int Channels, class T>
-EightRows<T, Channels> rowsOf(ImageView<T> image, const ptrdiff_t (&y)[8], int channel) {
-    EightRows<T, Channels> rows;
-    for (int i = 0; i < 8; i++) rows.row[i] = image.row(y[i]) + channel;
-    return rows;
-}
 
 // Columns 0 and W - 1 of a spectrum, packed along y: where they belong in `edge`.
 void storeEdge(float* edge, ptrdiff_t height, const RowPairs& pairs, Lanes z) {
@@ -155,23 +152,24 @@ inline Lanes chosen(B32f special, Lanes a, Lanes b) {
     return {select(special, a.re, b.re), select(special, a.im, b.im)};
 }
 
-template <int Channels>
+template <int Channels, class S>
 void rowsForward(const Transform& plan, ImageView<float> image, const RowPairs& pairs, int channel) {
     const ptrdiff_t n = plan.size.width, pairsOfColumns = (n - 1) / 2;
-    const auto rows = rowsOf<Channels>(image, pairs.k, channel);
-    const auto mirrors = rowsOf<Channels>(image, pairs.mirror, channel);
+    const auto rows = rowsOf<S, Channels>(image, channel, [&](int i) { return pairs.k[i]; });
+    const auto mirrors = rowsOf<S, Channels>(image, channel, [&](int i) { return pairs.mirror[i]; });
+    S sequences = sequencesOf<S>(*plan.rows, plan.buffers);
     ptrdiff_t x = 0;
     for (; x + 4 <= n; x += 4) {
         const Several<V32f, 4> re = rows.four(x), im = mirrors.four(x);
-        for (int i = 0; i < 4; i++) storeElement(elementAt(plan.work.data, x + i), {re.at[i], im.at[i]});
+        for (int i = 0; i < 4; i++) sequences.store(x + i, {re.at[i], im.at[i]});
     }
-    for (; x < n; x++) storeElement(elementAt(plan.work.data, x), {rows.one(x), mirrors.one(x)});
+    for (; x < n; x++) sequences.store(x, {rows.one(x), mirrors.one(x)});
 
-    float* const result = transform(*plan.rows, plan.work.data, plan.work.other);
-    const float factor = Transform::scaleOf(*plan.rows, false);
+    transform(*plan.rows, sequences);
+    const float factor = scaleOf(*plan.rows, false);
     const V32f scale = splat<V32f>(factor), half = splat<V32f>(factor / 2);
     const auto spectra = [&](ptrdiff_t j) {
-        const Lanes z = loadElement(elementAt(result, j)), mirror = loadElement(elementAt(result, n - j));
+        const Lanes z = sequences.load(j), mirror = sequences.load(n - j);
         Twins t = {scaled(z, scale), scaled(conjugate(mirror), scale)};
         if (pairs.anySpecial) {
             const Twins s = takeApart(z, mirror);
@@ -180,10 +178,8 @@ void rowsForward(const Transform& plan, ImageView<float> image, const RowPairs& 
         }
         return t;
     };
-    storeEdge(plan.work.edges[0], plan.size.height, pairs, scaled(loadElement(result), scale));
-    if (n % 2 == 0)
-        storeEdge(plan.work.edges[1], plan.size.height, pairs,
-                  scaled(loadElement(elementAt(result, n / 2)), scale));
+    storeEdge(plan.edges[0], plan.size.height, pairs, scaled(sequences.load(0), scale));
+    if (n % 2 == 0) storeEdge(plan.edges[1], plan.size.height, pairs, scaled(sequences.load(n / 2), scale));
     ptrdiff_t j = 1;
     for (; j + 1 <= pairsOfColumns; j += 2) {
         const Twins a = spectra(j), b = spectra(j + 1);
@@ -199,11 +195,12 @@ void rowsForward(const Transform& plan, ImageView<float> image, const RowPairs& 
     }
 }
 
-template <int Channels>
+template <int Channels, class S>
 void rowsInverse(const Transform& plan, ImageView<const float> src, ImageView<float> dst, const RowPairs& pairs,
                  int channel) {
     const ptrdiff_t n = plan.size.width, pairsOfColumns = (n - 1) / 2;
-    const auto put = [&](ptrdiff_t j, Lanes z) { storeElement(elementAt(plan.work.data, j), turned<true>(z)); };
+    S sequences = sequencesOf<S>(*plan.rows, plan.buffers);
+    const auto put = [&](ptrdiff_t j, Lanes z) { sequences.store(j, turned<true>(z)); };
     const auto putSpectra = [&](ptrdiff_t j, Lanes a, Lanes b) {
         Twins z = {a, conjugate(b)};
         if (pairs.anySpecial) {
@@ -213,10 +210,10 @@ void rowsInverse(const Transform& plan, ImageView<const float> src, ImageView<fl
         put(j, z.first);
         put(n - j, z.second);
     };
-    put(0, loadEdge(plan.work.edges[0], plan.size.height, pairs));
-    if (n % 2 == 0) put(n / 2, loadEdge(plan.work.edges[1], plan.size.height, pairs));
-    const auto rows = rowsOf<Channels>(src, pairs.k, channel);
-    const auto mirrors = rowsOf<Channels>(src, pairs.mirror, channel);
+    put(0, loadEdge(plan.edges[0], plan.size.height, pairs));
+    if (n % 2 == 0) put(n / 2, loadEdge(plan.edges[1], plan.size.height, pairs));
+    const auto rows = rowsOf<S, Channels>(src, channel, [&](int i) { return pairs.k[i]; });
+    const auto mirrors = rowsOf<S, Channels>(src, channel, [&](int i) { return pairs.mirror[i]; });
     ptrdiff_t j = 1;
     for (; j + 1 <= pairsOfColumns; j += 2) {
         const Several<V32f, 4> a = rows.four(2 * j - 1), b = mirrors.four(2 * j - 1);
@@ -226,13 +223,11 @@ void rowsInverse(const Transform& plan, ImageView<const float> src, ImageView<fl
     if (j <= pairsOfColumns)
         putSpectra(j, {rows.one(2 * j - 1), rows.one(2 * j)}, {mirrors.one(2 * j - 1), mirrors.one(2 * j)});
 
-    float* const result = transform(*plan.rows, plan.work.data, plan.work.other);
-    const V32f scale = splat<V32f>(Transform::scaleOf(*plan.rows, true));
-    const auto element = [&](ptrdiff_t x) {
-        return turned<true>(scaled(loadElement(elementAt(result, x)), scale));
-    };
-    const auto dstRows = rowsOf<Channels>(dst, pairs.k, channel);
-    const auto dstMirrors = rowsOf<Channels>(dst, pairs.mirror, channel);
+    transform(*plan.rows, sequences);
+    const V32f scale = splat<V32f>(scaleOf(*plan.rows, true));
+    const auto element = [&](ptrdiff_t x) { return turned<true>(scaled(sequences.load(x), scale)); };
+    const auto dstRows = rowsOf<S, Channels>(dst, channel, [&](int i) { return pairs.k[i]; });
+    const auto dstMirrors = rowsOf<S, Channels>(dst, channel, [&](int i) { return pairs.mirror[i]; });
     ptrdiff_t x = 0;
     for (; x + 4 <= n; x += 4) {
         const Lanes z[4] = {element(x), element(x + 1), element(x + 2), element(x + 3)};
@@ -250,39 +245,45 @@ template <int Channels, class Move>
 void moveEdges(const Transform& plan, Move move, int channel) {
     const ptrdiff_t last = (plan.size.width - 1) * Channels + channel;
     for (ptrdiff_t y = 0; y < plan.size.height; y++) {
-        move(y, channel, plan.work.edges[0][y]);
-        if (plan.size.width % 2 == 0) move(y, last, plan.work.edges[1][y]);
+        move(y, channel, plan.edges[0][y]);
+        if (plan.size.width % 2 == 0) move(y, last, plan.edges[1][y]);
     }
 }
 
 // ---- Calls -----------------------------------------------------------------------------------------------
 
-template <Layout L>
-void forward(const Transform& plan, ImageView<const float> src, ImageView<float> dst) {
+template <Layout L, class S>
+void rowsForward(const Transform& plan, ImageView<float> image) {
     constexpr int kChannels = channelsOf(L);
-    forColumnPairs<kChannels>(plan.size, L == Layout::AC4, [&](const auto& columns, ptrdiff_t x) {
-        columnsForward(plan, src.from(x, 0), dst.from(x, 0), columns);
-    });
     for (int channel = 0; channel < coloursOf(L); channel++) {
-        for (ptrdiff_t k = 0; k <= (plan.size.height - 1) / 2; k += 8)
-            rowsForward<kChannels>(plan, dst, RowPairs(k, plan.size.height), channel);
+        for (ptrdiff_t k = 0; k <= (plan.size.height - 1) / 2; k += S::kLanes)
+            rowsForward<kChannels, S>(plan, image, RowPairs(k, S::kLanes, plan.size.height), channel);
         moveEdges<kChannels>(
-            plan, [&](ptrdiff_t y, ptrdiff_t x, float value) { poke(dst.row(y) + x, value); }, channel);
+            plan, [&](ptrdiff_t y, ptrdiff_t x, float value) { poke(image.row(y) + x, value); }, channel);
     }
 }
 
-template <Layout L>
-void inverse(const Transform& plan, ImageView<const float> src, ImageView<float> dst) {
+template <Layout L, class S>
+void rowsInverse(const Transform& plan, ImageView<const float> src, ImageView<float> dst) {
     constexpr int kChannels = channelsOf(L);
     for (int channel = 0; channel < coloursOf(L); channel++) {
         moveEdges<kChannels>(
             plan, [&](ptrdiff_t y, ptrdiff_t x, float& value) { value = peek(src.row(y) + x); }, channel);
-        for (ptrdiff_t k = 0; k <= (plan.size.height - 1) / 2; k += 8)
-            rowsInverse<kChannels>(plan, src, dst, RowPairs(k, plan.size.height), channel);
+        for (ptrdiff_t k = 0; k <= (plan.size.height - 1) / 2; k += S::kLanes)
+            rowsInverse<kChannels, S>(plan, src, dst, RowPairs(k, S::kLanes, plan.size.height), channel);
     }
-    forColumnPairs<kChannels>(plan.size, L == Layout::AC4, [&](const auto& columns, ptrdiff_t x) {
-        columnsInverse(plan, dst.from(x, 0), columns);
-    });
+}
+
+template <Layout L>
+void forward(const Transform& plan, ImageView<const float> src, ImageView<float> dst) {
+    (plan.columns->isLong ? columnsForward<L, LongLine> : columnsForward<L, Group>)(plan, src, dst);
+    (plan.rows->isLong ? rowsForward<L, LongLine> : rowsForward<L, Group>)(plan, dst);
+}
+
+template <Layout L>
+void inverse(const Transform& plan, ImageView<const float> src, ImageView<float> dst) {
+    (plan.rows->isLong ? rowsInverse<L, LongLine> : rowsInverse<L, Group>)(plan, src, dst);
+    (plan.columns->isLong ? columnsInverse<L, LongLine> : columnsInverse<L, Group>)(plan, dst);
 }
 
 template <Layout L, bool Inverse, class Spec>

@@ -13,44 +13,54 @@ class Roots {
  public:
     // The entries of the tables; small n need none.
     static constexpr uint64_t tableEntries(uint64_t n) {
-        return n < kFewest ? 0 : fineSteps(n) + n / 2 / fineSteps(n) + 1;
+        return n < kFewest ? 0 : (uint64_t(1) << fineBits(n)) + (n / 2 >> fineBits(n)) + 1;
     }
 
-    Roots(uint64_t n, Complex<double>* table) : n_(n) {
-        const uint64_t entries = tableEntries(n), fine = fineSteps(n);
-        for (uint64_t i = 0; i < entries; i++) table[i] = bySine(i < fine ? i : (i - fine) * fine);
-        if (!entries) return;
-        fineSteps_ = fine;
-        table_ = table;
+    // Fills a table of tableEntries(n).
+    static void makeTable(uint64_t n, Complex<double>* table) {
+        const Roots direct(n, nullptr);
+        const uint64_t entries = tableEntries(n), fine = uint64_t(1) << fineBits(n);
+        for (uint64_t i = 0; i < entries; i++) table[i] = direct.bySine(i < fine ? i : (i - fine) * fine);
     }
+
+    // The table is one that was made for n; null costs time.
+    Roots(uint64_t n, const Complex<double>* table)
+        : n_(n), fineBits_(fineBits(n)), table_(tableEntries(n) ? table : nullptr) {}
 
     Complex<double> operator()(uint64_t k) const {
-        const uint64_t quarter = 4 * k / n_;
-        uint64_t part = 4 * k % n_; // of the quarter, in units of 1 / (4 n)
-        const bool mirror = 2 * part > n_;
-        if (mirror) part = n_ - part;
-        Complex<double> root =
-            table_ ? multiply(table_[fineSteps_ + part / fineSteps_], table_[part % fineSteps_]) : bySine(part);
+        k *= 4; // in units of 1 / (4 n): a quarter is n of them
+        const bool half = k >= 2 * n_;
+        if (half) k -= 2 * n_;
+        const bool quarter = k >= n_;
+        if (quarter) k -= n_;
+        const bool mirror = 2 * k > n_;
+        if (mirror) k = n_ - k;
+        Complex<double> root = table_ ? byTable(k) : bySine(k);
         if (mirror) root = {-root.im, -root.re};
-        if (quarter & 1) root = timesMinusI(root);
-        return quarter & 2 ? Complex<double>{-root.re, -root.im} : root;
+        if (quarter) root = timesMinusI(root);
+        return half ? Complex<double>{-root.re, -root.im} : root;
     }
 
  private:
     static constexpr uint64_t kFewest = 2048;
-    static constexpr uint64_t fineSteps(uint64_t n) {
-        uint64_t steps = 1;
-        while (steps * steps < n / 2) steps *= 2;
-        return steps;
+    static constexpr int fineBits(uint64_t n) { // of about the root of n / 2
+        int bits = 0;
+        while (uint64_t(1) << 2 * bits < n / 2) bits++;
+        return bits;
     }
-    // exp(-2 pi i part / (4 n)).
+    // exp(-2 pi i part / (4 n)), for an eighth of the circle.
     Complex<double> bySine(uint64_t part) const {
         const double angle = 1.5707963267948966 * (double(part) / double(n_));
         return {TPXS(CosOne)(angle), -TPXS(SinOne)(angle)};
     }
+    Complex<double> byTable(uint64_t part) const {
+        const uint64_t fine = uint64_t(1) << fineBits_;
+        return multiply(table_[fine + (part >> fineBits_)], table_[part & (fine - 1)]);
+    }
 
-    uint64_t n_, fineSteps_ = 0;
-    const Complex<double>* table_ = nullptr;
+    uint64_t n_;
+    int fineBits_;
+    const Complex<double>* table_;
 };
 
 } // namespace tpx

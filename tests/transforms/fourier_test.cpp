@@ -166,10 +166,11 @@ TYPED_TEST(RealImages, ArePackedAsTheModel) {
 // Every channel gives the bits of the image that it would be alone, in place too; alpha stays.
 TYPED_TEST(RealImages, ChannelsAreImages) {
     int count = 0;
-    for (const TpxiSize size :
-         {TpxiSize{16, 16}, TpxiSize{32, 8}, TpxiSize{1, 16}, TpxiSize{8, 1}, TpxiSize{4, 2}, TpxiSize{64, 32},
-          TpxiSize{15, 9}, TpxiSize{21, 53}, TpxiSize{37, 12}}) {
-        if (TypeParam::kTag < 27 && (size.width & (size.width - 1))) continue;
+    for (const TpxiSize size : {TpxiSize{16, 16}, TpxiSize{32, 8}, TpxiSize{1, 16}, TpxiSize{8, 1},
+                                TpxiSize{4, 2}, TpxiSize{64, 32}, TpxiSize{15, 9}, TpxiSize{21, 53},
+                                TpxiSize{37, 12}, TpxiSize{256, 1}, TpxiSize{1, 512}, TpxiSize{1, 300}}) {
+        if (TypeParam::kTag < 27 && (size.width & (size.width - 1) || size.height & (size.height - 1)))
+            continue;
         const FourierPlan<TypeParam> plan(size, tpxFftDivBySqrt);
         for (Channels c : {kC1, kC3, kC4, kAC4})
             for (Direction d : {kForward, kInverse}) {
@@ -202,7 +203,7 @@ TYPED_TEST(RealImages, ChannelsAreImages) {
     }
 }
 
-// ---- Long lines ------------------------------------------------------------------------------------------
+// ---- Lines ------------------------------------------------------------------------------------------
 
 // Of a few numbers among zeros the sum itself is quick; full rows go there and back. One shard of lengths a
 // test.
@@ -241,15 +242,16 @@ TEST_P(Lines, OfEveryLength) {
 }
 INSTANTIATE_TEST_SUITE_P(, Lines, testing::Range(0, 8));
 
+// Of many elements, which are split, and of several rows or columns.
 TEST(LongLines, AreTheModels) {
-    for (const TpxiSize size : {TpxiSize{4096, 1}, TpxiSize{1, 6000}, TpxiSize{3989, 1}, TpxiSize{1, 1 << 15},
-                                TpxiSize{3 << 13, 1}}) {
+    for (const TpxiSize size : {TpxiSize{4096, 1}, TpxiSize{1, 6000}, TpxiSize{3989, 1}, TpxiSize{3 << 13, 1},
+                                TpxiSize{36864, 1}, TpxiSize{2, 36864}, TpxiSize{1031, 1}}) {
         const FourierPlan<ComplexLengths> plan(size);
         const FourierPlan<RealLengths> real(size);
         Image src(size.width, size.height, 2), dst(size.width, size.height, 2);
         src.randomise(7);
         plan.run(kForward, src, dst);
-        expectClose(dst, fourier(numbersOf(src), -1));
+        expectClose(dst, fourier2D(numbersOf(src), size_t(size.width), size_t(size.height), -1));
         Image re(size.width, size.height, 1), spectrum(size.width, size.height, 1),
             back(size.width, size.height, 1);
         re.fill([&](int x, int y, int) { return src.at(x, y); });
