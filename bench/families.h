@@ -21,5 +21,6 @@ void addGeneralFilters();
 void addResizes();
 void addSuperResizes();
 void addWarps();
+void addFouriers();
 
 } // namespace bench

@@ -122,6 +122,7 @@ int run(int argc, char** argv) {
     addResizes();
     addSuperResizes();
     addWarps();
+    addFouriers();
     Progress progress;
     benchmark::RunSpecifiedBenchmarks(&progress);
     benchmark::Shutdown();

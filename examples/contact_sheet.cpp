@@ -88,6 +88,7 @@ void makeSheet(const Options& options) {
     twoImages(gallery, source);
     thresholds(gallery, source);
     filters(gallery, source);
+    spectra(gallery, source);
     measuring(gallery, source);
 
     const Image8u picture = sheet.render();

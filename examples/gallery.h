@@ -85,3 +85,4 @@ void borders(Gallery& gallery, const Image8u& source);
 void thresholds(Gallery& gallery, const Image8u& source);
 void measuring(Gallery& gallery, const Image8u& source);
 void filters(Gallery& gallery, const Image8u& source);
+void spectra(Gallery& gallery, const Image8u& source);

@@ -84,7 +84,7 @@ PlanSizes sizesOf(const Shape& shape) {
     layOutLines(spec, shape);
     // By contract there is some room at least, though short lines use none; one row of them may do without.
     const uint64_t buffers = maxOf(bufSizeOf(rows), bufSizeOf(columns));
-    if (buffers) layOutWork(work, buffers, columns.length);
+    if (buffers) layOutWork(work, buffers, shape.domain, columns.length);
     const uint64_t room = maxOf(shape.isReal() ? 16 * rows.length : 0, 64 * columns.length);
     const bool none = !shape.isPowerOfTwo && columns.length == 1 && !buffers;
     return {anywhere(spec.bytes()), anywhere(maxOf(lineInitBytes(rows), lineInitBytes(columns))),

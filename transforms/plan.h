@@ -32,14 +32,15 @@ template <class Spec>
 inline constexpr Tpx32s kTagOf = (kIsPowerOfTwo<Spec> ? 25 : 27) + (kDomainOf<Spec> == Domain::Real);
 
 // A work buffer holds the buffers of a group or a long line and, of real transforms, column 0 and the last
-// column of a channel. Where all lines are short they are on the stack.
+// column of each channel. Where all lines are short they are on the stack.
 struct WorkParts {
-    float *buffers, *edges[2];
+    float *buffers, *edges;
 };
-inline WorkParts layOutWork(BlockLayout& block, uint64_t bufferBytes, uint64_t height) {
+inline constexpr uint64_t kEdges = 2 * 4;
+inline WorkParts layOutWork(BlockLayout& block, uint64_t bufferBytes, Domain domain, uint64_t height) {
     WorkParts parts;
     parts.buffers = block.take<float>(bufferBytes / sizeof(float));
-    for (float*& edge : parts.edges) edge = block.take<float>(height);
+    parts.edges = block.take<float>(domain == Domain::Real ? kEdges * height : 0);
     return parts;
 }
 inline constexpr uint64_t kShortBytes = 2 * kShortLine * Group::kFloats * sizeof(float);
@@ -48,6 +49,9 @@ inline constexpr uint64_t kShortBytes = 2 * kShortLine * Group::kFloats * sizeof
 struct Transform : WorkParts {
     Extent size;
     const Line *rows, *columns;
+
+    // The first column of a channel, or the last.
+    float* edge(int channel, bool last) const { return edges + (2 * channel + last) * size.height; }
 };
 
 // What results are multiplied by.
@@ -69,11 +73,12 @@ inline TpxStatus runPlan(const float* src, int srcStep, float* dst, int dstStep,
     const Line* const columns = spec->columns ? spec->columns : spec->rows;
     const auto lengthOf = [](Tpx32s x) { return kIsPowerOfTwo<Spec> ? ptrdiff_t(1) << x : ptrdiff_t(x); };
     const Extent size = {lengthOf(spec->lenX), lengthOf(spec->lenY)};
-    alignas(kBlockAlignment) Tpx8u shortWork[kShortBytes + 2 * kShortLine * sizeof(float)];
+    alignas(kBlockAlignment) Tpx8u shortWork[kShortBytes + kEdges * kShortLine * sizeof(float)];
     const auto bytes = uint64_t(maxOf(spec->rows->bufSize, columns->bufSize));
     BlockLayout block(bytes ? alignUp(buffer) : shortWork);
-    const Transform plan = {layOutWork(block, bytes ? bytes : kShortBytes, uint64_t(size.height)), size,
-                            spec->rows, columns};
+    const Transform plan = {
+        layOutWork(block, bytes ? bytes : kShortBytes, kDomainOf<Spec>, uint64_t(size.height)), size,
+        spec->rows, columns};
     process(plan, ImageView<const float>{src, srcStep}, ImageView<float>{dst, dstStep});
     return tpxOk;
 }

@@ -178,8 +178,9 @@ void rowsForward(const Transform& plan, ImageView<float> image, const RowPairs& 
         }
         return t;
     };
-    storeEdge(plan.edges[0], plan.size.height, pairs, scaled(sequences.load(0), scale));
-    if (n % 2 == 0) storeEdge(plan.edges[1], plan.size.height, pairs, scaled(sequences.load(n / 2), scale));
+    storeEdge(plan.edge(channel, false), plan.size.height, pairs, scaled(sequences.load(0), scale));
+    if (n % 2 == 0)
+        storeEdge(plan.edge(channel, true), plan.size.height, pairs, scaled(sequences.load(n / 2), scale));
     ptrdiff_t j = 1;
     for (; j + 1 <= pairsOfColumns; j += 2) {
         const Twins a = spectra(j), b = spectra(j + 1);
@@ -210,8 +211,8 @@ void rowsInverse(const Transform& plan, ImageView<const float> src, ImageView<fl
         put(j, z.first);
         put(n - j, z.second);
     };
-    put(0, loadEdge(plan.edges[0], plan.size.height, pairs));
-    if (n % 2 == 0) put(n / 2, loadEdge(plan.edges[1], plan.size.height, pairs));
+    put(0, loadEdge(plan.edge(channel, false), plan.size.height, pairs));
+    if (n % 2 == 0) put(n / 2, loadEdge(plan.edge(channel, true), plan.size.height, pairs));
     const auto rows = rowsOf<S, Channels>(src, channel, [&](int i) { return pairs.k[i]; });
     const auto mirrors = rowsOf<S, Channels>(src, channel, [&](int i) { return pairs.mirror[i]; });
     ptrdiff_t j = 1;
@@ -240,14 +241,15 @@ void rowsInverse(const Transform& plan, ImageView<const float> src, ImageView<fl
     }
 }
 
-// Between columns 0 and W - 1 of a channel and the work buffer.
-template <int Channels, class Move>
-void moveEdges(const Transform& plan, Move move, int channel) {
-    const ptrdiff_t last = (plan.size.width - 1) * Channels + channel;
-    for (ptrdiff_t y = 0; y < plan.size.height; y++) {
-        move(y, channel, plan.edges[0][y]);
-        if (plan.size.width % 2 == 0) move(y, last, plan.edges[1][y]);
-    }
+// Calls move(y, x, value in the work buffer) for columns 0 and W - 1 of a packed spectrum, x counting samples.
+template <Layout L, class Move>
+void forEdges(const Transform& plan, Move move) {
+    const ptrdiff_t last = (plan.size.width - 1) * channelsOf(L);
+    for (ptrdiff_t y = 0; y < plan.size.height; y++)
+        for (int channel = 0; channel < coloursOf(L); channel++) {
+            move(y, channel, plan.edge(channel, false)[y]);
+            if (plan.size.width % 2 == 0) move(y, last + channel, plan.edge(channel, true)[y]);
+        }
 }
 
 // ---- Calls -----------------------------------------------------------------------------------------------
@@ -255,23 +257,19 @@ void moveEdges(const Transform& plan, Move move, int channel) {
 template <Layout L, class S>
 void rowsForward(const Transform& plan, ImageView<float> image) {
     constexpr int kChannels = channelsOf(L);
-    for (int channel = 0; channel < coloursOf(L); channel++) {
-        for (ptrdiff_t k = 0; k <= (plan.size.height - 1) / 2; k += S::kLanes)
+    for (ptrdiff_t k = 0; k <= (plan.size.height - 1) / 2; k += S::kLanes)
+        for (int channel = 0; channel < coloursOf(L); channel++)
             rowsForward<kChannels, S>(plan, image, RowPairs(k, S::kLanes, plan.size.height), channel);
-        moveEdges<kChannels>(
-            plan, [&](ptrdiff_t y, ptrdiff_t x, float value) { poke(image.row(y) + x, value); }, channel);
-    }
+    forEdges<L>(plan, [&](ptrdiff_t y, ptrdiff_t x, float value) { poke(image.row(y) + x, value); });
 }
 
 template <Layout L, class S>
 void rowsInverse(const Transform& plan, ImageView<const float> src, ImageView<float> dst) {
     constexpr int kChannels = channelsOf(L);
-    for (int channel = 0; channel < coloursOf(L); channel++) {
-        moveEdges<kChannels>(
-            plan, [&](ptrdiff_t y, ptrdiff_t x, float& value) { value = peek(src.row(y) + x); }, channel);
-        for (ptrdiff_t k = 0; k <= (plan.size.height - 1) / 2; k += S::kLanes)
+    forEdges<L>(plan, [&](ptrdiff_t y, ptrdiff_t x, float& value) { value = peek(src.row(y) + x); });
+    for (ptrdiff_t k = 0; k <= (plan.size.height - 1) / 2; k += S::kLanes)
+        for (int channel = 0; channel < coloursOf(L); channel++)
             rowsInverse<kChannels, S>(plan, src, dst, RowPairs(k, S::kLanes, plan.size.height), channel);
-    }
 }
 
 template <Layout L>

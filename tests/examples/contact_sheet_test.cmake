@@ -57,6 +57,8 @@ if(CASE STREQUAL "shipped_photograph")
             "tpxiWarpAffineCubic_8u_C3R +600 x 400 +600 x 400 +1" "tpxiWarpAffineCubic_8u_C3R +60 x 40 +300 x 200 +1"
             "tpxiWarpPerspectiveLinear_8u_C3R +600 x 400 +600 x 480 +1"
             "tpxiRemap_8u_C3R +600 x 400 +600 x 400 +1"
+            "tpxiDFTFwd_RToPack_32f_C3R +600 x 400 +600 x 400 +1"
+            "tpxiDFTInv_PackToR_32f_C3R +600 x 400 +600 x 400 +1"
             "tpxiSqr_8u_C3RSfs +600 x 400 +600 x 400 +1" "tpxiSqrt_8u_C3RSfs +600 x 400 +600 x 400 +1"
             "tpxiLn_8u_C3RSfs +600 x 400 +600 x 400 +1" "tpxiExp_32f_C3R +600 x 400 +600 x 400 +1")
         if(NOT out MATCHES "${line} +[0-9]+\\.[0-9]+\n")
