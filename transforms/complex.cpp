@@ -19,14 +19,18 @@ void transformRows(const Transform& plan, ImageView<const float> src, ImageView<
 template <bool Inverse, class S>
 void transformColumns(const Transform& plan, ImageView<float> image) {
     const V32f scale = splat<V32f>(scaleOf(*plan.columns, Inverse));
-    forColumns<S>(plan.size.width, [&](const auto& columns, ptrdiff_t x) {
+    forColumns<S, kGroups>(plan.size.width, [&]<class Columns>(const Columns& columns, ptrdiff_t x) {
         const ImageView<float> strip = image.from(2 * x, 0);
-        S sequences = sequencesOf<S>(*plan.columns, plan.buffers);
+        SideBySide<S, Columns> groups(*plan.columns, plan.buffers);
         for (ptrdiff_t y = 0; y < plan.size.height; y++)
-            sequences.store(y, turned<Inverse>(columns.load(strip.row(y))));
-        transform(*plan.columns, sequences);
+            for (int g = 0; g < Columns::kGroups; g++)
+                groups.of[g].store(y, turned<Inverse>(columns.load(strip.row(y), g)));
+        for (S& sequences : groups.of) transform(*plan.columns, sequences);
         for (ptrdiff_t y = 0; y < plan.size.height; y++)
-            columns.store(strip.row(y), toInterleaved(turned<Inverse>(scaled(sequences.load(y), scale))));
+            for (int g = 0; g < Columns::kGroups; g++) {
+                const Lanes element = turned<Inverse>(scaled(groups.of[g].load(y), scale));
+                columns.store(strip.row(y), g, toInterleaved(element));
+            }
     });
 }
 

@@ -119,33 +119,54 @@ inline Pair<V32f> inRowOrder(Lanes x) {
     return {lowHalves(row.low, row.high), highHalves(row.low, row.high)};
 }
 
-// A row of them is two registers.
+// Of so many groups; a row of each is two registers, a line of the image at best. Two groups at a time read and
+// write pairs of lines, which the caches like better where the rows are whole pages apart.
+template <int N>
 struct WholeColumns {
-    Lanes load(const float* p) const { return toSplit(tpx::load(p), tpx::load(p + 8)); }
-    void store(float* p, Pair<V32f> row) const {
-        tpx::store(p, row.low);
-        tpx::store(p + 8, row.high);
+    static constexpr int kGroups = N;
+    Lanes load(const float* p, int group) const {
+        return toSplit(tpx::load(p + 16 * group), tpx::load(p + 16 * group + 8));
+    }
+    void store(float* p, int group, Pair<V32f> row) const {
+        tpx::store(p + 16 * group, row.low);
+        tpx::store(p + 16 * group + 8, row.high);
     }
 };
 // Fewer than eight.
 struct SomeColumns {
+    static constexpr int kGroups = 1;
     B32f low, high;
     explicit SomeColumns(ptrdiff_t columns) : low(firstLanes(2 * columns)), high(firstLanes(2 * columns - 8)) {}
 
-    Lanes load(const float* p) const { return toSplit(loadLanes(p, low), loadLanes(p + 8, high)); }
-    void store(float* p, Pair<V32f> row) const {
+    Lanes load(const float* p, int) const { return toSplit(loadLanes(p, low), loadLanes(p + 8, high)); }
+    void store(float* p, int, Pair<V32f> row) const {
         storeLanes(p, low, row.low);
         storeLanes(p + 8, high, row.high);
     }
 };
-// Calls each(columns, x) for all columns, as many at a time as the sequences take.
-template <class S, class Each>
+// Calls each(columns, x) for all columns, as many at a time as so many groups or a long line take.
+template <class S, int Groups, class Each>
 void forColumns(ptrdiff_t width, Each each) {
     ptrdiff_t x = 0;
-    if constexpr (S::kLanes == 8)
-        for (; x + 8 <= width; x += 8) each(WholeColumns(), x);
+    if constexpr (S::kLanes == 8) {
+        for (; x + 8 * Groups <= width; x += 8 * Groups) each(WholeColumns<Groups>(), x);
+        if constexpr (Groups > 1)
+            if (x + 8 <= width) {
+                each(WholeColumns<1>(), x);
+                x += 8;
+            }
+    }
     for (; x < width; x += S::kLanes) each(SomeColumns(minOf(width - x, ptrdiff_t(S::kLanes))), x);
 }
+
+// The buffers of a plan, as the sequences of groups side by side.
+template <class S, class Columns>
+struct SideBySide {
+    S of[Columns::kGroups];
+    SideBySide(const Line& line, float* buffers) {
+        for (int g = 0; g < Columns::kGroups; g++) of[g] = sequencesOf<S>(line, buffers, g);
+    }
+};
 
 // Two real sequences, one as the real parts and one as the imaginary ones, are one complex sequence. Its
 // spectrum z, with `mirror` the value at the opposite frequency, is taken apart into twice those of both.

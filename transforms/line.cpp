@@ -198,10 +198,10 @@ void transformBySplit(const Line& line, LongLine& sequence) {
     const ptrdiff_t height = ofColumns.elements, width = ofRows.elements;
     const Roots roots(uint64_t(line.elements), line.split->roots);
     const ImageView<float> matrix{sequence.data, width * 2 * ptrdiff_t(sizeof(float))};
-    forColumns<Group>(width, [&](const auto& columns, ptrdiff_t x) {
+    forColumns<Group, 1>(width, [&](const auto& columns, ptrdiff_t x) {
         const ImageView<float> strip = matrix.from(2 * x, 0);
         Group group = sequence.group;
-        for (ptrdiff_t y = 0; y < height; y++) group.store(y, columns.load(strip.row(y)));
+        for (ptrdiff_t y = 0; y < height; y++) group.store(y, columns.load(strip.row(y), 0));
         transform(ofColumns, group);
         ptrdiff_t turns = 0;
         for (ptrdiff_t k = 0; k < height; k++, turns += x) {
@@ -209,15 +209,16 @@ void transformBySplit(const Line& line, LongLine& sequence) {
             const Complex<double> root = roots(uint64_t(turns));
             const Lanes turn = multiply(line.split->laneRoots[k],
                                         Lanes{splat<V32f>(float(root.re)), splat<V32f>(float(root.im))});
-            columns.store(strip.row(k), toInterleaved(multiply(group.load(k), turn)));
+            columns.store(strip.row(k), 0, toInterleaved(multiply(group.load(k), turn)));
         }
     });
     const ImageView<float> result{sequence.other, height * 2 * ptrdiff_t(sizeof(float))};
-    forColumns<Group>(height, [&](const auto& columns, ptrdiff_t k) {
+    forColumns<Group, 1>(height, [&](const auto& columns, ptrdiff_t k) {
         Group group = sequence.group;
         loadRows<false>(rowsFrom<Group>(matrix, k, height), width, group);
         transform(ofRows, group);
-        for (ptrdiff_t j = 0; j < width; j++) columns.store(result.row(j) + 2 * k, inRowOrder(group.load(j)));
+        for (ptrdiff_t j = 0; j < width; j++)
+            columns.store(result.row(j) + 2 * k, 0, inRowOrder(group.load(j)));
     });
     exchangeBuffers(sequence);
 }
@@ -249,7 +250,7 @@ bool LineKind::isChirp() const { return !factorsOf(length).complete; }
 uint64_t LineKind::elements() const { return isChirp() ? convolutionLength(length) : length; }
 uint64_t LineKind::bufferBytes() const {
     constexpr uint64_t kElement = Group::kFloats * sizeof(float);
-    if (!isLong) return 2 * elements() * kElement;
+    if (!isLong) return 2 * kGroups * elements() * kElement;
     return 2 * roundUp(elements() * 2 * sizeof(float), kBlockAlignment) +
            2 * SplitKinds(elements()).rows.length * kElement;
 }
@@ -339,15 +340,16 @@ void lendTables(const Line& from, Line* to) {
 // ---- Transforms ------------------------------------------------------------------------------------------
 
 template <>
-Group sequencesOf<Group>(const Line& line, float* buffers) {
-    return {buffers, buffers + ptrdiff_t(line.elements) * Group::kFloats};
+Group sequencesOf<Group>(const Line& line, float* buffers, int group) {
+    const ptrdiff_t floats = ptrdiff_t(line.elements) * Group::kFloats;
+    return {buffers + 2 * group * floats, buffers + (2 * group + 1) * floats};
 }
 template <>
-LongLine sequencesOf<LongLine>(const Line& line, float* buffers) {
+LongLine sequencesOf<LongLine>(const Line& line, float* buffers, int) {
     const Line& split = line.chirp ? *line.chirp->inner : line;
     const auto floats = ptrdiff_t(roundUp(uint64_t(line.elements) * 2, kBlockAlignment / sizeof(float)));
     float* const group = buffers + 2 * floats;
-    return {buffers, buffers + floats, sequencesOf<Group>(*split.split->rows, group)};
+    return {buffers, buffers + floats, sequencesOf<Group>(*split.split->rows, group, 0)};
 }
 
 void transform(const Line& line, Group& group) {

@@ -110,9 +110,10 @@ void lendTables(const Line& from, Line* to);
 
 // ---- Transforms ------------------------------------------------------------------------------------------
 
-// The sequences of a line in buffers of its bufferBytes.
+// The sequences of a line in buffers of its bufferBytes, which have room for two groups.
+inline constexpr int kGroups = 2;
 template <class S>
-S sequencesOf(const Line& line, float* buffers);
+S sequencesOf(const Line& line, float* buffers, int group = 0);
 
 // The inverse is the same with real and imaginary parts exchanged, before and after.
 void transform(const Line& line, Group& group);

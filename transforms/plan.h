@@ -43,7 +43,7 @@ inline WorkParts layOutWork(BlockLayout& block, uint64_t bufferBytes, Domain dom
     parts.edges = block.take<float>(domain == Domain::Real ? kEdges * height : 0);
     return parts;
 }
-inline constexpr uint64_t kShortBytes = 2 * kShortLine * Group::kFloats * sizeof(float);
+inline constexpr uint64_t kShortBytes = 2 * kGroups * kShortLine * Group::kFloats * sizeof(float);
 
 // What a processing call knows of its plan.
 struct Transform : WorkParts {

@@ -17,16 +17,20 @@ namespace {
 
 // ---- Columns ---------------------------------------------------------------------------------------------
 
-// Eight columns of samples, or one, and those that are 8 pixels further right.
-template <int Channels, bool Whole>
+// Eight columns of samples, or one, and those that are 8 pixels further right; of so many groups, which are 16
+// pixels apart.
+template <int Channels, int Whole>
 struct ColumnPairs {
-    B32f first, second; // lanes that exist, and are not of an alpha that stays
+    static constexpr int kGroups = Whole ? Whole : 1;
+    B32f first, second; // if they are not whole: lanes that exist, and are not of an alpha that stays
 
-    Pair<V32f> load(const float* p) const {
+    Pair<V32f> load(const float* p, int group) const {
+        p += group * 16 * Channels;
         if constexpr (Whole) return {tpx::load(p), tpx::load(p + 8 * Channels)};
         return {loadLanes(p, first), loadLanes(p + 8 * Channels, second)};
     }
-    void store(float* p, V32f a, V32f b) const {
+    void store(float* p, int group, V32f a, V32f b) const {
+        p += group * 16 * Channels;
         if constexpr (Whole) {
             tpx::store(p, a);
             tpx::store(p + 8 * Channels, b);
@@ -37,23 +41,29 @@ struct ColumnPairs {
     }
 };
 
-// Calls each(columns, x) for all columns of the image, x counting samples: blocks of 16 pixels.
+// Calls each(columns, x) for all columns of the image, x counting samples: blocks of 16 pixels, two at a time.
 template <Layout L, class S, class Each>
 void forColumnPairs(ptrdiff_t width, Each each) {
     constexpr int kChannels = channelsOf(L);
+    constexpr ptrdiff_t kBlock = 16 * kChannels;
     const ptrdiff_t samples = width * kChannels;
+    ptrdiff_t block = 0;
+    if constexpr (L != Layout::AC4 && S::kLanes == 8) {
+        const auto whole = [&]<int N>(std::integral_constant<int, N>) {
+            for (; block + N * kBlock <= samples; block += N * kBlock)
+                for (ptrdiff_t x = block; x < block + kBlock / 2; x += 8) each(ColumnPairs<kChannels, N>(), x);
+        };
+        whole(std::integral_constant<int, kGroups>());
+        whole(std::integral_constant<int, 1>());
+    }
     const auto lanes = [](ptrdiff_t n) {
         const B32f existing = firstLanes(minOf(n, ptrdiff_t(S::kLanes)));
         return L == Layout::AC4 ? existing & B32f{-1, -1, -1, 0, -1, -1, -1, 0} : existing;
     };
-    for (ptrdiff_t block = 0; block < samples; block += 16 * kChannels)
-        for (ptrdiff_t x = block; x < block + 8 * kChannels && x < samples; x += S::kLanes) {
-            if (L == Layout::AC4 && S::kLanes == 1 && x % 4 == 3) continue;
-            if (L != Layout::AC4 && S::kLanes == 8 && block + 16 * kChannels <= samples)
-                each(ColumnPairs<kChannels, true>(), x);
-            else
-                each(ColumnPairs<kChannels, false>{lanes(samples - x), lanes(samples - x - 8 * kChannels)}, x);
-        }
+    for (; block < samples; block += kBlock)
+        for (ptrdiff_t x = block; x < block + kBlock / 2 && x < samples; x += S::kLanes)
+            if (L != Layout::AC4 || S::kLanes == 8 || x % 4 < 3)
+                each(ColumnPairs<kChannels, 0>{lanes(samples - x), lanes(samples - x - kBlock / 2)}, x);
 }
 
 template <Layout L, class S>
@@ -61,25 +71,29 @@ void columnsForward(const Transform& plan, ImageView<const float> from, ImageVie
     const ptrdiff_t n = plan.size.height;
     const float factor = scaleOf(*plan.columns, false);
     const V32f scale = splat<V32f>(factor), half = splat<V32f>(factor / 2);
-    forColumnPairs<L, S>(plan.size.width, [&](const auto& columns, ptrdiff_t x) {
+    forColumnPairs<L, S>(plan.size.width, [&]<class Columns>(const Columns& columns, ptrdiff_t x) {
         const ImageView<const float> src = from.from(x, 0);
         const ImageView<float> dst = to.from(x, 0);
-        S sequences = sequencesOf<S>(*plan.columns, plan.buffers);
-        for (ptrdiff_t y = 0; y < n; y++) {
-            const Pair<V32f> samples = columns.load(src.row(y));
-            sequences.store(y, {samples.low, samples.high});
-        }
-        transform(*plan.columns, sequences);
+        SideBySide<S, Columns> groups(*plan.columns, plan.buffers);
+        for (ptrdiff_t y = 0; y < n; y++)
+            for (int g = 0; g < Columns::kGroups; g++) {
+                const Pair<V32f> samples = columns.load(src.row(y), g);
+                groups.of[g].store(y, {samples.low, samples.high});
+            }
+        for (S& sequences : groups.of) transform(*plan.columns, sequences);
         const auto storeReal = [&](ptrdiff_t k) {
-            const Lanes z = scaled(sequences.load(k), scale);
-            columns.store(dst.row(k), z.re, z.im);
+            for (int g = 0; g < Columns::kGroups; g++) {
+                const Lanes z = scaled(groups.of[g].load(k), scale);
+                columns.store(dst.row(k), g, z.re, z.im);
+            }
         };
         storeReal(0);
-        for (ptrdiff_t k = 1; k < n - k; k++) {
-            const Twins t = takeApart(sequences.load(k), sequences.load(n - k));
-            columns.store(dst.row(k), t.first.re * half, t.second.re * half);
-            columns.store(dst.row(n - k), t.first.im * half, t.second.im * half);
-        }
+        for (ptrdiff_t k = 1; k < n - k; k++)
+            for (int g = 0; g < Columns::kGroups; g++) {
+                const Twins t = takeApart(groups.of[g].load(k), groups.of[g].load(n - k));
+                columns.store(dst.row(k), g, t.first.re * half, t.second.re * half);
+                columns.store(dst.row(n - k), g, t.first.im * half, t.second.im * half);
+            }
         if (n % 2 == 0) storeReal(n / 2);
     });
 }
@@ -88,27 +102,30 @@ template <Layout L, class S>
 void columnsInverse(const Transform& plan, ImageView<float> image) {
     const ptrdiff_t n = plan.size.height;
     const V32f scale = splat<V32f>(scaleOf(*plan.columns, true));
-    forColumnPairs<L, S>(plan.size.width, [&](const auto& columns, ptrdiff_t x) {
+    forColumnPairs<L, S>(plan.size.width, [&]<class Columns>(const Columns& columns, ptrdiff_t x) {
         const ImageView<float> strip = image.from(x, 0);
-        S sequences = sequencesOf<S>(*plan.columns, plan.buffers);
-        const auto put = [&](ptrdiff_t k, Lanes z) { sequences.store(k, turned<true>(z)); };
+        SideBySide<S, Columns> groups(*plan.columns, plan.buffers);
         const auto putReal = [&](ptrdiff_t k) {
-            const Pair<V32f> re = columns.load(strip.row(k));
-            put(k, {re.low, re.high});
+            for (int g = 0; g < Columns::kGroups; g++) {
+                const Pair<V32f> re = columns.load(strip.row(k), g);
+                groups.of[g].store(k, turned<true>(Lanes{re.low, re.high}));
+            }
         };
         putReal(0);
-        for (ptrdiff_t k = 1; k < n - k; k++) {
-            const Pair<V32f> re = columns.load(strip.row(k)), im = columns.load(strip.row(n - k));
-            const Twins z = putTogether({re.low, im.low}, {re.high, im.high});
-            put(k, z.first);
-            put(n - k, z.second);
-        }
+        for (ptrdiff_t k = 1; k < n - k; k++)
+            for (int g = 0; g < Columns::kGroups; g++) {
+                const Pair<V32f> re = columns.load(strip.row(k), g), im = columns.load(strip.row(n - k), g);
+                const Twins z = putTogether({re.low, im.low}, {re.high, im.high});
+                groups.of[g].store(k, turned<true>(z.first));
+                groups.of[g].store(n - k, turned<true>(z.second));
+            }
         if (n % 2 == 0) putReal(n / 2);
-        transform(*plan.columns, sequences);
-        for (ptrdiff_t y = 0; y < n; y++) {
-            const Lanes z = turned<true>(scaled(sequences.load(y), scale));
-            columns.store(strip.row(y), z.re, z.im);
-        }
+        for (S& sequences : groups.of) transform(*plan.columns, sequences);
+        for (ptrdiff_t y = 0; y < n; y++)
+            for (int g = 0; g < Columns::kGroups; g++) {
+                const Lanes z = turned<true>(scaled(groups.of[g].load(y), scale));
+                columns.store(strip.row(y), g, z.re, z.im);
+            }
     });
 }
 
