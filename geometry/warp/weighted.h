@@ -41,7 +41,8 @@ inline auto loadTaps(At at) {
 
 // weigh(fractions) gives the weights of the taps for a register of fractions.
 template <class T, int N, int Size, class Weigh>
-inline void interpolateWeighted(const Taps<RealOf<T>>& taps, Tpx8u* dst, int count, Weigh weigh) {
+[[gnu::always_inline]] inline void interpolateWeighted(const Taps<RealOf<T>>& taps, Tpx8u* dst, int count,
+                                                       Weigh weigh) {
     using Real = RealOf<T>;
     using Weights = Several<Vec<Real>, Size>;
     constexpr int L = kLanes<Real>;

@@ -319,6 +319,10 @@ TEST(Remap, ChecksInOrder) {
                                 a.dstStep, a.size, a.interpolation);
     };
     EXPECT_EQ(tpxOk, call(good));
+    Args row = good; // the least that steps may be
+    row.size.height = 1;
+    row.srcStep = row.xStep = row.yStep = row.dstStep = 1;
+    EXPECT_EQ(tpxOk, call(row));
     const std::vector<Fault<Args>> faults = {
         {"pSrc", [](Args& a) { a.src = nullptr; }, tpxErrNullPointer},
         {"pDst", [](Args& a) { a.dst = nullptr; }, tpxErrNullPointer},
