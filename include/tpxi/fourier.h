@@ -22,10 +22,10 @@ TPX_EXTERN_C_BEGIN
  * hold F(k, 0) and F(k, W / 2), which are symmetric along k: Re F(0), Re F(1), Im F(1), Re F(2), Im F(2), ...,
  * and Re F(H / 2) last if H is even. The frequencies that are not stored are F(H - k, W - j) = conj F(k, j).
  *
- * The transforms are exact to single precision: beside the exact transform, the root mean square of the errors
- * is below 0.6 * 2^-24 * log2(N) times the root mean square of the result, for every number of pixels N whose
- * sides have prime factors up to 50. Sides with larger ones cost two transforms of at least twice the length,
- * and up to three times that error. Results do not depend on steps or addresses, nor on the number of channels.
+ * The transforms are exact to single precision: beside the exact transform of N pixels of noise, the root
+ * mean square of the errors is below 0.45 * 2^-24 * log2(N) times that of the result, measured over all rows of
+ * up to 2048 pixels and longer ones up to 2^24. Sides with prime factors above 50 cost two transforms of twice
+ * the length or more. Results depend neither on steps or addresses nor on the number of channels.
  *
  * A call sequence is: GetSize, Init with a plan and an initialisation buffer of the sizes told, transforms with
  * a work buffer. All of these are the caller's memory, at any address; the plan has to stay where it was made.
