@@ -4,6 +4,7 @@
 #include "frame/images/pointwise.h"
 #include "geometry/resize/super_bytes.h"
 #include "geometry/resize/super_rows.h"
+#include "geometry/resize/super_turned.h"
 
 namespace tpx {
 namespace {
@@ -28,7 +29,13 @@ TpxStatus resizeSuper(const TileCall<T>& call) {
             return doneTile(call);
         }
     }
-    averageByFloats<T, N>(tile);
+    if constexpr (std::is_integral_v<T> && N == 1) {
+        if (SuperRow<T>::serves(tile.plan.axisX)) {
+            averageByRows(tile);
+            return doneTile(call);
+        }
+    }
+    averageTurned<T, N>(tile);
     return doneTile(call);
 }
 

@@ -1,9 +1,12 @@
-// Super-sampling in single precision, for every type and ratio.
+// Super-sampling in single precision.
 //
 // The order of summation: each source row is weighted and summed along x from the left, then the sums of its
 // rows are weighted and summed from the top; the first product begins a sum. The order is the same for every
 // pixel, wherever its tile begins, so any tiling gives the same bytes. Whatever is faster has to give what this
 // order gives.
+//
+// Here rows are summed one by one, which serves integers of one channel that become narrower by less than a
+// half; others are faster turned (super_turned.h).
 #pragma once
 
 #include "frame/runs/runs.h"
@@ -12,8 +15,47 @@
 
 namespace tpx {
 
-// The weighted sum of a run. edge(e, k) is the product of tap k and its weight, 0 where that is 0; taps between
-// the first and the last but one are covered whole.
+// ---- Rows of any kind --------------------------------------------------------------------------------------
+
+// A row that is not made narrower.
+template <class T>
+inline void convertRow(const T* src, Tpx32f* row, int64_t count) {
+    constexpr int L = kLanes<Tpx32f>;
+    int64_t i = 0;
+    for (; i + L <= count; i += L) {
+        if constexpr (std::is_same_v<T, Tpx32f>)
+            store(row + i, load(src + i));
+        else
+            store(row + i, loadAs<Tpx32f>(src + i));
+    }
+    for (; i < count; i++) row[i] = Tpx32f(peek(src + i));
+}
+
+// Sums times the factor. Whole registers of them are read.
+template <class T>
+inline void storeMeans(const Tpx32f* sum, Tpx32f factor, T* dst, int64_t count) {
+    constexpr int L = kLanes<T>, kParts = L / kLanes<Tpx32f>;
+    const V32f f = splat<V32f>(factor);
+    for (int64_t i = 0; i < count; i += L) {
+        Vec<T> means;
+        if constexpr (std::is_same_v<T, Tpx32f>) {
+            means = load(sum + i) * f;
+        } else {
+            Several<V32f, kParts> parts;
+            for (int k = 0; k < kParts; k++) parts.at[k] = load(sum + i + k * kLanes<Tpx32f>) * f;
+            means = toSamples<T, Rounding::OfThread>(parts);
+        }
+        if (i + L <= count)
+            store(dst + i, means);
+        else
+            copyShort(dst + i, &means, (count - i) * int64_t(sizeof(T)));
+    }
+}
+
+// ---- Eight positions ---------------------------------------------------------------------------------------
+
+// The weighted sum of a run. edge(e, k) is the product of tap k and its weight; taps between the first and the
+// last but one are covered whole.
 template <class Tap, class Edge>
 inline auto sumOfRun(int64_t taps, Tap tap, Edge edge) {
     auto sum = edge(0, 0);
@@ -22,29 +64,22 @@ inline auto sumOfRun(int64_t taps, Tap tap, Edge edge) {
     return sum += edge(2, taps - 1);
 }
 
-// ---- Eight samples of one channel at positions ---------------------------------------------------------
-
+// Eight integers at positions, as floats.
 template <class T>
 inline V32f gatherEight(const T* p, const Tpx32s* at) {
-    const auto sample = [=](int k) { return peek(p + at[k]); };
-    if constexpr (std::is_same_v<T, Tpx32f>) {
-        return V32f{sample(0), sample(1), sample(2), sample(3), sample(4), sample(5), sample(6), sample(7)};
-    } else {
-        const auto piece = [=](int k) { return Tpx16s(sample(k)); };
-        using Lanes = Vec<std::conditional_t<std::is_signed_v<T>, Tpx16s, Tpx16u>>;
-        const auto wide = widen(bitsAs<Lanes>(
-            fromPieces(piece(0), piece(1), piece(2), piece(3), piece(4), piece(5), piece(6), piece(7))));
-        return toFloat(Pair<V32s>{V32s(wide.low), V32s(wide.high)});
-    }
+    const auto piece = [=](int k) { return Tpx16s(peek(p + at[k])); };
+    using Lanes = Vec<std::conditional_t<std::is_signed_v<T>, Tpx16s, Tpx16u>>;
+    const auto wide = widen(bitsAs<Lanes>(
+        fromPieces(piece(0), piece(1), piece(2), piece(3), piece(4), piece(5), piece(6), piece(7))));
+    return toFloat(Pair<V32s>{V32s(wide.low), V32s(wide.high)});
 }
 
-// Integers: four neighbouring positions whose samples lie within 16 bytes are a load and a shuffle, prepared
+// Four neighbouring positions, whose samples lie within 16 bytes, are a load and a shuffle, prepared
 // once for all rows. Every tap uses it, at an address further on.
 template <class T>
 struct EightByWindows {
     static constexpr int kSpan = 16 / sizeof(T);
 
-    static bool fits(const Tpx32s* at) { return at[3] - at[0] < kSpan && at[7] - at[4] < kSpan; }
     // 32 bytes. Signed samples go to the upper halves of their lanes.
     static void prepare(const Tpx32s* at, Tpx8u* shuffle) {
         constexpr int kPlace = std::is_signed_v<T> ? 2 : 0;
@@ -66,42 +101,31 @@ struct EightByWindows {
 
 // Sums source rows along x, for a band of neighbouring positions whose tables and sums stay in the first-level
 // cache.
-template <class T, int N>
+template <class T>
 class SuperRow {
-    static constexpr int kLongest = 512; // samples
-    static constexpr bool kWindows = N == 1 && sizeof(T) < 4;
-
  public:
-    static constexpr int kPositions = kLongest / N;
-    // Floats of a row of sums: whole registers are read of it, and pixels of three are written as four.
-    static constexpr int kRow = kLongest + 16;
+    static constexpr int kPositions = 512;
+
+    static bool serves(const TpxiResizeAxis& axis) { return axis.srcRatio < 2 * int64_t(axis.dstRatio); }
 
     // `last` is the last source column that the tile may read.
-    SuperRow(const TpxiResizeAxis& axis, int64_t x, int64_t width, int64_t last)
-        : width_(width), whole_(axis.dstRatio == 1) {
+    SuperRow(const TpxiResizeAxis& axis, int64_t x, int64_t width, int64_t last) : width_(width) {
         Runs runs(axis, x);
         taps_ = runs.taps;
         first_ = runs.first();
-        int64_t inside = 0; // positions all of whose taps, or pixels loaded as four samples, are
         for (int64_t j = 0; j < width; j++, runs.next()) {
             at_[j] = Tpx32s(runs.first() - first_);
             edges_[0][j] = runs.weight(0);
             edges_[1][j] = taps_ > 2 ? runs.weight(taps_ - 2) : 0;
             edges_[2][j] = runs.weight(taps_ - 1);
-            const bool isInside = N == 1   ? runs.first() + taps_ - 1 <= last
-                                  : N == 3 ? runs.last() < last
-                                           : true;
-            if (isInside) inside = j + 1;
+            if (runs.first() + taps_ - 1 <= last) vectors_ = (j + 1) / 8 * 8;
         }
-        vectors_ = N == 1 ? inside / 8 * 8 : inside;
-        if constexpr (kWindows) {
-            using Eight = EightByWindows<T>;
-            const int64_t end = last - first_ + 1;
-            for (; windows_ < vectors_; windows_ += 8) {
-                const Tpx32s* const at = at_ + windows_;
-                if (!Eight::fits(at) || at[4] + taps_ - 1 + Eight::kSpan > end) break;
-                Eight::prepare(at, shuffles_ + 4 * windows_);
-            }
+        using Eight = EightByWindows<T>;
+        const int64_t end = last - first_ + 1;
+        for (; windows_ < vectors_; windows_ += 8) {
+            const Tpx32s* const at = at_ + windows_;
+            if (at[4] + taps_ - 1 + Eight::kSpan > end) break;
+            Eight::prepare(at, shuffles_ + 4 * windows_);
         }
     }
 
@@ -110,73 +134,35 @@ class SuperRow {
 
     void operator()(const T* src, Tpx32f* out) const {
         if (taps_ == 1)
-            convert(src, out);
-        else if (whole_)
-            sum<true>(src, out);
+            convertRow(src, out, width_);
         else
-            sum<false>(src, out);
+            sum(src, out);
     }
 
  private:
-    void convert(const T* src, Tpx32f* out) const {
-        constexpr int L = kLanes<Tpx32f>;
-        int64_t i = 0;
-        for (; i + L <= width_ * N; i += L) {
-            if constexpr (std::is_same_v<T, Tpx32f>)
-                store(out + i, load(src + i));
-            else
-                store(out + i, loadAs<Tpx32f>(src + i));
-        }
-        for (; i < width_ * N; i++) out[i] = Tpx32f(peek(src + i));
-    }
-
-    // Whole: all weights are 1.
-    template <bool Whole>
     void sum(const T* src, Tpx32f* out) const {
         const int64_t taps = taps_, windows = windows_, vectors = vectors_, width = width_;
         int64_t j = 0;
-        if constexpr (N == 1) {
-            const auto eight = [&](auto tap) {
-                store(out + j, sumOfRun(taps, tap, [&](int e, int64_t k) {
-                          if constexpr (Whole) return tap(k);
-                          const V32f weight = load(edges_[e] + j), product = weight * tap(k);
-                          return std::is_same_v<T, Tpx32f> ? masked(weight != V32f{}, product) : product;
-                      }));
-            };
-            if constexpr (kWindows)
-                for (; j < windows; j += 8)
-                    eight([&](int64_t k) {
-                        return EightByWindows<T>::load(src + k, at_ + j, shuffles_ + 4 * j);
-                    });
-            for (; j < vectors; j += 8) eight([&](int64_t k) { return gatherEight(src + k, at_ + j); });
-        } else {
-            for (; j < vectors; j++) {
-                const T* const pixel = src + int64_t(at_[j]) * N;
-                const auto tap = [&](int64_t k) { return loadFour(pixel + k * N); };
-                storeFour(out + j * N, sumOfRun(taps, tap, [&](int e, int64_t k) {
-                              if constexpr (Whole) return tap(k);
-                              const Tpx32f w = edges_[e][j];
-                              return w != 0 ? Four<float>{w, w, w, w} * tap(k) : Four<float>{};
-                          }));
-            }
+        const auto eight = [&](auto tap) {
+            store(out + j, sumOfRun(taps, tap, [&](int e, int64_t k) { return load(edges_[e] + j) * tap(k); }));
+        };
+        for (; j < windows; j += 8)
+            eight([&](int64_t k) { return EightByWindows<T>::load(src + k, at_ + j, shuffles_ + 4 * j); });
+        for (; j < vectors; j += 8) eight([&](int64_t k) { return gatherEight(src + k, at_ + j); });
+        for (; j < width; j++) { // samples without weight may lie outside
+            const auto tap = [&](int64_t k) { return Tpx32f(peek(src + at_[j] + k)); };
+            out[j] = sumOfRun(taps, tap, [&](int e, int64_t k) {
+                const Tpx32f weight = edges_[e][j];
+                return weight != 0 ? weight * tap(k) : 0;
+            });
         }
-        for (; j < width; j++)
-            for (int c = 0; c < N; c++) {
-                const T* const sample = src + int64_t(at_[j]) * N + c;
-                const auto tap = [&](int64_t k) { return Tpx32f(peek(sample + k * N)); };
-                out[j * N + c] = sumOfRun(taps, tap, [&](int e, int64_t k) {
-                    const Tpx32f weight = edges_[e][j];
-                    return weight != 0 ? weight * tap(k) : 0;
-                });
-            }
     }
 
     int64_t width_, first_, taps_;
-    bool whole_;
-    int64_t windows_ = 0, vectors_; // positions before which windows, and then other registers, serve
-    Tpx32s at_[kPositions];         // columns from the first one
+    int64_t windows_ = 0, vectors_ = 0; // positions before which windows, and then other registers, serve
+    Tpx32s at_[kPositions];             // columns from the first one
     Tpx32f edges_[3][kPositions];
-    Tpx8u shuffles_[kWindows ? 4 * kPositions : 1];
+    Tpx8u shuffles_[4 * kPositions];
 };
 
 // ---- Rows, and the tile ---------------------------------------------------------------------------------
@@ -198,36 +184,16 @@ inline void accumulate(const Tpx32f* row, Tpx32f weight, bool begins, Tpx32f* su
 }
 
 template <class T>
-inline void storeMeans(const Tpx32f* sum, Tpx32f factor, T* dst, int64_t count) {
-    constexpr int L = kLanes<T>, kParts = L / kLanes<Tpx32f>;
-    const V32f f = splat<V32f>(factor);
-    for (int64_t i = 0; i < count; i += L) {
-        Vec<T> means;
-        if constexpr (std::is_same_v<T, Tpx32f>) {
-            means = load(sum + i) * f;
-        } else {
-            Several<V32f, kParts> parts;
-            for (int k = 0; k < kParts; k++) parts.at[k] = load(sum + i + k * kLanes<Tpx32f>) * f;
-            means = toSamples<T, Rounding::OfThread>(parts);
-        }
-        if (i + L <= count)
-            store(dst + i, means);
-        else
-            copyShort(dst + i, &means, (count - i) * int64_t(sizeof(T)));
-    }
-}
-
-template <class T, int N>
-void averageByFloats(const Tile<T>& tile) {
-    using Row = SuperRow<T, N>;
+void averageByRows(const Tile<T>& tile) {
+    using Row = SuperRow<T>;
     const Tpx32f factor = superFactor(tile.plan);
     const int64_t last = Runs(tile.plan.axisX, tile.x + tile.width - 1).last();
-    alignas(32) Tpx32f row[Row::kRow] = {}, sum[Row::kRow] = {};
+    alignas(32) Tpx32f row[Row::kPositions + 16] = {}, sum[Row::kPositions + 16] = {};
     for (int64_t x = 0; x < tile.width; x += Row::kPositions) {
         const int64_t width = minOf<int64_t>(tile.width - x, Row::kPositions);
         const Row sumRow(tile.plan.axisX, tile.x + x, width, last);
-        const ImageView<const T> src = tile.src.from(sumRow.first() * N, 0);
-        const ImageView<T> dst = tile.dst.from(x * N, 0);
+        const ImageView<const T> src = tile.src.from(sumRow.first(), 0);
+        const ImageView<T> dst = tile.dst.from(x, 0);
         int64_t held = -1; // the source row whose sums are there; two destination rows may share one
         Runs runs(tile.plan.axisY, tile.y);
         for (int64_t i = 0; i < tile.height; i++, runs.next()) {
@@ -238,10 +204,10 @@ void averageByFloats(const Tile<T>& tile) {
                 const int64_t y = runs.first() + k;
                 if (y != held) sumRow(src.row(y), row);
                 held = y;
-                accumulate(row, weight, begins, sum, width * N);
+                accumulate(row, weight, begins, sum, width);
                 begins = false;
             }
-            storeMeans(sum, factor, dst.row(i), width * N);
+            storeMeans(sum, factor, dst.row(i), width);
         }
     }
 }

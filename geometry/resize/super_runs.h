@@ -5,6 +5,15 @@
 
 namespace tpx {
 
+// The source positions that a destination position covers. All but the first and the last are covered whole.
+struct CoveredRun {
+    int64_t first, count;
+    Tpx32f firstWeight, lastWeight;
+
+    Tpx32f weight(int64_t k) const { return k == 0 ? firstWeight : k < count - 1 ? 1 : lastWeight; }
+    int64_t end() const { return first + count; }
+};
+
 // Walks the destination positions of an axis, from any one on. The tables of one period serve them all.
 class Runs {
  public:
@@ -26,6 +35,10 @@ class Runs {
         int64_t k = taps - 1;
         while (k > 0 && weight(k) == 0) k--;
         return first() + k;
+    }
+    CoveredRun covered() const {
+        const int64_t begin = weight(0) == 0, end = last();
+        return {first() + begin, end + 1 - first() - begin, weight(begin), weight(end - first())};
     }
     void next() {
         if (++phase_ < axis_.dstRatio) return;

@@ -121,6 +121,10 @@ class TapSource {
         }
     }
 
+    // All pixels that are read are in memory.
+    explicit TapSource(ImageView<const T> image)
+        : image_(image), firstColumn_(-kFar), endColumn_(kFar), firstRow_(-kFar), endRow_(kFar) {}
+
  private:
     static constexpr int kRows = kTapRows<N>;
     static constexpr int64_t kFar = INT64_MAX / 4;

@@ -139,7 +139,7 @@ std::string text(const Sizes& s) {
 
 // Whole ratios and small periods; periods that integers of bytes serve along one axis or none; one axis
 // alone; ratios around those where sums of bytes are carried on, weights are many, and sums leave 24 bits; and
-// reductions to a pixel.
+// reductions to a pixel; more pixels for one than are read at a time.
 const Sizes kSizes[] = {
     {{64, 48}, {32, 24}},   {{96, 30}, {32, 10}},  {{45, 33}, {30, 22}},   {{100, 20}, {80, 16}},
     {{50, 36}, {20, 16}},   {{72, 27}, {64, 24}},  {{120, 16}, {30, 4}},   {{63, 28}, {36, 16}},
@@ -150,6 +150,7 @@ const Sizes kSizes[] = {
     {{16, 600}, {8, 6}},    {{12, 514}, {6, 2}},   {{800, 250}, {8, 1}},   {{514, 260}, {2, 1}},
     {{774, 258}, {3, 1}},   {{17, 130}, {17, 2}},  {{1026, 260}, {8, 8}},  {{515, 520}, {2, 8}},
     {{2000, 2}, {1500, 1}}, {{1030, 3}, {824, 2}}, {{2048, 2}, {1024, 2}}, {{3, 1000}, {2, 3}},
+    {{1003, 4}, {2, 1}},
 };
 
 const Lie kLies[] = {{0, Edge::End, 0}, {24, Edge::Start, 1}, {8, Edge::End, 3}};
