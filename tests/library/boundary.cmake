@@ -6,7 +6,8 @@ function(run out)
     set(${out} "${text}" PARENT_SCOPE)
 endfunction()
 
-# Exports: the names of the headers, no other.
+# Exports: the names of the headers, no other; and these are the complete list, name by name, from which none may
+# go and to which none comes by accident.
 file(STRINGS ${ENTRIES} lines REGEX "^    STUB tpx")
 list(TRANSFORM lines REPLACE "^    STUB " "" OUTPUT_VARIABLE expected)
 run(defined nm -D --defined-only --format=posix ${LIBRARY})
@@ -18,6 +19,13 @@ if(NOT defined STREQUAL expected)
     list(REMOVE_ITEM extra ${expected})
     list(REMOVE_ITEM expected ${defined})
     message(FATAL_ERROR "exported but not declared: ${extra}; declared but not exported: ${expected}")
+endif()
+file(STRINGS ${CMAKE_CURRENT_LIST_DIR}/exports.txt complete)
+if(NOT defined STREQUAL complete)
+    set(missing ${complete})
+    list(REMOVE_ITEM missing ${defined})
+    list(REMOVE_ITEM defined ${complete})
+    message(FATAL_ERROR "not in the list of exports: ${defined}; in the list but not exported: ${missing}")
 endif()
 
 # Undefined: the companion's functions alone.
