@@ -7,10 +7,12 @@
 namespace tpx {
 
 // Gathers the pixels of rows. Small pixels are taken in groups that fill 8 bytes of the destination: where the
-// sources of a group lie within 16 bytes they are one load and one shuffle, prepared once for all rows.
+// sources of a group lie within 16 bytes they are one load and one shuffle, prepared once for all rows; where
+// those of a half of it do, they are two.
 template <int Bytes>
 class PixelGather {
     static constexpr int kPixels = Bytes > 4 ? 0 : 8 / Bytes; // of a group
+    static constexpr bool kHasHalves = Bytes <= 2;
 
     // A single pixel is moved as the next power of two while pixels follow it on both sides.
     struct Piece {
@@ -20,18 +22,29 @@ class PixelGather {
     const Tpx32s* index;
     int64_t width;
     int64_t shuffled = 0, pieces; // pixels before which shuffles, and then pieces, serve
+    bool inHalves = false;
     Tpx8u* shuffles;
 
+    // Whether the sources of so many pixels from the j-th on lie within a register.
+    bool fit(int64_t j, int count) const {
+        return (int64_t(index[j + count - 1]) - index[j] + 1) * Bytes <= 16;
+    }
+
     void prepareShuffles() {
+        if constexpr (kHasHalves)
+            for (int64_t j = 0; j + kPixels <= width && !inHalves; j += kPixels) inHalves = !fit(j, kPixels);
+        const int part = inHalves ? kPixels / 2 : kPixels;
         const int64_t end = (int64_t(index[width - 1]) + 1) * Bytes;
         Tpx8u* shuffle = shuffles;
         // Two pixels of three bytes are stored as eight. The last two never are: their load would not end in
         // time.
         for (; shuffled + kPixels <= width; shuffled += kPixels, shuffle += 8) {
             const Tpx32s* const at = index + shuffled;
-            if ((int64_t(at[kPixels - 1]) - at[0] + 1) * Bytes > 16 || int64_t(at[0]) * Bytes + 16 > end) break;
+            const int last = kPixels - part;
+            if (!fit(shuffled, part) || !fit(shuffled + last, part) || int64_t(at[last]) * Bytes + 16 > end)
+                break;
             for (int k = 0; k < kPixels * Bytes; k++)
-                shuffle[k] = Tpx8u((at[k / Bytes] - at[0]) * Bytes + k % Bytes);
+                shuffle[k] = Tpx8u((at[k / Bytes] - at[k / Bytes / part * part]) * Bytes + k % Bytes);
         }
     }
 
@@ -51,18 +64,32 @@ class PixelGather {
         int64_t j = 0;
         if constexpr (kPixels > 0) {
             const Tpx8u* shuffle = shuffles;
+            if (kHasHalves && inHalves) {
+                for (; j < shufflesEnd; j += kPixels, shuffle += 8)
+                    poke(reinterpret_cast<Tpx64s*>(dst + j * Bytes),
+                         firstPiece(interleaveUnits<4, false>(half(src, at[j], shuffle),
+                                                              half(src, at[j + kPixels / 2], shuffle + 4))));
+            } else {
 // Else counting costs half as much as moving, or more where the loop happens to lie badly.
 #pragma GCC unroll 4
-            for (; j < shufflesEnd; j += kPixels, shuffle += 8) {
-                const V8u pixels = load(src + int64_t(at[j]) * Bytes);
-                poke(reinterpret_cast<Tpx64s*>(dst + j * Bytes),
-                     firstPiece(shuffleBytes(pixels, load(shuffle))));
+                for (; j < shufflesEnd; j += kPixels, shuffle += 8) {
+                    const V8u pixels = load(src + int64_t(at[j]) * Bytes);
+                    poke(reinterpret_cast<Tpx64s*>(dst + j * Bytes),
+                         firstPiece(shuffleBytes(pixels, load(shuffle))));
+                }
             }
         }
         for (; j < piecesEnd; j++)
             poke(reinterpret_cast<Piece*>(dst + j * Bytes),
                  peek(reinterpret_cast<const Piece*>(src + int64_t(at[j]) * Bytes)));
         for (; j < end; j++) __builtin_memcpy(dst + j * Bytes, src + int64_t(at[j]) * Bytes, Bytes);
+    }
+
+ private:
+    // Four bytes of pixels, the first of which is the x-th.
+    static V8u half(const Tpx8u* src, Tpx32s x, const Tpx8u* shuffle) {
+        return shuffleBytes(load(src + int64_t(x) * Bytes),
+                            fromPieces(peek(reinterpret_cast<const Tpx32s*>(shuffle)), 0, 0, 0));
     }
 };
 
