@@ -248,12 +248,12 @@ inline V selectLanes(V a, V b) {
     } else {
         constexpr int kBytes = sizeof(LaneOf<V>);
         static_assert(kBytes == 2 || kBytes == 4);
-        constexpr auto kUnits = [](int mask) { // of 16 bits
+        constexpr int kUnits = [] { // of 16 bits
             int units = 0;
-            for (int i = 0; i < 8; i++) units |= (mask >> i * 2 / kBytes & 1) << i;
+            for (int i = 0; i < 8; i++) units |= (Mask >> i * 2 / kBytes & 1) << i;
             return units;
-        };
-        return bitsAs<V>(_mm_blend_epi16(bitsAs<__m128i>(b), bitsAs<__m128i>(a), kUnits(Mask)));
+        }();
+        return bitsAs<V>(_mm_blend_epi16(bitsAs<__m128i>(b), bitsAs<__m128i>(a), kUnits));
     }
 }
 
