@@ -128,7 +128,7 @@ Warped turnedDetail(const char* name, ConstPixels detail, TpxBorderType border, 
 // diagonals, is taken from scale(r) times as far.
 template <class Scale>
 Warped radial(const char* name, ConstPixels src, int interpolation, Scale scale) {
-    const auto [width, height] = src.size;
+    const int width = src.size.width, height = src.size.height;
     const double middle[2] = {(width - 1) / 2.0, (height - 1) / 2.0}, unit = std::hypot(middle[0], middle[1]);
     std::vector<Tpx32f> xMap, yMap;
     for (int y = 0; y < height; ++y)
