@@ -219,6 +219,26 @@ TYPED_TEST(WarpAffine, DyadicLinearIsTheDocumentedBlend) {
         }
 }
 
+// Linear and cubic keep planes, so that a map and then its inverse restore them: floats within rounding,
+// integers within one, half of it from each warp.
+TYPED_TEST(WarpAffine, InversePairsRestorePlanes) {
+    using T = typename TypeParam::T;
+    const double bound = std::is_integral_v<T> ? 1 : sizeof(T) == 4 ? 1e-4 : 1e-11;
+    const TpxiSize flat{60, 50}, slanted{90, 85};
+    GuardedImage<T> src(flat.width, flat.height, 1), between(slanted.width, slanted.height, 1),
+        back(flat.width, flat.height, 1);
+    src.fill([](int x, int y, int) { return 2 * x + 2 * y; });
+    for (TpxInterpolationType kind : {tpxInterpolationLinear, tpxInterpolationCubic}) {
+        Job there{flat, slanted, turned(flat, slanted, 15, 1.1), 0, kind, tpxBorderReplicate};
+        const Job again{slanted, flat, there.coeffs, 1, kind, tpxBorderReplicate};
+        ASSERT_EQ(tpxOk, Plan<TypeParam>(there).run(src, between));
+        ASSERT_EQ(tpxOk, Plan<TypeParam>(again).run(between, back));
+        for (int y = 4; y < flat.height - 4; y++)
+            for (int x = 4; x < flat.width - 4; x++)
+                ASSERT_NEAR(double(back.at(x, y)), 2 * x + 2 * y, bound) << x << ", " << y << ", kind " << kind;
+    }
+}
+
 // ---- Tiles -----------------------------------------------------------------------------------------------
 
 TYPED_TEST(WarpAffine, TilesEqualOneCall) {
