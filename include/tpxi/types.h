@@ -106,73 +106,81 @@ typedef struct {
 
 /* ---- Statuses --------------------------------------------------------------------------------------
  * 0 is success. A negative status means that the operation stopped at a failed check, having written
- * nothing. A positive status is a warning: the operation ran to its end and its result is defined. */
+ * nothing. A positive status is a warning: the operation ran to its end and its result is defined.
+ *
+ * The list makes the enumerators here, and their names and texts in status_text.h. The last entry is called
+ * apart, since an enumeration may not end with a comma in C89. */
 
 typedef int TpxStatus;
 
-enum {
-    tpxErrUnsupportedMode = -9999, /* a mode, or a mode and layout together, that is not offered */
-    tpxErrWarpTransform = -233,    /* transform selector of a quadrangle warp neither 0 nor 1 */
-    tpxErrSizeTooLarge = -232,     /* a size leaves the range of 32 bits (31 for a few), or of a plan */
-    tpxErrWarpDirection = -231,    /* warp direction other than 0 or 1 */
-    tpxErrAlgorithm = -228,        /* algorithm selector not accepted */
-    tpxErrYuvSize = -227,          /* an odd value where YUV resize needs an even one */
-    tpxErrBorder = -225,           /* border word not accepted */
-    tpxErrRoundMode = -213,        /* rounding mode not accepted */
-    tpxErrDecimation = -212,       /* decimation selector outside 0 to 4 */
-    tpxErrWeight = -211,           /* centre weight below 1 */
-    tpxErrZeroDenominator = -210,  /* the denominator of a quality index is nearly zero */
-    tpxErrNoiseValue = -125,       /* noise level outside 0 up to, not including, 1 */
-    tpxErrStepNotMultiple = -108,  /* a step that is not a whole number of samples */
-    tpxErrHistogramLevels = -107,  /* fewer than 2 histogram levels in a channel */
-    tpxErrLutLevels = -106,        /* fewer than 2 lookup levels in a channel */
-    tpxErrChannelOrder = -60,      /* channel order entry at or above the number of channels */
-    tpxErrQuad = -58,              /* quadrangle not well formed */
-    tpxErrRect = -57,              /* rectangle not accepted */
-    tpxErrCoefficient = -56,       /* coefficients that describe no usable transform */
-    tpxErrChannelCount = -53,      /* number of channels not accepted */
-    tpxErrDivisor = -51,           /* filter divisor of zero */
-    tpxErrAlphaType = -50,         /* compositing operator not accepted */
-    tpxErrChannelIndex = -47,      /* channel code or index not accepted */
-    tpxErrStepTooSmall = -37,      /* a step smaller than the row it must hold */
-    tpxErrEpsilon = -36,           /* negative epsilon */
-    tpxErrAnchor = -34,            /* anchor outside the mask */
-    tpxErrMaskSize = -33,          /* mask size not accepted */
-    tpxErrResizeFactor = -23,      /* resize factor of a volume not positive */
-    tpxErrInterpolation = -22,     /* interpolation selector not accepted */
-    tpxErrMirrorAxis = -21,        /* mirror axis not accepted */
-    tpxErrMoment00Zero = -20,      /* the zeroth moment is nearly zero */
-    tpxErrThresholdBounds = -18,   /* upper threshold below lower threshold */
-    tpxErrContext = -17,           /* a plan or spec that was not made for the operation */
-    tpxErrFftFlag = -16,           /* FFT normalisation flag other than 1, 2, 4 or 8 */
-    tpxErrFftOrder = -15,          /* FFT order above 29 or negative */
-    tpxErrStep = -14,              /* a step below 1, or not accepted */
-    tpxErrScaleRange = -13,        /* span between maximum and minimum not positive */
-    tpxErrDataType = -12,          /* TpxDataType not accepted */
-    tpxErrOutOfRange = -11,        /* a value leaves its stated range */
-    tpxErrDivByZero = -10,         /* constant divisor of zero */
-    tpxErrMemAlloc = -9,           /* a work buffer could not be had */
-    tpxErrNullPointer = -8,        /* a required pointer is null */
-    tpxErrRange = -7,              /* bounds out of order */
-    tpxErrSize = -6,               /* width or height below 1, or sizes that do not fit together */
-    tpxErrBadArgument = -5,        /* a parameter outside its domain with no status of its own */
+/* clang-format off */
+#define TPX_STATUSES(status, last)                                                                       \
+    status(tpxErrUnsupportedMode, -9999, "a mode, or a mode and layout together, that is not offered")   \
+    status(tpxErrWarpTransform, -233, "transform selector of a quadrangle warp neither 0 nor 1")         \
+    status(tpxErrSizeTooLarge, -232, "a size leaves the range of 32 bits (31 for a few), or of a plan")  \
+    status(tpxErrWarpDirection, -231, "warp direction other than 0 or 1")                                \
+    status(tpxErrAlgorithm, -228, "algorithm selector not accepted")                                     \
+    status(tpxErrYuvSize, -227, "an odd value where YUV resize needs an even one")                       \
+    status(tpxErrBorder, -225, "border word not accepted")                                               \
+    status(tpxErrRoundMode, -213, "rounding mode not accepted")                                          \
+    status(tpxErrDecimation, -212, "decimation selector outside 0 to 4")                                 \
+    status(tpxErrWeight, -211, "centre weight below 1")                                                  \
+    status(tpxErrZeroDenominator, -210, "the denominator of a quality index is nearly zero")             \
+    status(tpxErrNoiseValue, -125, "noise level outside 0 up to, not including, 1")                      \
+    status(tpxErrStepNotMultiple, -108, "a step that is not a whole number of samples")                  \
+    status(tpxErrHistogramLevels, -107, "fewer than 2 histogram levels in a channel")                    \
+    status(tpxErrLutLevels, -106, "fewer than 2 lookup levels in a channel")                             \
+    status(tpxErrChannelOrder, -60, "channel order entry at or above the number of channels")            \
+    status(tpxErrQuad, -58, "quadrangle not well formed")                                                \
+    status(tpxErrRect, -57, "rectangle not accepted")                                                    \
+    status(tpxErrCoefficient, -56, "coefficients that describe no usable transform")                     \
+    status(tpxErrChannelCount, -53, "number of channels not accepted")                                   \
+    status(tpxErrDivisor, -51, "filter divisor of zero")                                                 \
+    status(tpxErrAlphaType, -50, "compositing operator not accepted")                                    \
+    status(tpxErrChannelIndex, -47, "channel code or index not accepted")                                \
+    status(tpxErrStepTooSmall, -37, "a step smaller than the row it must hold")                          \
+    status(tpxErrEpsilon, -36, "negative epsilon")                                                       \
+    status(tpxErrAnchor, -34, "anchor outside the mask")                                                 \
+    status(tpxErrMaskSize, -33, "mask size not accepted")                                                \
+    status(tpxErrResizeFactor, -23, "resize factor of a volume not positive")                            \
+    status(tpxErrInterpolation, -22, "interpolation selector not accepted")                              \
+    status(tpxErrMirrorAxis, -21, "mirror axis not accepted")                                            \
+    status(tpxErrMoment00Zero, -20, "the zeroth moment is nearly zero")                                  \
+    status(tpxErrThresholdBounds, -18, "upper threshold below lower threshold")                          \
+    status(tpxErrContext, -17, "a plan or spec that was not made for the operation")                     \
+    status(tpxErrFftFlag, -16, "FFT normalisation flag other than 1, 2, 4 or 8")                         \
+    status(tpxErrFftOrder, -15, "FFT order above 29 or negative")                                        \
+    status(tpxErrStep, -14, "a step below 1, or not accepted")                                           \
+    status(tpxErrScaleRange, -13, "span between maximum and minimum not positive")                       \
+    status(tpxErrDataType, -12, "TpxDataType not accepted")                                              \
+    status(tpxErrOutOfRange, -11, "a value leaves its stated range")                                     \
+    status(tpxErrDivByZero, -10, "constant divisor of zero")                                             \
+    status(tpxErrMemAlloc, -9, "a work buffer could not be had")                                         \
+    status(tpxErrNullPointer, -8, "a required pointer is null")                                          \
+    status(tpxErrRange, -7, "bounds out of order")                                                       \
+    status(tpxErrSize, -6, "width or height below 1, or sizes that do not fit together")                 \
+    status(tpxErrBadArgument, -5, "a parameter outside its domain with no status of its own")            \
+    status(tpxOk, 0, "success")                                                                          \
+    status(tpxWarnNoOperation, 1, "nothing was to be done: a size of exactly 0")                         \
+    status(tpxWarnSqrtNegArg, 3, "a negative sample went into a square root")                            \
+    status(tpxWarnDivByZero, 6, "a zero divisor, or a zero denominator of a relative norm")              \
+    status(tpxWarnLnZeroArg, 7, "a zero sample went into a logarithm")                                   \
+    status(tpxWarnLnNegArg, 8, "a negative sample went into a logarithm")                                \
+    status(tpxWarnNotParallelogram, 28, "the quadrangle is no parallelogram; coefficients are computed") \
+    status(tpxWarnNoRoiOverlap, 29, "the source region does not meet the source image")                  \
+    status(tpxWarnNoQuadOverlap, 30, "the mapped quadrangle does not meet the image")                    \
+    status(tpxWarnEvenWeight, 39, "an even centre weight was reduced by one")                            \
+    status(tpxWarnNoVolumeOverlap, 40, "a volume region does not meet the volume")                       \
+    status(tpxWarnNoAntialiasing, 46, "antialiasing was asked for where there is none, and was dropped") \
+    status(tpxWarnValueAdjusted, 48, "an input was adjusted and the work went on")                       \
+    last(tpxWarnExactIgnored, 52, "the exact flag was dropped for this data type")
+/* clang-format on */
 
-    tpxOk = 0,
-
-    tpxWarnNoOperation = 1,       /* nothing was to be done: a size of exactly 0 */
-    tpxWarnSqrtNegArg = 3,        /* a negative sample went into a square root */
-    tpxWarnDivByZero = 6,         /* a zero divisor, or a zero denominator of a relative norm */
-    tpxWarnLnZeroArg = 7,         /* a zero sample went into a logarithm */
-    tpxWarnLnNegArg = 8,          /* a negative sample went into a logarithm */
-    tpxWarnNotParallelogram = 28, /* the quadrangle is no parallelogram; coefficients are computed */
-    tpxWarnNoRoiOverlap = 29,     /* the source region does not meet the source image */
-    tpxWarnNoQuadOverlap = 30,    /* the mapped quadrangle does not meet the image */
-    tpxWarnEvenWeight = 39,       /* an even centre weight was reduced by one */
-    tpxWarnNoVolumeOverlap = 40,  /* a volume region does not meet the volume */
-    tpxWarnNoAntialiasing = 46,   /* antialiasing was asked for where there is none, and was dropped */
-    tpxWarnValueAdjusted = 48,    /* an input was adjusted and the work went on */
-    tpxWarnExactIgnored = 52      /* the exact flag was dropped for this data type */
-};
+#define TPX_STATUS(name, value, text) name = value,
+#define TPX_LAST_STATUS(name, value, text) name = value
+enum { TPX_STATUSES(TPX_STATUS, TPX_LAST_STATUS) };
+#undef TPX_STATUS
+#undef TPX_LAST_STATUS
 
 /* ---- Selectors --------------------------------------------------------------------------------------
  * Plain integers, so that a value outside the set can be passed and is answered with a status. */
