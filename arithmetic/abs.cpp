@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiAbs: absolute value.
 #include "arithmetic/unary.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiAdd: the sum of two images.
 #include "arithmetic/binary.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What the binary operations share: the rule of the scale factor, checks, the 64-bit forms, and the entries.
 //
 // An operation is a class with

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiExp: exponential.
 #include "arithmetic/unary.h"
 #include "frame/simd/math.h"

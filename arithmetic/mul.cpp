@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiMul: the product of two images.
 #include "arithmetic/binary.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiSqr: square.
 #include "arithmetic/unary.h"
 #include "frame/simd/rounding.h"

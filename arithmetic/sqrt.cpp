@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiSqrt: square root.
 #include "arithmetic/unary.h"
 #include "frame/simd/through_real.h"

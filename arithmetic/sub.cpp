@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiSub: the second image less the first.
 #include "arithmetic/binary.h"
 

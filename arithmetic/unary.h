@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What the unary operations share: checks, the images of a call, and the entries.
 //
 // An operation is a class with

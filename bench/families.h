@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Registers the jobs of each family of functions.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpx_bench: runs every race, prints the table, and writes it and a picture to files.
 #include "families.h"
 #include "geometry/yardsticks.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The races as a picture, drawn by gnuplot.
 #pragma once
 

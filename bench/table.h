@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The races as a table: aligned text for the terminal, Markdown for the documentation.
 #pragma once
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Writes the assembler file of exported stubs and their slots.
 #   cmake -DHEADERS="a.h;b.h" -DOUTPUT=entries.S -P EntryTable.cmake
 # The names are those of the prototypes marked TPX_API, in byte order. A stub is ten bytes: the address of

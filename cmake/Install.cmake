@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Libraries, headers, the CMake package and the pkg-config files. All paths written are relative to the files
 # that hold them, so an installed tree may be moved.
 include(CMakePackageConfigHelpers)

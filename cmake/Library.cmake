@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # libtpxie9: the sources of every folder, and the entry table generated from the public headers.
 file(GLOB_RECURSE TPX_SOURCES CONFIGURE_DEPENDS
      ${PROJECT_SOURCE_DIR}/frame/*.cpp

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # What every target of the project is compiled with: warnings, and the sanitizers when asked for.
 add_library(tpx_flags INTERFACE)
 target_compile_options(tpx_flags INTERFACE -Wall -Wextra -Wno-psabi)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The cache queries. A hypervisor traps cpuid, which costs tens of microseconds, and large fills ask at each
 // call: so the answer is kept.
 #include <cpuid.h>

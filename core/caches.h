@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The sizes of the processor's caches: as the processor tells them, and as the operating system does.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Memory on 64-byte boundaries.
 #include <errno.h>
 #include <stdlib.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Runs what the library offers on a photograph, and writes one labelled sheet of the results.
 //
 //   contact_sheet [-f|--force] [INPUT.png [OUTPUT.png]]

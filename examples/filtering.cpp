@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Neighbourhoods: smoothing, sharpening, edges, and specks removed.
 #include <random>
 #include <vector>

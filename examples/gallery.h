@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The sheet, and the table of what was run for it.
 #pragma once
 

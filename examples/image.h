@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Images of three interleaved channels in the library's memory, and views of their regions of interest.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Histograms, tables made from them, and figures of images.
 #include <array>
 #include <numeric>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Moving samples: planes, channels, bit images, borders.
 #include "gallery.h"
 

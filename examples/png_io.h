@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // PNG files in and out, as 8-bit RGB. Failures are thrown as std::runtime_error with the file's name.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Resize: planned once, done tile by tile on two threads.
 #include "gallery.h"
 #include "tiled_resize.h"

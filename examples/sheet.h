@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A contact sheet: titled sections of pictures with captions, in rows that fill from left to right.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Fourier transforms: the photograph's spectrum, and what is left of the photograph without a part of it.
 #include <complex>
 #include <vector>

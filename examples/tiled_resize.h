@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Resize of a three-channel 8-bit image with one plan, its tiles shared out over threads.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Tone curves: unary math on samples.
 #include "gallery.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Sums, differences and products of two images; thresholds.
 #include "gallery.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Warps: planned once from coefficients or quadrangles, for any number of images, or through maps of positions.
 #include "gallery.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The border model of the neighbourhood filters: which neighbours a region has, where missing ones come from,
 // and how the region is cut so that only its rim is copied.
 //

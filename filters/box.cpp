@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiFilterBoxBorder: the mean over a mask.
 //
 // Sums of columns slide down by one row, those of masks are made of them along the row.

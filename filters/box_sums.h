@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Sums of neighbouring samples at a cost that does not grow with their number: of columns, slid down row by
 // row, and along rows by doubling.
 #pragma once

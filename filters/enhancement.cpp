@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiFilterLaplaceBorder, tpxiFilterHipassBorder, tpxiFilterSharpenBorder: what differs from the surroundings,
 // and the image with that added.
 #include "filters/fixed_masks.h"

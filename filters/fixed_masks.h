@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What the filters with masks of their own share: the checks and the sizes of their work buffers.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiFilterBorder: correlation with a kernel that the caller gives.
 #include "filters/general.h"
 

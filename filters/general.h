@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The region kernels of the general filter, and the parts that those of integers and of floats share.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiFilterBorderGetSize, tpxiFilterBorderInit, tpxiFilterBorderSetMode: the block of the general filter.
 #include "filters/general_block.h"
 

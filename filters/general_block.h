@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The caller's block of the general filter: its record, the areas behind it, and the sizes of block and buffer.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Correlation with kernels of floats. Two rows of results share the loads of the rows between them. Each sum
 // runs over the taps in raster order, from the first product on, whatever its place in the image.
 #include "filters/general.h"

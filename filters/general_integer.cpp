@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Correlation with kernels of 16-bit integers. Two rows of results are worked on side by side: each pair of
 // source rows is interleaved, and one multiplication with addition of neighbours takes two taps of a column for
 // four or eight samples.

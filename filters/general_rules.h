@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What the general filter makes of its sums: which rule holds where, and the rules.
 //
 // Which one holds depends on the kernel, on the block's mode and on the width of the region that is worked on,

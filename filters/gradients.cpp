@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiFilterSobel*, tpxiFilterScharr*, tpxiFilterPrewitt*, tpxiFilterRoberts*: derivatives by fixed masks.
 #include "filters/fixed_masks.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Neighbourhood filters in place: the result overwrites its own source.
 //
 // The region is worked on in bands of rows. A band's source rows, extended to all sides by the border copies,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiFilterMedianBorder: medians of any odd mask, over a border and in place.
 #include "filters/in_place.h"
 #include "filters/median_choice.h"

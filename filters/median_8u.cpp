@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The median kernels of 8u.
 #include "filters/median_of_mask.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The region kernel that serves a mask best.
 //
 // Kernels are many and large, so those of a type are compiled in a file of its own (median_<type>.cpp), and

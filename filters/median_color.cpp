@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiFilterMedianColor: of the colours under a mask the one that is nearest to all others.
 #include "filters/fixed_masks.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Region kernels of medians by counting samples, for masks of integers that are too large for networks.
 //
 // ColumnMedian: 8-bit samples under masks that are not too large, at a cost that does not depend on the mask.

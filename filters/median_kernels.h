@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Region kernels of medians (filters/border_model.h tells what a region is): the median of each channel under a
 // mask.
 //

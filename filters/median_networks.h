@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Compare-exchange networks on registers of samples of any type: sorting a few, and the middle one of many.
 //
 // Networks are written whole; the compiler drops the comparisons whose results nobody takes.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Which region kernel serves a mask best; included by the files that compile the kernels of a type.
 #pragma once
 

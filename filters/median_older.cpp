@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiFilterMedian, tpxiFilterMedianCross, tpxiFilterMedianWeightedCenter3x3: medians without a border, whose
 // surroundings are read from memory.
 #include "filters/fixed_masks.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A region kernel of medians for masks that are too large for written networks, of any type of samples.
 //
 // The masks of a square of 4 or 16 results share most of their samples: that core is sorted once. Then the

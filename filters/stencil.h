@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Correlations with small masks that are known when the library is compiled.
 //
 // Sums of integers are exact: pairs of taps

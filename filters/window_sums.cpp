@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiSumWindowRow, tpxiSumWindowColumn: sums along one direction; tpxiFilterBox_64f: the mean over a mask
 // whose neighbours are all in memory.
 #include "filters/box_sums.h"

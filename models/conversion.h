@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Conversions of one sample, exactly, with any factor and in every rounding mode.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Neighbourhood filters in their plain form: a loop over the mask for each sample.
 #pragma once
 

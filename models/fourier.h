@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Fourier transforms in extended precision: by the sum that defines them, and faster for long sequences.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The rules of the library in their plain scalar form: loops over samples, compiled without vectorisation.
 // Tests compare with them; benchmarks tell how many times faster the library is.
 #pragma once

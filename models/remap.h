@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Remap, one destination sample at a time.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Nearest and linear resize of one destination pixel at a time, in plain integers and floats.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Super-sampling resize: the mean of what a destination pixel covers, in plain floats.
 #pragma once
 

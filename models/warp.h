@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Warps of one destination sample at a time, in double precision.
 #pragma once
 

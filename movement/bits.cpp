@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiBinToGray, tpxiGrayToBin: images of one bit a pixel, least significant bit first.
 #include "frame/entry/entry.h"
 #include "frame/images/walk.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiCopy*Border: an image copied into a larger one, or lying in it already, and the margin around it filled.
 //
 // The rows of the image are built whole, margins included; the rows above and below are copies of them. Samples

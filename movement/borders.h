@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The border copies for those who have checked their arguments: the filters' copies of their rims.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiCopy between pixels and single channels or planes, tpxiSet of one channel, tpxiDup.
 #include "frame/entry/entry.h"
 #include "frame/images/pixels.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiConvert without a mode or a factor: to wider types, to narrower integers, of signed to unsigned ones.
 #include "movement/convert.h"
 #include "frame/simd/control.h"

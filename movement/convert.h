@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What the conversions share: checks, the walk of rows, and operations on several registers of samples.
 //
 // A conversion is a rule: rule(p) makes a register of destination samples from as many source samples at p.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiConvert of floating point to integers, with a rounding mode and a scale factor.
 #include "movement/convert_round.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Rounding through floating point, with a mode and a factor.
 //
 // The direction is installed in the control register for the call. Ties away from zero are a half added to the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiConvert of integers with a scale factor.
 #include "movement/convert_round.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiCopy: pixels from one image to another, as bits.
 #include "frame/entry/entry.h"
 #include "frame/runs/memory_runs.h"

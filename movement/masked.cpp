@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiCopy and tpxiSet under a mask: only pixels whose mask byte is not zero are changed.
 #include "frame/entry/entry.h"
 #include "frame/images/pixels.h"

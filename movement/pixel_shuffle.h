@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Pixels to pixels with their channels chosen anew: the one kernel of channel orders and of dropping or adding
 // a channel. Blocks are shuffled by controls that are made from the order once a call.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiSet: a region filled with one pixel value.
 #include "frame/entry/entry.h"
 #include "frame/images/walk.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiSwapChannels: the channels of every pixel in another order.
 #include "frame/entry/entry.h"
 #include "movement/pixel_shuffle.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Reductions: an accumulator takes the samples of an image, a few registers a step, and ends in a value for
 // each channel.
 //

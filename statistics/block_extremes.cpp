@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiBlockMinMax: the smallest and the largest sample of every block of an image.
 //
 // Rows of a band of blocks are folded into one row of running extremes, in pieces that stay in the first-level

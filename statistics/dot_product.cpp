@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Sums of the products of two images' samples.
 #include "frame/entry/entry.h"
 #include "statistics/lanes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiMinEvery, tpxiMaxEvery: the smaller or the larger sample of two images.
 #include "frame/entry/entry.h"
 #include "frame/images/pointwise.h"

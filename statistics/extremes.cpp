@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The smallest and the largest sample of each channel, and where the first of them lies.
 #include "statistics/extremes.h"
 

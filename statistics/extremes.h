@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The smallest and the largest samples of an image's channels.
 #pragma once
 

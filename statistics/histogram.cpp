@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiHistogram: samples counted between levels.
 //
 // 8-bit samples, and 16-bit samples of images that are not small, are counted in a table with an entry for each

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Ways to count samples: in a table with an entry for every value, whose sections are the bins; or by ranks
 // among levels, in blocks of one channel.
 #pragma once

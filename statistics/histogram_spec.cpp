@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiHistogramGetBufferSize, tpxiHistogramInit, tpxiHistogramUniformInit, tpxiHistogramGetLevels: the spec.
 #include "statistics/histogram_spec.h"
 

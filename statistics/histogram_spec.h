@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What a histogram spec holds, and where it lies in the caller's memory.
 #pragma once
 

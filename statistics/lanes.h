@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Sums as lanes of an accumulator: of samples, of products, of squares, and of what a term makes of samples.
 #pragma once
 

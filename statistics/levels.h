@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Between which levels a sample lies.
 //
 // The rank of a sample among levels is how many of them are not above it, so that rank k + 1 means

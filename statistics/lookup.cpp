@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiLUT: samples through functions of levels, from the tables of a spec or by searches in its levels.
 #include "frame/entry/entry.h"
 #include "frame/images/pixels.h"

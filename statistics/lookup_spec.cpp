@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiLUT_GetSize, tpxiLUT_Init: tables and polynomials between levels.
 #include "statistics/lookup_spec.h"
 

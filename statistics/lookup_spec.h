@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What a lookup spec holds, and the identity code that tells its type, layout and interpolation.
 #pragma once
 

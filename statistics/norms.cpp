@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Norms of an image, of the difference of two, and of the difference relative to the second.
 #include "frame/entry/entry.h"
 #include "frame/runs/routines.h"

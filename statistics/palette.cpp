@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiLUTPalette: samples replaced by the entries of the caller's tables.
 #include "frame/entry/entry.h"
 #include "frame/images/pointwise.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Sums and means of channels.
 #include "frame/entry/entry.h"
 #include "statistics/lanes.h"

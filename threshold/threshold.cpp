@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiThreshold: samples clamped or replaced against thresholds.
 #include "frame/entry/entry.h"
 #include "frame/images/pointwise.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Short transforms of registers: what a pass does with as many elements as its radix.
 //
 // X[k] = sum of x[n] exp(-2 pi i n k / R), in place.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Transforms of complex images: rows, then columns, eight at a time.
 #include "frame/entry/entry.h"
 #include "transforms/plan.h"

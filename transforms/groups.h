@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Rows and columns of images as groups and long lines (transforms/line.h), and back.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The one-dimensional transform, of eight sequences at a time.
 //
 // A *group* is eight sequences of complex numbers in the lanes of registers: an element of all of them is 16

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Sizes and making of plans.
 #include "transforms/plan.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Plans of two-dimensional transforms: the records in callers' blocks, and the checks of processing calls.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Transforms of real images to packed spectra and back.
 //
 // Forward, columns come first. Sixteen neighbouring columns of a channel are eight complex sequences, column x

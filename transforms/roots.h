@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Roots of unity, computed in double precision.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "../families.h"
 #include "../frame/pointwise.h"
 #include "models/models.h"

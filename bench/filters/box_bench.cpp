@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Box filters.
 #include "../families.h"
 #include "filter_race.h"

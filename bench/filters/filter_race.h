@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Races of neighbourhood filters: one line registers a function at its sizes, beside a copy of the
 // destination's bytes and the plain form of its rule.
 #pragma once

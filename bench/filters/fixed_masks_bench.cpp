@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Derivatives, Laplacians and sharpening.
 #include <cmath>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The general filter: kernels of integers with small and with large coefficients, and kernels of floats.
 #include "../families.h"
 #include "filter_race.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Medians: networks of 3x3 to 9x9, and counting beyond.
 #include "../families.h"
 #include "filter_race.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // An image for a race: allocated by the library, filled before anybody is timed.
 #pragma once
 

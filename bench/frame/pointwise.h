@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Races of functions that go from sample to sample: one line registers a function at every size.
 #pragma once
 

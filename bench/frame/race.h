@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A race: one function of the library and its yardsticks on the same images, timed in turns.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A plain read of an image: the yardstick of functions that write little.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The same resizes by public libraries, on images of their own. Each is called from one thread with a plan
 // made beforehand, where it has plans.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Channels between pixels and planes, in another order, one of them, under a mask. The copy beside them moves
 // the larger of the two images.
 #include "../families.h"

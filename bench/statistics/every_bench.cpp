@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Extremes of two images, and of blocks of one.
 #include "../families.h"
 #include "../frame/pointwise.h"

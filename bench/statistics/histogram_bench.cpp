@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Histograms of noise and of images of one value, which every sample counts in the same place.
 #include "../families.h"
 #include "../frame/pointwise.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Lookup tables and palettes.
 #include "../families.h"
 #include "../frame/pointwise.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Functions that read images and leave a value per channel. Beside them stands a plain read of the same memory.
 #include "../families.h"
 #include "../frame/pointwise.h"

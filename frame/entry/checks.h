@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Layouts, and the checks that all families share.
 #pragma once
 

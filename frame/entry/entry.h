@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // How an implementation is opened. The public header is the only list of the exports: a stub jumps through
 // the slot of its name to the e9_ function that TPX_ENTRY defines.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The version record, and the hooks that the loader calls.
 #include "frame/entry/entry.h"
 

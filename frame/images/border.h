@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What lies around an image: how a border word reads, and where a coordinate beyond an edge takes its pixel
 // from. The border copies, the strips of resizes, the filters and the warps share it.
 #pragma once

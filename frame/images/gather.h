@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Pixels at positions: which of them an interpolation reads, and the loads that fetch them for a register of
 // positions. Resizes, warps, remaps and tables of segments share it.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Rows with margins of any width: what a border copy writes, and what a filter or the edge strip of a resize
 // reads around a row.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Loops over runs of pixels whose samples change places: between layouts, channels and planes.
 //
 // A run is worked on in blocks of as many pixels as a register holds samples, so that a block of any layout is

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Pointwise work on whole images: dst = rule(src...), sample by sample, from one image or two.
 #pragma once
 

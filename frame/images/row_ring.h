@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The newest rows of something that is computed row by row: filtered, widened or resized rows that several
 // results read.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A region of an image as the kernels see it: the first pixel's address, and how far its rows are apart.
 #pragma once
 

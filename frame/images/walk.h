@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The walk of rows: the only loop over the rows of a region.
 //
 // What is walked is an ImageView, or a side of pixels (frame/images/pixels.h): row(y) gives what the row's work

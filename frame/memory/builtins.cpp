@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The memory functions that compilers call on their own. The library has no C library to take them from; a
 // build that is linked with one (sanitizers, tests) leaves them out.
 #include "frame/runs/memory_runs.h"

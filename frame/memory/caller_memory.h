@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Blocks that callers own: plans, specs and work buffers.
 //
 // A block lies at any address. What a call keeps in it is one function that takes its tables one behind the

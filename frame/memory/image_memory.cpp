@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Image memory: rows on 64-byte boundaries.
 #include "frame/entry/entry.h"
 #include "tpxcore.h"

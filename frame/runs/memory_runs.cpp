@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Copy, set and zero: the vector kernels, the string instructions, and the switches between them.
 //
 // The library's own memcpy, memmove and memset stand on the kernels, so none of these may be compiled into a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Moving and filling rows of bytes: the kernels under the run routines, the image copies and the image fills.
 // Lengths are in bytes, from 0, and may exceed 32 bits; addresses need no alignment.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Loops that reverse a run of samples.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The run routines (tpxs*): checked work on one contiguous run, called inside the library and not exported.
 //
 // Common contract: each required pointer null gives tpxErrNullPointer, then a length below 1 tpxErrSize;

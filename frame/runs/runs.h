@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Loops over one run of contiguous samples: the bulk, its ends, and runs shorter than a register.
 //
 // A rule sees nothing but whole registers, at every length. The first and the last register of a run may

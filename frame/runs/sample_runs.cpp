@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Runs of samples: reversal, a constant factor, slopes, and the larger or smaller of two runs.
 #include <limits>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Scalar functions of double precision, in place of a system's math library.
 //
 // Errors, in units in the last place, measured against a library of 64-bit significands under rounding to

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Sorting a run of floats: in place by comparison, and by the bits of the samples with a work buffer.
 #include "frame/entry/checks.h"
 #include "frame/runs/routines.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Non-temporal stores: when they pay, and streams of them. They pay where a result is larger than the
 // largest cache; one that fits would soon be wanted again. The decision is taken once a call.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Samples replaced by the entries of tables.
 #pragma once
 

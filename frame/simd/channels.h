@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Pixels of three or four samples: their alpha, and registers of one channel each.
 #pragma once
 

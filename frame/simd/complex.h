@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // SIMD operations on complex numbers, for the Fourier transforms.
 //
 // They come in two forms. Split: a register of real parts and one of imaginary parts. Interleaved: re, im, re,

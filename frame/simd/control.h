@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The calling thread's floating-point control register, for work whose results must not depend on what the
 // caller has set there.
 #pragma once

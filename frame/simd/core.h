@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Registers of samples, and the SIMD operations on any of them: loads and stores, constants, choosing.
 //
 // Vec<T> is a register of samples of type T. Operators, comparisons and ?: work on it lane by lane, so a rule

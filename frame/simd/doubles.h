@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Four doubles, and four floats beside them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Loads of what does not fill a register or does not lie together: four samples, and registers put together
 // from pieces. No sample is read but those that are asked for. Pixels at positions are in
 // frame/images/gather.h.

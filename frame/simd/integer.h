@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // SIMD operations on integers: saturating and rounded arithmetic, products, and lanes of twice or half the
 // width.
 #pragma once

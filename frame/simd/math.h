@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Logarithm and exponential of registers of samples, single and double precision from one text.
 //
 // Both follow the classic scheme (W. J. Cody, W. Waite, Software Manual for the Elementary Functions, 1980;

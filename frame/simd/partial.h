@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Loads and stores of some lanes of a register of floats: those where the mask's top bit is set. What the
 // others stand for is neither read nor written.
 #pragma once

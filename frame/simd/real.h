@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // SIMD operations on floating point, to and from it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Rounding and saturation, each rule once: shifts to the right that round, shifts to the left that saturate,
 // floating point to integer samples.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // SIMD operations that move lanes: within a register, between two, by masks of bits and through small tables.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The SIMD operations: what the operators of the language lack on registers of samples. They, and a kernel that
 // lives on one particular shuffle, are the only places that name an instruction.
 #pragma once

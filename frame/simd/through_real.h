@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Integer samples through floating point: widened, given to a rule on real registers, rounded to nearest with
 // ties to even whatever the control register says, and saturated.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Making plans: the checks of the initialisers, and the kinds' records and tables.
 #include "frame/entry/entry.h"
 #include "frame/simd/control.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Linear resize. Each source row is passed horizontally once into one of two row buffers, and destination rows
 // are blends of the two. Positions whose taps reach outside the source lie in strips along the tile's sides and
 // need one blend alone.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The horizontal pass of linear resize for 8 bits: a source row becomes a row of 6 fraction bits.
 #pragma once
 

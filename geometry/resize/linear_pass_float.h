@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The horizontal pass of linear resize in floating point: of 16 bits and single precision, and of double.
 #pragma once
 

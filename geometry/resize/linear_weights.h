@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Linear resize: what its two passes work in, and the weights that they find in a plan.
 #pragma once
 

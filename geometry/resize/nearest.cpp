@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Nearest resize: a gather of whole pixels.
 #include "frame/entry/entry.h"
 #include "geometry/resize/pixel_gather.h"

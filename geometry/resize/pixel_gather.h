@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Gathers of whole pixels at the positions of a plan, of which only the size in bytes matters: nearest resizes,
 // and others whose weights come to the same.
 #pragma once

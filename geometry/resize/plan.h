@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The plan of a resize: the record behind TpxiResizeSpec, where it and its tables lie, and what its queries,
 // its initialisers and the processing calls share.
 #pragma once

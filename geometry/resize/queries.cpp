@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What a caller asks about resizes: the sizes of plans, of initialisation and of work buffers, and which part
 // of the source a tile needs.
 #include "frame/entry/entry.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Super-sampling: the mean of the source pixels that a destination pixel covers, in parts where it covers
 // parts.
 #include "frame/entry/entry.h"

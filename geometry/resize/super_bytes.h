@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Super-sampling of bytes in integers.
 //
 // Where positions of either axis repeat after 1, 2, 4 or 8, all weights are whole eighths. Counted in the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Super-sampling in single precision.
 //
 // The order of summation: each source row is weighted and summed along x from the left, then the sums of its

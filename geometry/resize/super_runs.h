@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The runs of source positions that super-sampling averages.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Super-sampling in single precision, for every type and ratio, of source rows that are turned: a register
 // holds one sample of each of eight, so a pixel costs a load and a sum whatever the positions are, and nothing
 // but the first and the last of a run is multiplied. The order of summation is that of super_rows.h.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Cubic, Lanczos and antialiasing resize: weighted taps along x and along y.
 //
 // The tile is taken in bands of columns. Within a band source rows are passed along x once, eight at a time,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The two passes of a resize by weighted taps, in single precision. A result is the sum of products of weights
 // and samples in the order of the taps, each product and each sum rounded, along x and then along y; no pass
 // rounds otherwise.

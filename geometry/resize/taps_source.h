@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Source rows of a resize by weighted taps: several of them at a time in single precision, turned so that a
 // register holds one sample of each of eight. Beyond sides where the image ends its edge pixels are repeated.
 #pragma once

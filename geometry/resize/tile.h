@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What every kind of resize does before its kernels run: the checks in their order, the tile cut to the plan,
 // its place in the source, and the split of its borders.
 #pragma once

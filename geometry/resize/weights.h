@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What the initialisers write into a plan's tables: positions, fractions, and the kernels' weights.
 //
 // Positions are the plain double expressions below. They must not be rewritten in exact integers: callers rely

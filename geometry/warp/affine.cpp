@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Affine warps: tiles of a plan by the engine, or, moved by whole pixels, by copies.
 #include "frame/entry/entry.h"
 #include "geometry/warp/processing.h"

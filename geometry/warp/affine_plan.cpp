@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Plans of affine warps: their sizes and their initialisers, and the queries that plans of all warps share.
 #include "frame/entry/entry.h"
 #include "geometry/warp/planning.h"

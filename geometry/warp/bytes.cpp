@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Linear and cubic of bytes in integers, with weights of 14 bits: what is rounded, and where, is contract.
 //
 // Four lanes are worked on at a time: four pixels of one channel, or the channels of one pixel. Neighbouring

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Sources of coordinates: where the pixels of a destination row lie in the source image.
 //
 // A source is asked for a row: row(y) holds what does not change along it, and row.at(x) gives the position of

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Interpolation: from sites to samples. One kernel each of nearest, linear and cubic for every type and number
 // of channels, whatever the coordinates came from.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "frame/simd/math.h"
 #include "geometry/warp/weighted.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Linear: along the column of either tap pair, then along the row.
 #include "geometry/warp/results.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Nearest: whole pixels are moved, so only their size matters.
 #include "geometry/warp/results.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Pixels whose taps lie in part outside the image. Their taps are copied together, outside ones by the border's
 // rule, into a small image of patches, which the interpolation's own kernel works on.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Perspective warps: tiles of a plan by the engine. Plans of affine maps run as those of affine warps do.
 #include "frame/entry/entry.h"
 #include "geometry/warp/processing.h"

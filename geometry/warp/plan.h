@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The plan of a warp: the record behind TpxiWarpSpec, where it and its tables lie, and what sizes, initialisers
 // and processing calls share.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // How plans of every warp are made: what a map and its border come to, the layout of a plan's block, which
 // sizes and initialisers share, and the filling of record and tables.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What every processing call of a warp does: the checks in their order, the tile cut to its plan, and the spans
 // that the border makes of the plan's tables.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Plans of warps between quadrangles: their sizes and their initialisers.
 #include "frame/entry/entry.h"
 #include "geometry/warp/planning.h"

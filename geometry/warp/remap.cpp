@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Remap: positions come from the caller's maps. Pixels whose position lies in the rectangle are the kernels', a
 // stretch of a row at a time; all others stay, or are blended at smooth edges.
 #include "tpxi/remap.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // From registers of interpolated samples to the destination: rounded with the thread's mode, saturated, and
 // stored to the sample.
 #pragma once

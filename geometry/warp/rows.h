@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The rows of a rectangle that a quadrangle meets.
 #pragma once
 

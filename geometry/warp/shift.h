@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Images moved by whole pixels: rows are copied.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Sites: a stretch of positions made ready for the kernels. Of each position there is the place of its first
 // tap in memory, and its fractions.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Spans of a row, and where along a row positions lie in a range.
 #pragma once
 

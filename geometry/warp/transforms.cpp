@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What maps make of rectangles, the maps between rectangles and quadrangles, rotations, and the part of a
 // source that a tile needs.
 #include "geometry/warp/transforms.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Maps of the plane, what they make of rectangles, and the maps that take a rectangle to a given quadrangle.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The engine of warps: a tile of the destination from a source of coordinates, an interpolation, and what is to
 // become of the pixels outside.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Interpolation by weighted taps, four or six along either axis: down each column, then along the row. Only the
 // weights tell the kinds apart.
 #pragma once

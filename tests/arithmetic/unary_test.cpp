@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiAbs, tpxiSqr, tpxiSqrt, tpxiLn, tpxiExp through their exported names.
 #include <gtest/gtest.h>
 

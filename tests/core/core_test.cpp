@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // libtpxcore: memory, and the sizes of caches.
 #include <errno.h>
 #include <gtest/gtest.h>

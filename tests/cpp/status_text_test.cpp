@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The values of the statuses are part of the boundary, and every one has its name and its text.
 #include <tpxi/status_text.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Tiles of a resize must join without a seam, whatever the sizes, and a region of interest must be read with
 // the pixels around it.
 #include "examples/tiled_resize.h"

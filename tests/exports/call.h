@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Calls an export that works on a region: its images are given, all else is made up from the parameters' names.
 #pragma once
 

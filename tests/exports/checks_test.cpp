@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The order of checks of the families that share one: pointers, the region's size, steps, where bits begin.
 #include "tests/support/checks.h"
 #include "tests/exports/images.h"

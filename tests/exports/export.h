@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The exports as data: what the public headers say of each, and one way of calling them all.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Sums, extremes, norms and the like do not depend on how the images lie in memory.
 #include "tests/exports/images.h"
 

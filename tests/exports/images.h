@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Memory for the images of any export: content that does not depend on how an image lies, and the ways of
 // lying.
 #pragma once

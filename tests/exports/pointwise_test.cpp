@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Every form of a pointwise operation gives what its plainest form gives of every sample alone: in all layouts,
 // in place, with 64-bit sizes, under every mask, however the images lie.
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Results that go past the caches are those that stay in them: images just beyond the floors below which
 // nothing is streamed, in one run and in rows that begin at every place of a line.
 #include <algorithm>

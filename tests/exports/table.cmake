@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Writes the exports with their parameters, one a line: EXPORT(name, "const Tpx8u* pSrc, int srcStep, ...").
 #   cmake -DHEADERS="a.h;b.h" -DOUTPUT=exports.inc -P table.cmake
 set(lines)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Box filters: means of masks at every border, in place and not, within a buffer of just the size that is told.
 #include <cmath>
 #include <limits>

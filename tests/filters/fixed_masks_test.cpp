@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Filters with masks of their own: every mask as its rows of weights, over all borders; sizes, statuses,
 // rounding.
 #include <cmath>

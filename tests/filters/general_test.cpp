@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The general filter beside a model of its rule tables: every mode, divisor class, offset and shape, in regions
 // narrower and wider than where rules change, strips at the borders included.
 #include <xmmintrin.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Medians: every layout and type beside sorted windows, over all borders, in place, in buffers of just the size
 // that is told; the older forms; vector medians beside all sums of distances.
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Tiles that know their neighbours give what one call gives: a family of each kind, its border on the outside.
 // (Medians have their own test, for what their tiles share.)
 #include <gtest/gtest.h>

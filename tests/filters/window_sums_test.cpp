@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Sums along rows and columns, and the mean of 64f: all that the mask covers is memory, and nothing else is.
 #include "tests/support/checks.h"
 #include "tests/support/guarded.h"

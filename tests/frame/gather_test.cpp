@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Footprints of interpolations, and loads of neighbouring pixels at positions.
 #include "frame/images/gather.h"
 

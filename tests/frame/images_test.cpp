@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Views, walks, border words, rings of rows and callers' blocks: what everything that reads neighbours stands
 // on.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Logarithm and exponential of registers: the bounds that frame/simd/math.h states, range ends and special
 // values.
 #include "frame/simd/math.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Image memory. The companion's allocator is replaced here: what the library asks of it is recorded, and
 // while these tests run, requests too large for them are refused.
 #include <dlfcn.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Rows with margins of any width, against the rule of each coordinate.
 #include "frame/images/padded_row.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Rounded and saturating shifts, and floating point to samples, against plain arithmetic.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The run routines on memory, and on samples: every length and misalignment, nothing outside the run touched.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The scalar functions: the bounds that frame/runs/scalar_math.cpp states, special values, the control
 // register.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Complex numbers in both forms, against the four products and two sums written out.
 #include <gtest/gtest.h>
 

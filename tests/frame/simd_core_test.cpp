@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Loads, stores, constants and choosing: every lane, every misalignment.
 #include <gtest/gtest.h>
 

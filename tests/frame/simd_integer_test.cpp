@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Integer operations against plain arithmetic.
 #include <gtest/gtest.h>
 

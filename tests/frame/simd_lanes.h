@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Registers that take in many samples, for tests of SIMD operations lane by lane: all 8-bit samples in pairs,
 // all 16-bit samples against edge values, floats that are special or tie.
 #pragma once

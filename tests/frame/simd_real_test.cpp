@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Conversions to and from floating point, rounding, roots and sums.
 #include <gtest/gtest.h>
 

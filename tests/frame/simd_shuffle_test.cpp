@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Moves of lanes, pixels and channels, masks of bits, small tables, gathered pieces.
 #include <gtest/gtest.h>
 

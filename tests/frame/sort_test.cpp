@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Sorting runs: order, permutation of the input, inputs that are hard on a partition, and NaN.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Remap: every type, layout and interpolation against a model of one sample; maps of any bits; edges.
 #include <cfenv>
 #include <cmath>

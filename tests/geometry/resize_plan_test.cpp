@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Sizing, initialising and querying resize plans through the exported names, and the weights in their tables.
 #include <gtest/gtest.h>
 #include <xmmintrin.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiResizeSuper through its exported names.
 #include <gtest/gtest.h>
 

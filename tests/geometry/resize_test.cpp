@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiResizeNearest and tpxiResizeLinear through their exported names.
 #include <gtest/gtest.h>
 

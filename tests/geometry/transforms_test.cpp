@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Maps of the plane through the exported names: quadrangles, bounds, maps onto quadrangles, rotations, and the
 // source rectangle of a tile.
 #include <gtest/gtest.h>

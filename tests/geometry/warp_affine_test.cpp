@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Affine warps through their exported names.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # What the built library shows to the outside: its exports, what it leaves undefined, the form of its stubs,
 # its load hooks, and the instructions that it uses.
 #   cmake -DLIBRARY=libtpxie9.so -DENTRIES=entries.S -P boundary.cmake

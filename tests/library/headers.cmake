@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Every public header stands by itself and is clean, in every standard it is written for.
 #   cmake -DINCLUDE=dir -DCC=cc -DCXX=c++ -P headers.cmake
 function(expectClean language compiler standards)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # The program in the README compiles as strict C99, links, and prints what its comment says.
 #   cmake -DREADME=README.md -DINCLUDE=dir -DLIBRARY=libtpxie9.so -DCORE=libtpxcore.so -DCC=cc -DDIR=dir -P readme.cmake
 file(READ ${README} text)

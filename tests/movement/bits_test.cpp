@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiBinToGray, tpxiGrayToBin.
 #include <gtest/gtest.h>
 #include <immintrin.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiCopy*Border through their exported names, and the rule of the borders.
 #include "frame/images/border.h"
 

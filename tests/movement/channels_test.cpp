@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Single channels, planes, duplicates; the copies with 64-bit sizes and with flags.
 #include <gtest/gtest.h>
 #include <sys/mman.h>

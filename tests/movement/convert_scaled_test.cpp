@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiConvert with rounding modes and scale factors: every sample of up to 16 bits, and telling ones of the
 // wider types, over all factors that matter.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiConvert: layouts, steps, checks, and the caller's floating-point control.
 #include <gtest/gtest.h>
 #include <immintrin.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Copy and set under a mask.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiSwapChannels: every order, every shape, and the three orders of checks.
 #include <gtest/gtest.h>
 

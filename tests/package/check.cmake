@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Installs the build, moves the installed tree, and builds and runs the consumer's programs against it: with
 # find_package, then with the compiler and pkg-config alone.
 file(REMOVE_RECURSE ${WORK_DIR})

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiBlockMinMax through its exported names.
 #include <gtest/gtest.h>
 

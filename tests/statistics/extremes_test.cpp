@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiMin, tpxiMax, tpxiMinMax, tpxiMinIndx and tpxiMaxIndx through the exported names.
 #include <gtest/gtest.h>
 

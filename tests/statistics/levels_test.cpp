@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Ranks among levels: every way gives what the definition says.
 #include "statistics/levels.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiNorm, tpxiNormDiff and tpxiNormRel through the exported names.
 #include <gtest/gtest.h>
 

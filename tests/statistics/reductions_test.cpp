@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // tpxiSum, tpxiMean and tpxiDotProd through the exported names.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The companion's cache queries, which every test program answers in its place.
 #pragma once
 

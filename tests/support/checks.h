@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The order of checks as data: the arguments of a call that succeeds, and the faults in the order in which
 // the call finds them.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The conversions as data: every exported name with what it should make of a sample.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Neighbourhood filters, read plainly: a source whose pixels beyond the region come from memory or from the
 // border rule, and the sweep of borders, sides in memory, shapes and guard pages that every filter has to
 // stand.

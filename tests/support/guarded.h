@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Memory and images that catch every byte read or written outside what a call was handed.
 #pragma once
 

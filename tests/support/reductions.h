@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What the tests of reductions share: images as calls are told of them, and the faults of calls.
 #pragma once
 

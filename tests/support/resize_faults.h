@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The arguments of a resize's processing calls, and what is wrong with them in the order of the checks.
 #pragma once
 

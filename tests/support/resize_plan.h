@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A plan in guarded memory, as a caller would make one.
 #pragma once
 

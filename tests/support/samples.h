@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Samples of every type as bits, for operations that only move them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // How far a result is from the exact value, in units in the last place of the result's type.
 #pragma once
 

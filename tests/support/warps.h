@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What tests of warps share: a request, its plan between unreadable pages, sources that hold just what may be
 // read, and the comparison with the model.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Fourier transforms of images against models in extended precision.
 #include <cmath>
 #include <numeric>

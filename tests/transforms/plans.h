@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Plans of transforms in guarded memory, as callers make them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 /* A user's program in strict C99: an image is allocated, filled within a region and rooted in place. */
 #include <stdio.h>
 #include <string.h>
