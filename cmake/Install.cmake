@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: Apache-2.0
-# Libraries, headers, the CMake package and the pkg-config files. All paths written are relative to the files
-# that hold them, so an installed tree may be moved.
+# Libraries, headers, the CMake package, the pkg-config files and the Python package. All paths written are relative
+# to the files that hold them, so an installed tree may be moved.
 include(CMakePackageConfigHelpers)
 
 set(TPX_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/tpxi)
@@ -12,6 +12,10 @@ set_target_properties(tpxie9 PROPERTIES INSTALL_RPATH "$ORIGIN")
 install(TARGETS tpxie9 tpxcore EXPORT tpxiTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(FILES include/tpxi.h include/tpxcore.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(DIRECTORY include/tpxi DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+
+# Python looks for it there under /usr; elsewhere PYTHONPATH names the folder.
+install(DIRECTORY python/tpxi DESTINATION lib/python3/dist-packages COMPONENT python FILES_MATCHING PATTERN "*.py"
+        PATTERN "__pycache__" EXCLUDE)
 
 install(EXPORT tpxiTargets NAMESPACE tpxi:: DESTINATION ${TPX_PACKAGE_DIR})
 configure_package_config_file(cmake/tpxiConfig.cmake.in ${PROJECT_BINARY_DIR}/generated/tpxiConfig.cmake

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: Apache-2.0
 # Installs the build, moves the installed tree, and builds and runs the consumer's programs against it: with
-# find_package, then with the compiler and pkg-config alone.
+# find_package, then with the compiler and pkg-config alone; then as a Python package.
 file(REMOVE_RECURSE ${WORK_DIR})
 file(MAKE_DIRECTORY ${WORK_DIR})
 unset(ENV{LD_LIBRARY_PATH})
@@ -36,3 +36,10 @@ foreach(pair IN ITEMS main/tpxie9 core/tpxcore)
         -Wl,-rpath,${prefix}/${LIBDIR} -o ${WORK_DIR}/${program})
     run(${WORK_DIR}/${program})
 endforeach()
+
+# The Python package finds the headers and the library that were installed with it.
+if(PYTHON)
+    run(${CMAKE_COMMAND} -E env --unset=TPXI_INCLUDE --unset=TPXI_LIBRARY PYTHONDONTWRITEBYTECODE=1
+        PYTHONPATH=${prefix}/lib/python3/dist-packages ${PYTHON} -c
+        "import tpxi.library as t; assert str(t.path).startswith('${prefix}/'), t.path; assert str(t.include) == '${prefix}/include', t.include")
+endif()
