@@ -37,8 +37,10 @@ class Prototype:
 
     @property
     def signature(self) -> str:
-        """The type of a pointer to the function."""
-        return f"{self.result}(*)({', '.join(p.type for p in self.parameters) or 'void'})"
+        """The type of a pointer to the function, as short as calls need it, so that many functions share one."""
+        types = (re.sub(r"\[\d*\]$", "*", re.sub(r" *\bconst\b *", "", p.type)) if "][" not in p.type else p.type
+                 for p in self.parameters)
+        return f"{self.result}(*)({', '.join(types) or 'void'})"
 
     def __str__(self) -> str:
         return f"{self.result} {self.name}({', '.join(f'{p.type} {p.name}' for p in self.parameters) or 'void'})"
@@ -69,11 +71,13 @@ def read(folder: Path) -> Declarations:
     types, prototypes = [], {}
     for header in headers:
         text = re.sub(r"/\*.*?\*/|//[^\n]*|^#[^\n]*", "", header.read_text(), flags=re.DOTALL | re.MULTILINE)
-        types += re.findall(r"^(?:typedef\b[^;{]*(?:\{[^}]*\}[^;]*)?|enum\b[^;]*);", text, re.MULTILINE)
+        types += re.findall(r"^(?:typedef\b[^;{]*(?:\{[^}]*\}[^;]*)?|enum\b[^;(]*);", text, re.MULTILINE)
         for declaration in re.findall(r"^TPX_API\b([^;]*);", text, re.MULTILINE):
             prototype = _prototype(" ".join(declaration.split()))
             prototypes[prototype.name] = prototype
-    return Declarations("\n".join(types), prototypes, _statuses(shared.read_text()))
+    statuses = _statuses(shared.read_text())
+    types.append(f"enum {{ {', '.join(f'{s.name} = {s.number}' for s in statuses.values())} }};")
+    return Declarations("\n".join(types), prototypes, statuses)
 
 
 def _prototype(declaration: str) -> Prototype:
@@ -86,6 +90,6 @@ def _prototype(declaration: str) -> Prototype:
 
 
 def _statuses(text: str) -> dict[int, Status]:
-    """The statuses of types.h: lines of the form `tpxErrStep = -14, /* a step below 1 */`."""
-    found = re.findall(r"\b(tpxOk|tpxErr\w+|tpxWarn\w+) = (-?\d+)(?:,?[ ]*/\*+<?\s*(.*?)\s*\*/)?", text, re.DOTALL)
-    return {int(number): Status(int(number), name, " ".join(words.split())) for name, number, words in found}
+    """The list of statuses in types.h, a macro: `status(tpxErrStep, -14, "a step below 1, or not accepted")`."""
+    found = re.findall(r"\b\w+\((tpx\w+), (-?\d+), \"([^\"]*)\"\)", text)
+    return {int(number): Status(int(number), name, words) for name, number, words in found}
