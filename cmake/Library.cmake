@@ -27,12 +27,13 @@ target_include_directories(tpxi_objects PUBLIC ${PROJECT_SOURCE_DIR}/include PRI
 target_link_libraries(tpxi_objects PRIVATE tpx_flags)
 set_target_properties(tpxi_objects PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden
                                               VISIBILITY_INLINES_HIDDEN ON CXX_EXTENSIONS ON)
-# No contraction: a product and a sum are rounded one by one, on every target alike.
-set(TPX_CODE_OPTIONS -mavx -ffp-contract=off -fno-math-errno -fno-trapping-math -fno-exceptions -fno-rtti
-                     -fno-threadsafe-statics -fno-stack-protector -fno-asynchronous-unwind-tables
-                     # A section for each function and object, so that the linker can drop what nothing uses.
-                     -ffunction-sections -fdata-sections)
-target_compile_options(tpxi_objects PRIVATE ${TPX_CODE_OPTIONS})
+# No contraction: a product and a sum are rounded one by one, on every target alike. A section for each function and
+# object lets the linker drop what nothing uses. One group, as the fence's.
+string(JOIN " " TPX_CODE_OPTIONS "SHELL:-mavx -ffp-contract=off -fno-math-errno -fno-trapping-math -fno-exceptions"
+       "-fno-rtti -fno-threadsafe-statics -fno-stack-protector -fno-asynchronous-unwind-tables -ffunction-sections"
+       "-fdata-sections")
+tpx_fence(tpxi_objects)
+target_compile_options(tpxi_objects PRIVATE "${TPX_CODE_OPTIONS}")
 
 add_library(tpxie9 SHARED ${TPX_ENTRY_TABLE} $<TARGET_OBJECTS:tpxi_objects>)
 if(NOT TPX_SANITIZE)
@@ -41,12 +42,14 @@ if(NOT TPX_SANITIZE)
     add_library(tpxi_builtins OBJECT ${PROJECT_SOURCE_DIR}/frame/memory/builtins.cpp)
     target_include_directories(tpxi_builtins PRIVATE ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR})
     target_link_libraries(tpxi_builtins PRIVATE tpx_flags)
-    target_compile_options(tpxi_builtins PRIVATE ${TPX_CODE_OPTIONS} -fno-builtin
+    tpx_fence(tpxi_builtins)
+    target_compile_options(tpxi_builtins PRIVATE "${TPX_CODE_OPTIONS}" -fno-builtin
                            $<$<CXX_COMPILER_ID:GNU>:-fno-tree-loop-distribute-patterns>)
     set_target_properties(tpxi_builtins PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden)
     target_sources(tpxie9 PRIVATE $<TARGET_OBJECTS:tpxi_builtins>)
 endif()
 add_library(tpxi::tpxie9 ALIAS tpxie9)
+tpx_fence(tpxie9)
 target_include_directories(tpxie9 INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
                                             $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
 target_link_libraries(tpxie9 PRIVATE tpxcore $<$<BOOL:${TPX_SANITIZE}>:tpx_flags>)
