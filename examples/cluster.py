@@ -18,14 +18,13 @@ python3-numpy and python3-cffi, and python3-tifffile for --image; `tools/setup p
 from __future__ import annotations
 
 import argparse
-import functools
 import os
 import signal
 import sys
 import time
 from dataclasses import dataclass
 from pathlib import Path
-from typing import Iterator
+from typing import Any, Iterator
 
 import numpy as np
 from distributed import Client, LocalCluster, as_completed
@@ -57,48 +56,47 @@ class Generated:
         return pixels
 
 
-@functools.lru_cache(maxsize=4)
-def _page(path: str, level: int):
-    import tifffile
-
-    return tifffile.TiffFile(path).series[0].levels[level].keyframe
-
-
 @dataclass(frozen=True)
 class Tiff:
     """A level of a TIFF pyramid, of which only the segments that a rectangle touches are read."""
 
     path: str
-    level: int = 0
+    level: int
+    size: tuple[int, int]
+    channels: int
 
-    @property
-    def size(self) -> tuple[int, int]:
-        page = _page(self.path, self.level)
-        return page.imagewidth, page.imagelength
-
-    @property
-    def channels(self) -> int:
-        return _page(self.path, self.level).samplesperpixel
+    @staticmethod
+    def of(path: str, level: int = 0) -> Tiff:
+        with tifffile().TiffFile(path) as file:
+            page = file.series[0].levels[level].keyframe
+            return Tiff(os.path.abspath(path), level, (page.imagewidth, page.imagelength), page.samplesperpixel)
 
     def read(self, rect: Rect) -> np.ndarray:
-        page = _page(self.path, self.level)
-        width, height = (page.tilewidth, page.tilelength) if page.is_tiled else (page.imagewidth, page.rowsperstrip)
-        across = -(-page.imagewidth // width)
         x0, y0, x1, y1 = rect[0], rect[1], rect[0] + rect[2], rect[1] + rect[3]
-        pixels = np.zeros((rect[3], rect[2], self.channels), page.dtype)
-        with open(self.path, "rb") as file:  # a handle of its own, whatever other threads read
+        with tifffile().TiffFile(self.path) as file:
+            page = file.series[0].levels[self.level].keyframe
+            width, height = (page.tilewidth, page.tilelength) if page.is_tiled else (self.size[0], page.rowsperstrip)
+            across = -(-self.size[0] // width)
+            pixels = np.zeros((rect[3], rect[2], self.channels), page.dtype)
             for row in range(y0 // height, (y1 - 1) // height + 1):
                 for column in range(x0 // width, (x1 - 1) // width + 1):
                     at = row * across + column
-                    file.seek(page.dataoffsets[at])
-                    tile = page.decode(file.read(page.databytecounts[at]), at)[0]
-                    if tile is None:  # a segment that was never written
+                    file.filehandle.seek(page.dataoffsets[at])
+                    segment = page.decode(file.filehandle.read(page.databytecounts[at]), at)[0]
+                    if segment is None:  # one that was never written
                         continue
                     left, top = column * width, row * height
-                    tile = tile[0, max(y0 - top, 0):y1 - top, max(x0 - left, 0):x1 - left]
+                    part = segment[0, max(y0 - top, 0):y1 - top, max(x0 - left, 0):x1 - left]
                     y, x = max(top - y0, 0), max(left - x0, 0)
-                    pixels[y:y + tile.shape[0], x:x + tile.shape[1]] = tile
+                    pixels[y:y + part.shape[0], x:x + part.shape[1]] = part
         return pixels
+
+
+def tifffile() -> Any:
+    """The package, which nobody needs who gives no --image."""
+    import tifffile
+
+    return tifffile
 
 
 # ---- The work: one tile, and all of it in one piece --------------------------------------------------------
@@ -124,9 +122,8 @@ class Job:
                 yield x, y, min(side, self.size[0] - x), min(side, self.size[1] - y)
 
 
-@functools.lru_cache(maxsize=4)
 def resize_plan(job: Job) -> tpxi.ResizePlan:
-    """The plan of a job, once in every process; any number of its threads share it."""
+    """The plan that all tiles share; on a cluster it is made anew in each process that is sent it."""
     return tpxi.ResizePlan(job.source.size, job.size, "lanczos3", antialias=True)
 
 
@@ -142,11 +139,11 @@ def grown(rect: Rect, by: int, size: tuple[int, int]) -> Rect:
     return x0, y0, x1 - x0, y1 - y0
 
 
-def compute(job: Job, tile: Rect) -> tuple[np.ndarray, int]:
+def compute(job: Job, plan: tpxi.ResizePlan, tile: Rect) -> tuple[np.ndarray, int]:
     """A tile of the result, and the bytes of the source that it was made from."""
-    plan = resize_plan(job)
-    # Backwards: what the warp takes (two pixels more hold what linear interpolation reads), what the median reads.
-    filtered = grown(tpxi.source_of_tile(job.size, job.coeffs, tile), 2, job.size)
+    # Backwards: what the warp takes, with a pixel more around it than linear interpolation reads; what the median
+    # reads; what the resize reads.
+    filtered = grown(tpxi.source_of_tile(job.size, job.coeffs, tile), 1, job.size)
     resized = grown(filtered, MEDIAN // 2, job.size)
     read = plan.source_of(resized)
     # Forwards.
@@ -192,8 +189,8 @@ class Done:
     process: int
 
 
-def run_tile(job: Job, tile: Rect) -> Done:
-    pixels, read = compute(job, tile)
+def run_tile(job: Job, plan: tpxi.ResizePlan, tile: Rect) -> Done:
+    pixels, read = compute(job, plan, tile)
     if job.out:
         np.save(Path(job.out) / f"{tile[1]:08}_{tile[0]:08}.npy", pixels)
     return Done(checksum(pixels, tile[0], tile[1]), read, pixels.nbytes, os.getpid())
@@ -207,7 +204,8 @@ def run(client: Client, job: Job, side: int, kill_worker: bool) -> int:
     tiles = list(job.tiles(side))
     begin = time.perf_counter()
     total, read, made, processes = 0, 0, 0, set()
-    futures = [client.submit(run_tile, job, tile, pure=False) for tile in tiles]
+    plan = client.submit(resize_plan, job)
+    futures = [client.submit(run_tile, job, plan, tile, pure=False) for tile in tiles]
     for count, (future, done) in enumerate(as_completed(futures, with_results=True), 1):
         total, read, made = (total + done.checksum) % 2**64, read + done.read, made + done.made
         processes.add(done.process)
@@ -247,7 +245,7 @@ def main() -> int:
     if arguments.scheduler and arguments.kill_worker:
         parser.error("--kill-worker is for workers of this machine")
 
-    source = Tiff(os.path.abspath(arguments.image), arguments.level) if arguments.image else Generated(arguments.size)
+    source = Tiff.of(arguments.image, arguments.level) if arguments.image else Generated(arguments.size)
     if arguments.out:
         Path(arguments.out).mkdir(parents=True, exist_ok=True)
     job = Job(source, arguments.to or (source.size[0] * 3 // 4, source.size[1] * 3 // 4), arguments.angle,

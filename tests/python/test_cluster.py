@@ -5,7 +5,6 @@ import subprocess
 import sys
 from pathlib import Path
 
-import numpy as np
 import pytest
 
 pytest.importorskip("distributed")
@@ -30,10 +29,10 @@ def test_tiles_of_any_side_and_angle():
     for size, to, angle, side in (((300, 200), (410, 333), -30, 37), ((640, 480), (200, 190), 90, 64),
                                   ((300, 200), (300, 200), 0, 45), ((90, 500), (70, 350), 200, 53)):
         job = cluster.Job(cluster.Generated(size), to, angle)
-        whole = cluster.compute_whole(job)
+        plan, whole = cluster.resize_plan(job), cluster.compute_whole(job)
         total = 0
         for x, y, width, height in job.tiles(side):
-            tile, _ = cluster.compute(job, (x, y, width, height))
+            tile, _ = cluster.compute(job, plan, (x, y, width, height))
             assert (tile == whole[y:y + height, x:x + width]).all(), (size, to, angle, (x, y, width, height))
             total += cluster.checksum(tile, x, y)
         assert total % 2**64 == cluster.checksum(whole, 0, 0)
@@ -51,13 +50,12 @@ def test_levels_of_a_tiff(tmp_path):
         file.write(pixels[::2, ::2], tile=(64, 64), photometric="rgb", subfiletype=1)
     strips = str(tmp_path / "strips.tif")
     tifffile.imwrite(strips, pixels[..., 0], rowsperstrip=33)
-    for source, wanted in ((cluster.Tiff(path), pixels), (cluster.Tiff(path, 1), pixels[::2, ::2]),
-                           (cluster.Tiff(strips), pixels[..., :1])):
+    for source, wanted in ((cluster.Tiff.of(path), pixels), (cluster.Tiff.of(path, 1), pixels[::2, ::2]),
+                           (cluster.Tiff.of(strips), pixels[..., :1])):
         assert source.size == wanted.shape[1::-1] and source.channels == wanted.shape[2]
         for x, y, width, height in ((0, 0, *source.size), (95, 63, 98, 70), (250, 200, 100, 50), (3, 249, 1, 1)):
             assert (source.read((x, y, width, height)) == wanted[y:y + height, x:x + width]).all()
-    job = cluster.Job(cluster.Tiff(path, 1), (200, 150), 20)
-    whole = cluster.compute_whole(job)
-    assert whole.any() and (cluster.compute(job, (64, 64, 64, 64))[0] == whole[64:128, 64:128]).all()
-    gray = cluster.Job(cluster.Tiff(strips), (200, 150), 20)
-    assert (cluster.compute(gray, (64, 64, 64, 64))[0] == cluster.compute_whole(gray)[64:128, 64:128]).all()
+    for source in (cluster.Tiff.of(path, 1), cluster.Tiff.of(strips)):
+        job = cluster.Job(source, (200, 150), 20)
+        tile, _ = cluster.compute(job, cluster.resize_plan(job), (64, 64, 64, 64))
+        assert tile.any() and (tile == cluster.compute_whole(job)[64:128, 64:128]).all()
