@@ -213,7 +213,8 @@ def run(client: Client, job: Job, side: int, kill_worker: bool) -> int:
         if kill_worker and count >= len(tiles) // 4:
             kill_worker, process = False, done.process
             os.kill(process, signal.SIGKILL)
-            print(f"\nkilled the worker process {process} with {len(tiles) - count} tiles to go", flush=True)
+            left = sum(future.status == "pending" for future in futures)
+            print(f"\nkilled the worker process {process} with {left} tiles to go", flush=True)
         if sys.stdout.isatty() or count * 10 // len(tiles) > (count - 1) * 10 // len(tiles):
             seconds = time.perf_counter() - begin
             print(f"{count:6} of {len(tiles)} tiles, {made / 1e6:.1f} MB made at {made / 1e6 / seconds:.1f} MB/s",

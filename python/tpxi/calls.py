@@ -17,8 +17,16 @@ from .library import c, declared, ffi
 from .statuses import check
 
 _LONGEST = 2**31 - 1
+ROUNDING = {"zero": c.tpxRoundTowardZero, "nearest": c.tpxRoundNearestEven, "away": c.tpxRoundHalfAway}
 INTERPOLATIONS = {word: getattr(c, f"tpxInterpolation{word.capitalize()}")
                   for word in ("nearest", "linear", "cubic", "super", "lanczos")}
+
+
+def choice(name: str, word: str, words: dict[str, Any]) -> Any:
+    """What a word stands for; ValueError tells which words there are."""
+    if word not in words:
+        raise ValueError(f"{name} is one of {', '.join(words)}, not {word!r}")
+    return words[word]
 
 
 def data_type(code: str) -> int:

@@ -16,7 +16,7 @@ from typing import Any, Callable, Sequence
 
 import numpy as np
 
-from .calls import (Pixel, block, call, data_type, export, find, in_bands, layout_of, number, values_of, with_alpha)
+from .calls import (ROUNDING, Pixel, block, call, choice, data_type, export, find, in_bands, layout_of, number, values_of, with_alpha)
 from .images import CODES, Image, destination, image, refuse_overlap, same
 from .library import c, ffi
 
@@ -47,7 +47,7 @@ def _interior(source: Image, reach: Reach) -> Region:
 def _sides(source: Image, region: Region, reach: Reach, border: str) -> int:
     """The word for a region's border: flags for sides where the array goes on, and the kind for the others."""
     x, y, width, height = region
-    word, kind = 0, _BORDERS[border]
+    word, kind = 0, choice("border", border, _BORDERS)
     margins = (("left", x, reach.left, c.tpxBorderInMemLeft), ("top", y, reach.top, c.tpxBorderInMemTop),
                ("right", source.width - x - width, reach.right, c.tpxBorderInMemRight),
                ("bottom", source.height - y - height, reach.bottom, c.tpxBorderInMemBottom))
@@ -72,8 +72,6 @@ def _filter(stem: str, a: np.ndarray, reach: Reach, border: str, value: Any, reg
     prepare       makes what all bands share, for the largest of them: values by parameter
     buffer_bytes  tells the work buffer of a band of some size
     """
-    if border not in _BORDERS:
-        raise ValueError(f"border is one of {', '.join(_BORDERS)}, not {border!r}")
     source = image(a, "a")
     if region is None:
         region = _interior(source, reach) if border == "memory" else (0, 0, *source.size)
@@ -219,9 +217,7 @@ def derivative(a: np.ndarray, kind: str, size: int = 3, border: str = "replicate
                region: Region | None = None, out: np.ndarray | None = None, threads: int = 1) -> np.ndarray:
     """A derivative by one of the masks DERIVATIVES, of 3 (Sobel also 5); uint8 gives int16. The header
     tpxi/filters_fixed.h has the weights and their signs."""
-    if kind not in DERIVATIVES:
-        raise ValueError(f"kind is one of {', '.join(DERIVATIVES)}, not {kind!r}")
-    return _fixed(DERIVATIVES[kind], a, size, border, value, region, out, threads,
+    return _fixed(choice("kind", kind, DERIVATIVES), a, size, border, value, region, out, threads,
                   dtype=np.int16 if a.dtype == np.uint8 else None)
 
 
@@ -267,7 +263,7 @@ def correlate(a: np.ndarray, kernel: Any, divisor: int = 1, rounding: str = "nea
         spec = ffi.cast("TpxiFilterBorderBlock*", spec)
         call(f"tpxiFilterBorderInit_{code}", {
             **told, "pKernel": image(weights, "kernel").at(0, 0), "divisor": divisor, "pSpec": spec,
-            "roundMode": {"zero": 0, "nearest": 1, "away": 2}[rounding]})
+            "roundMode": choice("rounding", rounding, ROUNDING)})
         return {"pSpec": spec, "bytes": sizes["pBufferSize"][0], "memory": memory}
 
     return _filter("tpxiFilterBorder", a, Reach.of(width, height), border, value, region, out, threads,

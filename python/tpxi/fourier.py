@@ -8,7 +8,7 @@ from __future__ import annotations
 
 import numpy as np
 
-from .calls import block, call, export, layout_of, with_alpha
+from .calls import block, call, choice, export, layout_of, with_alpha
 from .images import destination, image, refuse_overlap, same
 from .library import c, ffi
 
@@ -30,7 +30,7 @@ def _transform(direction: str, kind: str, code: str, a: np.ndarray, norm: str, o
                   ["IR" if is_placed else "R"])
     with_alpha(out, source, to, alpha)
     told = {"orderX": source.width.bit_length() - 1, "orderY": source.height.bit_length() - 1, "roiSize": source.size,
-            "flag": _DIVIDE[norm], "hint": c.tpxHintAccurate}
+            "flag": choice("norm", norm, _DIVIDE), "hint": c.tpxHintAccurate}
     sizes = {word: ffi.new("int*") for word in ("pSpecSize", "pInitBufSize", "pWorkSize")}
     call(f"tpxi{word}GetSize_{letter}_{code}", {**told, **sizes})
     memory, spec = block(sizes["pSpecSize"][0])

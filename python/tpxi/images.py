@@ -63,6 +63,8 @@ def image(array: Any, name: str, writable: bool = False) -> Image:
                         f"{', '.join(t.name for t in CODES)} in the machine's byte order")
     if array.ndim not in (2, 3) or (array.ndim == 3 and array.shape[2] not in (1, 3, 4)):
         raise ValueError(f"{name} has shape {array.shape}: (height, width) or (height, width, 1, 3 or 4) is an image")
+    if array.size == 0:
+        raise ValueError(f"{name} has no pixels: its shape is {array.shape}")
     if writable and not array.flags.writeable:
         raise ValueError(f"{name} is read-only")
     height, width = array.shape[:2]

@@ -75,7 +75,8 @@ class Exports:
         prototype = declared.prototypes.get(name)
         if prototype is None:
             if name in dir(self._constants):
-                return getattr(self._constants, name)
+                setattr(self, name, getattr(self._constants, name))
+                return getattr(self, name)
             raise AttributeError(f"the headers in {include} declare no {name}")
         address = _system.dlsym(self._handle, name.encode())
         if not address:

@@ -6,11 +6,10 @@ from typing import Any, Sequence
 
 import numpy as np
 
-from .calls import Pixel, call, export, find, is_wide, layout_of, pointwise, refuse, values_of, with_alpha
+from .calls import (ROUNDING, Pixel, call, choice, export, find, is_wide, layout_of, pointwise, refuse, values_of,
+                    with_alpha)
 from .images import CODES, Image, destination, image, refuse_overlap, same
 from .library import c, declared, ffi
-
-_ROUNDING = {"zero": 0, "nearest": 1, "away": 2}
 
 
 def _mask(mask: np.ndarray, like: Image) -> dict[str, Any]:
@@ -50,7 +49,7 @@ def convert(a: np.ndarray, dtype: Any, rounding: str = "nearest", scale: int = 0
     """Changes the sample type: samples times 2^-scale, rounded ("nearest" with ties to even, "zero" or "away"
     for ties away from zero) and saturated."""
     return pointwise("tpxiConvert", {"Src": a}, out, dtype=dtype, alpha=alpha, scale=scale, in_place="Src",
-                     values={"roundMode": _ROUNDING[rounding]})
+                     values={"roundMode": choice("rounding", rounding, ROUNDING)})
 
 
 def swap_channels(a: np.ndarray, order: Sequence[int], value: float = 0, out: np.ndarray | None = None) -> np.ndarray:
@@ -113,13 +112,12 @@ def pad(a: np.ndarray, margins: tuple[int, int, int, int], border: str = "replic
     left, top, right, bottom = margins
     stems = {"replicate": "tpxiCopyReplicateBorder", "mirror": "tpxiCopyMirrorBorder", "wrap": "tpxiCopyWrapBorder",
              "constant": "tpxiCopyConstBorder"}
-    if border not in stems:
-        raise ValueError(f"border is one of {', '.join(stems)}, not {border!r}")
+    stem = choice("border", border, stems)
     to = destination(None, source, size=(source.width + left + right, source.height + top + bottom))
     layout = layout_of(source.channels, False)
-    name = find(stems[border], source.code, layout, wide=is_wide([source, to]))
+    name = find(stem, source.code, layout, wide=is_wide([source, to]))
     if name is None:
-        raise refuse(stems[border], source.code, layout)
+        raise refuse(stem, source.code, layout)
     call(name, {**source.named("Src"), "srcRoiSize": source.size, **to.named("Dst"), "dstRoiSize": to.size,
                 "topBorderHeight": top, "leftBorderWidth": left, "value": Pixel(value, "value")}, source.channels)
     return to.array

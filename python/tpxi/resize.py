@@ -6,7 +6,7 @@ from typing import Any
 
 import numpy as np
 
-from .calls import INTERPOLATIONS, block, call, export, in_bands, layout_of, number, refuse
+from .calls import INTERPOLATIONS, block, call, choice, export, in_bands, layout_of, number, refuse
 from .images import CODES, Image, destination, image, refuse_overlap
 from .library import c as exports, declared, ffi
 
@@ -32,14 +32,15 @@ class ResizePlan:
 
     def __init__(self, source_size: tuple[int, int], size: tuple[int, int], kind: str = "linear",
                  dtype: Any = np.uint8, antialias: bool = False, b: float = 0, c: float = 0.5) -> None:
-        if kind not in KINDS:
-            raise ValueError(f"kind is one of {', '.join(KINDS)}, not {kind!r}")
+        word, lobes = choice("kind", kind, KINDS)
+        if min(*source_size, *size) < 1:
+            raise ValueError(f"no image of {tuple(source_size)} pixels becomes one of {tuple(size)}")
         self._made_from = (source_size, size, kind, np.dtype(dtype).name, antialias, b, c)
         self.source_size, self.size = (int(source_size[0]), int(source_size[1])), (int(size[0]), int(size[1]))
         self.dtype, self.kind = np.dtype(dtype), kind
         self._code = CODES.get(self.dtype, self.dtype.name)
-        word, lobes = KINDS[kind]
-        self._stem = "tpxiResizeAntialiasing" if antialias else f"tpxiResize{word}"
+        stretches = antialias and word not in ("Nearest", "Super")  # the library warns where it is dropped
+        self._stem = "tpxiResizeAntialiasing" if stretches else f"tpxiResize{word}"
         told = {"srcSize": self.source_size, "dstSize": self.size, "antialiasing": int(antialias),
                 "interpolation": INTERPOLATIONS[word.lower()], "numLobes": lobes, "valueB": b, "valueC": c}
         stored = {"pSpecSize": ffi.new("int*"), "pInitBufSize": ffi.new("int*")}
@@ -47,7 +48,7 @@ class ResizePlan:
         self._memory, spec = block(stored["pSpecSize"][0])
         self._spec = ffi.cast("TpxiResizeSpec*", spec)
         temporary, init = block(stored["pInitBufSize"][0])
-        name = f"tpxiResizeAntialiasing{word}Init" if antialias else self._typed(f"tpxiResize{word}Init")
+        name = f"tpxiResizeAntialiasing{word}Init" if stretches else self._typed(f"tpxiResize{word}Init")
         call(name, {**told, "pSpec": self._spec, "pInitBuf": init})
         del temporary
         border = ffi.new("TpxiBorderSize*")

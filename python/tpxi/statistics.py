@@ -9,7 +9,7 @@ from typing import Any, Sequence
 
 import numpy as np
 
-from .calls import (INTERPOLATIONS, block, call, data_type, export, layout_of, number, pointwise, results, told, values_of,
+from .calls import (INTERPOLATIONS, block, call, choice, data_type, export, layout_of, number, pointwise, results, told, values_of,
                     with_alpha)
 from .images import destination, image
 from .library import declared, ffi
@@ -77,19 +77,23 @@ def dot(a: np.ndarray, b: np.ndarray, alpha: bool = False) -> Any:
     return _reduce("tpxiDotProd", {"Src1": a, "Src2": b}, ["pDp"], alpha, "64f")[0]
 
 
+def _kind(kind: str) -> str:
+    return choice("kind", kind, {word: word for word in ("Inf", "L1", "L2")})
+
+
 def norm(a: np.ndarray, kind: str = "L2") -> Any:
     """The norm "Inf", "L1" or "L2" of each channel."""
-    return _reduce(f"tpxiNorm_{kind}", {"Src": a}, ["pValue"])[0]
+    return _reduce(f"tpxiNorm_{_kind(kind)}", {"Src": a}, ["pValue"])[0]
 
 
 def norm_of_difference(a: np.ndarray, b: np.ndarray, kind: str = "L2") -> Any:
     """The norm of a - b."""
-    return _reduce(f"tpxiNormDiff_{kind}", {"Src1": a, "Src2": b}, ["pValue"])[0]
+    return _reduce(f"tpxiNormDiff_{_kind(kind)}", {"Src1": a, "Src2": b}, ["pValue"])[0]
 
 
 def relative_norm(a: np.ndarray, reference: np.ndarray, kind: str = "L2") -> Any:
     """The norm of a - reference over that of the reference."""
-    return _reduce(f"tpxiNormRel_{kind}", {"Src": a, "SrcRef": reference}, ["pValue"])[0]
+    return _reduce(f"tpxiNormRel_{_kind(kind)}", {"Src": a, "SrcRef": reference}, ["pValue"])[0]
 
 
 def block_min_max(a: np.ndarray, width: int, height: int) -> tuple[np.ndarray, np.ndarray]:
@@ -154,7 +158,7 @@ def lookup(a: np.ndarray, levels: Any, values: Any, interpolation: str = "neares
     type_name = "Tpx32f" if source.code == "32f" else "Tpx32s"
     if f"tpxiLUT_Init_{source.code}" not in declared.prototypes:
         export("tpxiLUT", source.code, layout_of(source.channels, alpha))
-    told_once = {"interpolation": INTERPOLATIONS[interpolation], "dataType": data_type(source.code), "roiSize": source.size,
+    told_once = {"interpolation": choice("interpolation", interpolation, INTERPOLATIONS), "dataType": data_type(source.code), "roiSize": source.size,
                  "layout": {1: 1, 3: 3, 4: 9 if alpha else 4}[source.channels], "nLevels": [len(v) for v in x]}
     memory, spec = block(number("pSpecSize", "tpxiLUT_GetSize", told_once))
     spec = ffi.cast("TpxiLUT_Spec*", spec)

@@ -12,7 +12,7 @@ from typing import Any, Sequence
 
 import numpy as np
 
-from .calls import INTERPOLATIONS, block, call, data_type, export, in_bands, layout_of, number, refuse
+from .calls import INTERPOLATIONS, block, call, choice, data_type, export, in_bands, layout_of, number, refuse
 from .images import CODES, destination, image, refuse_overlap
 from .library import c as exports, ffi
 
@@ -20,7 +20,7 @@ Rect = tuple[int, int, int, int]
 _BORDERS = {"transparent": exports.tpxBorderTransparent, "replicate": exports.tpxBorderReplicate,
             "constant": exports.tpxBorderConstant}
 _WHOLE = exports.tpxiWarpGetRectInfinite()
-_KINDS = ("nearest", "linear", "cubic")
+_KINDS = {kind: INTERPOLATIONS[kind] for kind in ("nearest", "linear", "cubic")}
 
 
 class WarpPlan:
@@ -41,10 +41,7 @@ class WarpPlan:
                  dtype: Any = np.uint8, channels: int = 1, inverse: bool = False, border: str = "transparent",
                  value: float | Sequence[float] = 0, smooth_edge: bool = False, b: float = 0, c: float = 0.5,
                  part: Rect | None = None) -> None:
-        if kind not in _KINDS:
-            raise ValueError(f"kind is one of {', '.join(_KINDS)}, not {kind!r}")
-        if border not in _BORDERS:
-            raise ValueError(f"border is one of {', '.join(_BORDERS)}, not {border!r}")
+        interpolation, border_word = choice("kind", kind, _KINDS), choice("border", border, _BORDERS)
         numbers = np.asarray(coeffs, np.float64)
         families = {(2, 3): "Affine", (3, 3): "Perspective", (2, 4, 2): "Quad"}
         if numbers.shape not in families:
@@ -65,7 +62,7 @@ class WarpPlan:
         told = {"srcSize": self.source_size, "srcRoi": _WHOLE if part is None else tuple(part), "dstSize": self.size,
                 "dstRoi": (0, 0, *self.size), "coeffs": numbers.tolist(), "transform": 1, "direction": int(inverse),
                 "dataType": data_type(CODES[self.dtype]), "numChannels": channels,
-                "interpolation": INTERPOLATIONS[kind], "border": _BORDERS[border], "valueB": b, "valueC": c,
+                "interpolation": interpolation, "border": border_word, "valueB": b, "valueC": c,
                 "pBorderValue": pixel if len(pixel) > 1 else pixel * channels, "smoothEdge": int(smooth_edge)}
         if self._family == "Quad":
             told["srcQuad"], told["dstQuad"] = numbers.tolist()
@@ -74,7 +71,8 @@ class WarpPlan:
         self._memory, spec = block(stored["pSpecSize"][0])
         self._spec = ffi.cast("TpxiWarpSpec*", spec)
         temporary, init = block(stored["pInitBufSize"][0])
-        call(f"tpxiWarp{self._family}{kind.capitalize()}Init", {**told, "pSpec": self._spec, "pInitBuf": init})
+        call(f"tpxiWarp{self._family}{kind.capitalize()}Init", {**told, "pSpec": self._spec, "pInitBuf": init},
+             quiet=(exports.tpxWarnNoQuadOverlap,) if part is not None else ())
         del temporary
 
     def __reduce__(self) -> Any:
@@ -139,7 +137,7 @@ def remap(a: np.ndarray, x: np.ndarray, y: np.ndarray, kind: str = "linear", smo
     if out is None:
         to.array[...] = 0
     name = export("tpxiRemap", source.code, layout_of(source.channels, alpha))
-    mode = 4 if kind == "lagrange" else INTERPOLATIONS[kind]
+    mode = choice("kind", kind, {**INTERPOLATIONS, "lagrange": 4})
 
     def work(top: int, bottom: int) -> None:
         call(name, {**source.named("Src"), "srcSize": source.size, "srcRoi": region or (0, 0, *source.size),

@@ -78,6 +78,29 @@ def test_statuses_are_exceptions_and_warnings(a):
         tpxi.sqrt(a)
 
 
+def test_steps_of_64_bits():
+    """Rows more than 2 GB apart go to the functions of 64 bits, where there are such."""
+    far = np.lib.stride_tricks.as_strided(np.zeros(5 << 29, np.uint8), (2, 9), ((1 << 31) + 64, 1))
+    tpxi.add(np.full((2, 9), 3, np.uint8), far, out=far)
+    assert (tpxi.copy(far) == 3).all()
+    with pytest.raises(OverflowError):
+        tpxi.median(far, 3)
+
+
+def test_words_and_sizes_that_there_are_not(a):
+    for call in (lambda: tpxi.resize(a, (9, 9), "bicubic"), lambda: tpxi.warp(a, np.eye(3), kind="super"),
+                 lambda: tpxi.median(a, 3, "wrap"), lambda: tpxi.convert(a, np.float32, "up"),
+                 lambda: tpxi.norm(a, "l2"), lambda: tpxi.pad(a, (1, 1, 1, 1), "edge")):
+        with pytest.raises(ValueError, match=r"(kind|border|rounding) is one of \w+, "):
+            call()
+    with pytest.raises(ValueError, match="no image of"):
+        tpxi.resize(a, (0, 9))
+    with pytest.raises(ValueError, match=r"src1 has no pixels: its shape is \(0, 60\)"):
+        tpxi.add(a[:0], a[:0])
+    with pytest.warns(tpxi.Warned, match="tpxWarnNoAntialiasing"):
+        assert (tpxi.resize(a, (30, 20), "nearest", antialias=True) == tpxi.resize(a, (30, 20), "nearest")).all()
+
+
 def test_values_of_pixels(a):
     colours = np.zeros((4, 5, 3), np.int16)
     tpxi.fill(colours, [-1, 2, 3])
