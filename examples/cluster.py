@@ -246,7 +246,9 @@ def main() -> int:
     if arguments.scheduler and arguments.kill_worker:
         parser.error("--kill-worker is for workers of this machine")
 
-    source = Tiff.of(arguments.image, arguments.level) if arguments.image else Generated(arguments.size)
+    source: Generated | Tiff = Generated(arguments.size)
+    if arguments.image:
+        source = Tiff.of(arguments.image, arguments.level)
     if arguments.out:
         Path(arguments.out).mkdir(parents=True, exist_ok=True)
     job = Job(source, arguments.to or (source.size[0] * 3 // 4, source.size[1] * 3 // 4), arguments.angle,

@@ -27,8 +27,8 @@ def main() -> None:
     sharp = tpxi.sharpen(clean, threads=2)
 
     Image.fromarray(sharp).save(sys.argv[2])
-    print(f"{width} x {height} to {size[0]} x {size[1]}, mean colour {np.round(tpxi.mean(sharp)).astype(int).tolist()}: "
-          f"look at {sys.argv[2]}")
+    colour = np.round(tpxi.mean(sharp)).astype(int).tolist()
+    print(f"{width} x {height} to {size[0]} x {size[1]}, mean colour {colour}: look at {sys.argv[2]}")
 
 
 if __name__ == "__main__":

@@ -155,8 +155,8 @@ def pointwise(stem: str, sources: dict[str, Any], out: np.ndarray | None = None,
     sources   the arrays by the word of their parameters, {"Src": a} or {"Src1": a, "Src2": b}
     in_place  the word of the source that an in-place form takes over as its destination
     scale     other than 0 wants a form with a scale factor
-    Where an operation has no form for the number of channels, and values are the same for all of them, samples are worked on as
-    one channel; where it has in-place forms alone, the destination begins as a copy of that source.
+    Where an operation has no form for the number of channels, and values are the same for all of them, samples are
+    worked on as one channel; where it has in-place forms alone, the destination begins as a copy of that source.
     """
     values = values or {}
     inputs = {word: image(array, word.lower()) for word, array in sources.items()}
@@ -185,9 +185,9 @@ def pointwise(stem: str, sources: dict[str, Any], out: np.ndarray | None = None,
             name = find(stem, types, way, flags, wide)
             if name is None:
                 continue
-            if placed and not is_placed:
-                np.copyto(to.array[..., :3] if alpha else to.array, taken_over.array[..., :3] if alpha
-                          else taken_over.array)
+            if taken_over and placed and not is_placed:
+                kept = 3 if alpha else None
+                to.array[..., :kept] = taken_over.array[..., :kept]
             ends = {"SrcDst" if placed else "Dst": to}
             for word, source in inputs.items():
                 if not placed or word != in_place:

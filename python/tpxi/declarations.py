@@ -85,8 +85,8 @@ def _prototype(declaration: str) -> Prototype:
     if not match:
         raise ValueError(f"no prototype that can be read: {declaration}")
     result, name, parameters = match.groups()
-    found = [re.fullmatch(r"(.*?)\s*(\w+)((?:\[\d*\])*)", p) for p in parameters.split(", ") if p != "void"]
-    return Prototype(name, result.strip(), tuple(Parameter(p[1] + p[3], p[2]) for p in found))
+    found = re.findall(r"(?:^|, )(\w[^,]*?)\s*\b(\w+)((?:\[\d*\])*)(?=,|$)", "" if parameters == "void" else parameters)
+    return Prototype(name, result.strip(), tuple(Parameter(kind + sides, word) for kind, word, sides in found))
 
 
 def _statuses(text: str) -> dict[int, Status]:

@@ -16,7 +16,8 @@ from typing import Any, Callable, Sequence
 
 import numpy as np
 
-from .calls import (ROUNDING, Pixel, block, call, choice, data_type, export, find, in_bands, layout_of, number, values_of, with_alpha)
+from .calls import (ROUNDING, Pixel, block, call, choice, data_type, export, find, in_bands, layout_of, number,
+                    values_of, with_alpha)
 from .images import CODES, Image, destination, image, refuse_overlap, same
 from .library import c, ffi
 
@@ -73,18 +74,17 @@ def _filter(stem: str, a: np.ndarray, reach: Reach, border: str, value: Any, reg
     buffer_bytes  tells the work buffer of a band of some size
     """
     source = image(a, "a")
-    if region is None:
-        region = _interior(source, reach) if border == "memory" else (0, 0, *source.size)
-    if region[2] < 1 or region[3] < 1:
-        raise ValueError(f"no pixels in the region {region} of an image of {source.width} x {source.height}")
-    _sides(source, region, reach, border)
-    to = destination(out, source, dtype, size=(region[2], region[3]))
-    is_placed = in_place and same(source, to) and region == (0, 0, *source.size)
+    left, above, width, height = region or (
+        _interior(source, reach) if border == "memory" else (0, 0, *source.size))
+    if width < 1 or height < 1:
+        raise ValueError(f"no pixels in a region of {width} x {height}, of an image of {source.size} pixels")
+    _sides(source, (left, above, width, height), reach, border)
+    to = destination(out, source, dtype, size=(width, height))
+    is_placed = in_place and same(source, to)
     if not is_placed:
         refuse_overlap(source, to)
-    inner = Image(a[region[1]:region[1] + region[3], region[0]:region[0] + region[2]], "a", source.code, *to.size,
-                  source.channels, source.step)
-    with_alpha(out, inner, to, alpha)
+    inner = a[above:above + height, left:left + width]
+    with_alpha(out, Image(inner, "a", source.code, width, height, source.channels, source.step), to, alpha)
     layout = layout_of(source.channels, alpha)
     types = source.code + (to.code if to.code != source.code else "")
     name = export(stem, types, layout)
@@ -92,8 +92,7 @@ def _filter(stem: str, a: np.ndarray, reach: Reach, border: str, value: Any, reg
     shared = {**(values or {}), **(prepare(source, to.size) if prepare else {})}
 
     def work(top: int, bottom: int) -> None:
-        x, y = region[0], region[1] + top
-        size = (region[2], bottom - top)
+        x, y, size = left, above + top, (width, bottom - top)
         memory, buffer = block(buffer_bytes(size, shared)) if buffer_bytes else (None, ffi.NULL)
         call(name, {**source.named("Src", x, y), **to.named("Dst", 0, top), "roiSize": size,
                     "border": _sides(source, (x, y, *size), reach, border), "borderValue": pixel,
@@ -101,12 +100,12 @@ def _filter(stem: str, a: np.ndarray, reach: Reach, border: str, value: Any, reg
         del memory
 
     # Bands are higher than the mask: a side then either goes on far enough, or ends with the image.
-    in_bands(region[3], 1 if is_placed else threads, reach.top + reach.bottom + 2, work)
+    in_bands(height, 1 if is_placed else threads, reach.top + reach.bottom + 2, work)
     return to.array
 
 
 def _pair(size: int | tuple[int, int]) -> tuple[int, int]:
-    return (size, size) if isinstance(size, int) else (int(size[0]), int(size[1]))
+    return (int(size), int(size)) if isinstance(size, (int, np.integer)) else (int(size[0]), int(size[1]))
 
 
 def _anchored(width: int, height: int) -> dict[str, Any]:
@@ -114,7 +113,8 @@ def _anchored(width: int, height: int) -> dict[str, Any]:
 
 
 def box(a: np.ndarray, size: int | tuple[int, int], border: str = "replicate", value: Any = 0,
-        region: Region | None = None, out: np.ndarray | None = None, threads: int = 1, alpha: bool = False) -> np.ndarray:
+        region: Region | None = None, out: np.ndarray | None = None, threads: int = 1,
+        alpha: bool = False) -> np.ndarray:
     """The mean over a mask of `size` pixels, or (width, height). float64 has border="memory" alone.
 
     The mean of float32 depends in its last bits on where a column of masks begins, so that it is made in one
@@ -188,7 +188,8 @@ def window_sum(a: np.ndarray, size: int, axis: int, anchor: int | None = None, r
     that of number `anchor`, the middle one unless told. All samples are read from the array."""
     anchor = (size - 1) // 2 if anchor is None else anchor
     before, after = anchor, size - 1 - anchor
-    stem, reach = (("tpxiSumWindowColumn", Reach(0, before, 0, after)), ("tpxiSumWindowRow", Reach(before, 0, after, 0)))[axis]
+    stem, reach = (("tpxiSumWindowColumn", Reach(0, before, 0, after)),
+                   ("tpxiSumWindowRow", Reach(before, 0, after, 0)))[axis]
     return _filter(stem, a, reach, "memory", 0, region, out, threads, dtype=np.float32,
                    values={"maskSize": size, "anchor": anchor})
 
@@ -200,8 +201,8 @@ def _fixed(word: str, a: np.ndarray, size: int, border: str, value: Any, region:
 
     def buffer_bytes(roi: tuple[int, int], shared: dict[str, Any]) -> int:
         return number("pBufferSize", f"{stem}GetBufferSize", {
-            **shared, "roiSize": roi, "srcType": data_type(source.code), "dstType": data_type(CODES[np.dtype(dtype or a.dtype)]),
-             "numChannels": source.channels})
+            **shared, "roiSize": roi, "srcType": data_type(source.code), "numChannels": source.channels,
+            "dstType": data_type(CODES[np.dtype(dtype or a.dtype)])})
 
     return _filter(stem, a, Reach.of(size, size), border, value, region, out, threads, alpha=alpha, dtype=dtype,
                    values=_mask_code(size), buffer_bytes=buffer_bytes)

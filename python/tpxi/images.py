@@ -87,7 +87,8 @@ def _step(array: np.ndarray, name: str, width: int, height: int, channels: int, 
     if height <= 1:
         return row
     if strides[0] <= 0:
-        raise ValueError(told + f"a step of {strides[0]} bytes does not lead forward; take numpy.ascontiguousarray of it")
+        raise ValueError(told + f"a step of {strides[0]} bytes does not lead forward; take "
+                         "numpy.ascontiguousarray of it")
     if strides[0] % sample:
         raise ValueError(told + f"a step of {strides[0]} bytes is no whole number of samples of {sample} bytes")
     if writable and strides[0] < row:

@@ -28,7 +28,8 @@ def _places() -> list[tuple[Path, list[Path]]]:
     here = Path(__file__).resolve().parent
     above = [*here.parents, *[Path("/")] * 4]
     installed, tree = above[3], above[1]
-    prefixes = [(p / "include", [p / f for f in _LIBRARY_FOLDERS]) for p in (installed, Path("/usr/local"), Path("/usr"))]
+    prefixes = [(prefix / "include", [prefix / folder for folder in _LIBRARY_FOLDERS])
+                for prefix in (installed, Path("/usr/local"), Path("/usr"))]
     return [prefixes[0], (tree / "include", [tree / "build" / b for b in ("release", "demo")]), *prefixes[1:]]
 
 

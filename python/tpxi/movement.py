@@ -19,7 +19,8 @@ def _mask(mask: np.ndarray, like: Image) -> dict[str, Any]:
     return found.named("Mask")
 
 
-def copy(a: np.ndarray, out: np.ndarray | None = None, mask: np.ndarray | None = None, alpha: bool = False) -> np.ndarray:
+def copy(a: np.ndarray, out: np.ndarray | None = None, mask: np.ndarray | None = None,
+         alpha: bool = False) -> np.ndarray:
     """Copies an image, or its pixels where `mask` (uint8) is not 0; other pixels of `out` stay, and a new one
     has zeros there."""
     if mask is None:
@@ -63,7 +64,8 @@ def swap_channels(a: np.ndarray, order: Sequence[int], value: float = 0, out: np
     if not is_placed:
         refuse_overlap(source, to)
     name = export("tpxiSwapChannels", source.code, pair, ["IR" if is_placed else "R"])
-    call(name, {**ends, **to.named("SrcDst"), "roiSize": to.size, "dstOrder": list(order), "val": np.ravel(value).tolist()[0]})
+    call(name, {**ends, **to.named("SrcDst"), "roiSize": to.size, "dstOrder": list(order),
+                "val": Pixel(value, "value")})
     return to.array
 
 

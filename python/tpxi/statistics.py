@@ -9,8 +9,8 @@ from typing import Any, Sequence
 
 import numpy as np
 
-from .calls import (INTERPOLATIONS, block, call, choice, data_type, export, layout_of, number, pointwise, results, told, values_of,
-                    with_alpha)
+from .calls import (INTERPOLATIONS, block, call, choice, data_type, export, layout_of, number, pointwise, results,
+                    told, values_of, with_alpha)
 from .images import destination, image
 from .library import declared, ffi
 
@@ -158,7 +158,8 @@ def lookup(a: np.ndarray, levels: Any, values: Any, interpolation: str = "neares
     type_name = "Tpx32f" if source.code == "32f" else "Tpx32s"
     if f"tpxiLUT_Init_{source.code}" not in declared.prototypes:
         export("tpxiLUT", source.code, layout_of(source.channels, alpha))
-    told_once = {"interpolation": choice("interpolation", interpolation, INTERPOLATIONS), "dataType": data_type(source.code), "roiSize": source.size,
+    told_once = {"interpolation": choice("interpolation", interpolation, INTERPOLATIONS),
+                 "dataType": data_type(source.code), "roiSize": source.size,
                  "layout": {1: 1, 3: 3, 4: 9 if alpha else 4}[source.channels], "nLevels": [len(v) for v in x]}
     memory, spec = block(number("pSpecSize", "tpxiLUT_GetSize", told_once))
     spec = ffi.cast("TpxiLUT_Spec*", spec)

@@ -118,12 +118,14 @@ def warp(a: np.ndarray, coeffs: Any, size: tuple[int, int] | None = None, kind: 
     source = image(a, "a")
     if size is None:
         size = source.size if out is None else image(out, "out").size
-    plan = WarpPlan(source.size, size, coeffs, kind, a.dtype, source.channels, inverse, border, value, smooth_edge, b, c)
+    plan = WarpPlan(source.size, size, coeffs, kind, a.dtype, source.channels, inverse, border, value, smooth_edge,
+                    b, c)
     return plan.tile(a, (0, 0, *plan.size), out, threads)
 
 
 def remap(a: np.ndarray, x: np.ndarray, y: np.ndarray, kind: str = "linear", smooth_edge: bool = False,
-          region: Rect | None = None, out: np.ndarray | None = None, threads: int = 1, alpha: bool = False) -> np.ndarray:
+          region: Rect | None = None, out: np.ndarray | None = None, threads: int = 1,
+          alpha: bool = False) -> np.ndarray:
     """Every pixel of the result takes its value from the position in `a` that the maps x and y (float32 of the
     result's shape; float64 for images of float64) hold for it. Positions outside the image, or its `region`,
     leave what `out` holds; a new one has zeros. kind: nearest, linear, cubic, lagrange or lanczos."""
@@ -175,7 +177,7 @@ def map_to_quad(rect: Rect, quad: Any, kind: str = "perspective") -> np.ndarray:
 
 def _map_of(coeffs: Any) -> tuple[str, list]:
     numbers = np.asarray(coeffs, float)
-    names = {(2, 3): "Affine", (3, 3): "Perspective", (2, 4): "Bilinear"}
+    names: dict[tuple[int, ...], str] = {(2, 3): "Affine", (3, 3): "Perspective", (2, 4): "Bilinear"}
     if numbers.shape not in names:
         raise ValueError(f"a map has 2 x 3, 3 x 3 or 2 x 4 coefficients, not {numbers.shape}")
     return names[numbers.shape], numbers.tolist()

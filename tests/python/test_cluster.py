@@ -16,7 +16,8 @@ import cluster  # noqa: E402
 def test_a_worker_that_is_killed_is_survived():
     """Two workers; the program itself compares with one process, and its checksum is compared here once more."""
     run = subprocess.run([sys.executable, str(EXAMPLES / "cluster.py"), "--size", "2100x1500", "--tile", "160",
-                          "--angle", "11", "--workers", "2", "--kill-worker"], capture_output=True, text=True, timeout=100)
+                          "--angle", "11", "--workers", "2", "--kill-worker"],
+                         capture_output=True, text=True, timeout=100)
     assert run.returncode == 0, run.stdout + run.stderr
     left = int(re.search(r"killed the worker process \d+ with (\d+) tiles to go", run.stdout)[1])
     assert left > 20 and re.search(r"\d\.\d\d s, \d+\.\d MB read, \d+\.\d MB made", run.stdout)

@@ -13,7 +13,8 @@ EXAMPLES = Path(__file__).resolve().parents[2] / "examples"
 
 def test_hello(tmp_path):
     photo, out = EXAMPLES / "data" / "coffee.png", tmp_path / "hello.png"
-    run = subprocess.run([sys.executable, str(EXAMPLES / "hello.py"), str(photo), str(out)], capture_output=True, text=True)
+    run = subprocess.run([sys.executable, str(EXAMPLES / "hello.py"), str(photo), str(out)],
+                         capture_output=True, text=True)
     assert run.returncode == 0 and "600 x 400 to 300 x 200" in run.stdout, run.stderr
     small = np.asarray(Image.open(out)).astype(float)
     means = np.asarray(Image.open(photo).convert("RGB")).reshape(200, 2, 300, 2, 3).mean((1, 3))

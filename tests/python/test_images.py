@@ -67,7 +67,8 @@ def test_destinations(a):
 
 
 def test_statuses_are_exceptions_and_warnings(a):
-    with pytest.raises(tpxi.Error, match=r"tpxiFilterMedianBorderGetBufferSize: tpxErrMaskSize \(-33\): mask size") as error:
+    wanted = r"tpxiFilterMedianBorderGetBufferSize: tpxErrMaskSize \(-33\): mask size"
+    with pytest.raises(tpxi.Error, match=wanted) as error:
         tpxi.median(a, 4)
     assert (error.value.status, error.value.name) == (-33, "tpxErrMaskSize")
     with pytest.warns(tpxi.Warned, match=r"tpxWarnSqrtNegArg \(3\)") as told:

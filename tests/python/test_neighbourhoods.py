@@ -28,7 +28,8 @@ def test_masks(channels, border):
         assert (tpxi.box(a, (4, 3), border) == saturated(windows(a, 4, 3, border).mean((-1, -2)), dtype)).all()
         kernel = noise((3, 5), np.int8, 5).astype(int)
         exact = (windows(a, 5, 3, border) * kernel).sum((-1, -2))
-        assert (np.abs(tpxi.correlate(a, kernel, 64, border=border).astype(int) - saturated(exact / 64, dtype)) <= 1).all()
+        correlated = tpxi.correlate(a, kernel, 64, border=border).astype(int)
+        assert (np.abs(correlated - saturated(exact / 64, dtype)) <= 1).all()
     f = image(channels, np.float32)
     assert np.allclose(tpxi.box(f, 5, border), windows(f, 5, 5, border).mean((-1, -2)), atol=1e-4)
     weights = noise((2, 3), np.float32, 6)
@@ -46,7 +47,8 @@ def test_fixed_masks():
     around = 9 * a.astype(int) - w.sum((-1, -2))
     assert (tpxi.laplace(a, border="mirror") == saturated(around, np.uint8)).all()
     assert (tpxi.sharpen(a, border="mirror") == saturated((around + 8 * a.astype(int)) / 8, np.uint8)).all()
-    assert (tpxi.hipass(a.astype(np.int16), 5) == 25 * a.astype(int) - windows(a, 5, 5, "replicate").sum((-1, -2))).all()
+    around = 25 * a.astype(int) - windows(a, 5, 5, "replicate").sum((-1, -2))
+    assert (tpxi.hipass(a.astype(np.int16), 5) == around).all()
 
 
 def test_filters_of_memory_alone():
@@ -66,7 +68,7 @@ def test_filters_of_memory_alone():
     assert np.allclose(tpxi.box(d, 3, "memory"), windows(d, 3, 3, "memory").mean((-1, -2)))
     with pytest.raises(ValueError, match='border="memory" alone'):
         tpxi.median(f, 3)
-    with pytest.raises(ValueError, match="no pixels in the region"):
+    with pytest.raises(ValueError, match="no pixels in a region of"):
         tpxi.median(f[:2], 3, "memory")
 
 
@@ -74,7 +76,8 @@ def test_regions_and_threads_of_filters():
     a = noise((60, 70, 3), np.uint8)
     kernel = noise((5, 3), np.int8, 1).astype(int)
     filters = [lambda **k: tpxi.median(k.pop("a", a), 5, **k), lambda **k: tpxi.box(k.pop("a", a), (6, 3), **k),
-               lambda **k: tpxi.laplace(k.pop("a", a), 5, **k), lambda **k: tpxi.correlate(k.pop("a", a), kernel, 77, **k)]
+               lambda **k: tpxi.laplace(k.pop("a", a), 5, **k),
+               lambda **k: tpxi.correlate(k.pop("a", a), kernel, 77, **k)]
     for run in filters:
         whole = run()
         assert (run(threads=3) == whole).all()
@@ -165,7 +168,8 @@ def test_tiles_of_warps(kind):
         for y in range(0, 95, 20):
             tile = (x, y, min(30, 100 - x), min(20, 95 - y))
             left, top, width, height = tpxi.source_of_tile((90, 80), coeffs, tile)
-            left, top, right, bottom = max(left - 2, 0), max(top - 2, 0), min(left + width + 3, 90), min(top + height + 3, 80)
+            left, right = max(left - 2, 0), min(left + width + 3, 90)
+            top, bottom = max(top - 2, 0), min(top + height + 3, 80)
             part = (left, top, right - left, bottom - top)
             plan = pickle.loads(pickle.dumps(tpxi.WarpPlan((90, 80), (100, 95), coeffs, kind, part=part)))
             got = plan.tile(a[top:bottom, left:right].copy(), tile)
