@@ -20,13 +20,13 @@ void transformRows(const Transform& plan, ImageView<const float> src, ImageView<
 template <bool Inverse, class S>
 void transformColumns(const Transform& plan, ImageView<float> image) {
     const V32f scale = splat<V32f>(scaleOf(*plan.columns, Inverse));
-    forColumns<S, kGroups>(plan.size.width, [&]<class Columns>(const Columns& columns, ptrdiff_t x) {
+    forColumns<S, kColumnGroups>(plan.size.width, [&]<class Columns>(const Columns& columns, ptrdiff_t x) {
         const ImageView<float> strip = image.from(2 * x, 0);
-        SideBySide<S, Columns> groups(*plan.columns, plan.buffers);
+        SideBySide<S, Columns::kGroups> groups(*plan.columns, plan.buffers);
         for (ptrdiff_t y = 0; y < plan.size.height; y++)
             for (int g = 0; g < Columns::kGroups; g++)
                 groups.of[g].store(y, turned<Inverse>(columns.load(strip.row(y), g)));
-        for (S& sequences : groups.of) transform(*plan.columns, sequences);
+        groups.transform(*plan.columns);
         for (ptrdiff_t y = 0; y < plan.size.height; y++)
             for (int g = 0; g < Columns::kGroups; g++) {
                 const Lanes element = turned<Inverse>(scaled(groups.of[g].load(y), scale));

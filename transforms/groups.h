@@ -2,7 +2,9 @@
 // Rows and columns of images as groups and long lines (transforms/line.h), and back.
 #pragma once
 
+#include "frame/entry/checks.h"
 #include "frame/images/view.h"
+#include "frame/simd/channels.h"
 #include "frame/simd/gather.h"
 #include "frame/simd/partial.h"
 #include "transforms/line.h"
@@ -21,58 +23,104 @@ inline Lanes turned(Lanes a) {
 
 // ---- Eight rows, one a lane ------------------------------------------------------------------------------
 
-// Rows of pixels of so many channels, from the first sample of one channel on. A row may be there twice.
-template <class T, int Channels>
+// Calls each(i, so many) for all of n: `Most` at a time, as long as there are as many, and then singly.
+template <int N>
+using Count = std::integral_constant<int, N>;
+template <int Most, class Each>
+inline void inSteps(ptrdiff_t n, Each each) {
+    ptrdiff_t i = 0;
+    for (; i + Most <= n; i += Most) each(i, Count<Most>());
+    for (; i < n; i++) each(i, Count<1>());
+}
+
+// Rows of pixels of this layout. A row may be there twice.
+template <class T, Layout L>
 struct EightRows {
+    static constexpr int kChannels = channelsOf(L), kColours = coloursOf(L);
     T* row[8];
 
-    // The samples x to x + 3 of all rows.
-    Several<V32f, 4> four(ptrdiff_t x) const {
-        if constexpr (Channels != 1) return {{one(x), one(x + 1), one(x + 2), one(x + 3)}};
-        return transpose(
-            Several<V32f, 4>{{loadFours(row[0] + x, row[4] + x), loadFours(row[1] + x, row[5] + x),
-                              loadFours(row[2] + x, row[6] + x), loadFours(row[3] + x, row[7] + x)}});
-    }
-    V32f one(ptrdiff_t x) const {
-        x *= Channels;
-        return V32f{peek(row[0] + x), peek(row[1] + x), peek(row[2] + x), peek(row[3] + x),
-                    peek(row[4] + x), peek(row[5] + x), peek(row[6] + x), peek(row[7] + x)};
-    }
-
-    void putFour(ptrdiff_t x, const Several<V32f, 4>& samples) const {
-        if constexpr (Channels != 1) {
-            for (int i = 0; i < 4; i++) putOne(x + i, samples.at[i]);
+    // Calls put(i, channel, samples of all rows) for every sample of the pixels x + i.
+    template <int Pixels, class Put>
+    void load(ptrdiff_t x, Put put) const {
+        constexpr int kSamples = Pixels * kChannels;
+        x *= kChannels;
+        const auto give = [&](int s, V32f samples) {
+            if (s % kChannels < kColours) put(s / kChannels, s % kChannels, samples);
+        };
+        if constexpr (Pixels == 4) {
+#pragma GCC unroll 4
+            for (int s = 0; s < kSamples; s += 4) {
+                const auto fours = [&](int i) { return loadFours(row[i] + x + s, row[i + 4] + x + s); };
+                const auto four = transpose(Several<V32f, 4>{{fours(0), fours(1), fours(2), fours(3)}});
+#pragma GCC unroll 4
+                for (int i = 0; i < 4; i++) give(s + i, four.at[i]);
+            }
         } else {
-            const Several<V32f, 4> rows = transpose(samples);
-            for (int i = 0; i < 4; i++) storeFours(row[i] + x, row[i + 4] + x, rows.at[i]);
+            for (int s = 0; s < kSamples; s++) {
+                const auto at = [&](int i) { return peek(row[i] + x + s); };
+                give(s, V32f{at(0), at(1), at(2), at(3), at(4), at(5), at(6), at(7)});
+            }
         }
     }
-    void putOne(ptrdiff_t x, V32f samples) const {
-        for (int i = 0; i < 8; i++) poke(row[i] + x * Channels, float(samples[i]));
+
+    // Stores what get(i, channel) gives.
+    template <int Pixels, class Get>
+    void store(ptrdiff_t x, Get get) const {
+        constexpr int kSamples = Pixels * kChannels;
+        x *= kChannels;
+        if constexpr (Pixels == 4) {
+#pragma GCC unroll 4
+            for (int s = 0; s < kSamples; s += 4) {
+                Several<V32f, 4> four;
+#pragma GCC unroll 4
+                for (int i = 0; i < 4; i++) {
+                    const int channel = (s + i) % kChannels;
+                    four.at[i] = channel < kColours ? get((s + i) / kChannels, channel) : V32f{};
+                }
+                four = transpose(four);
+#pragma GCC unroll 4
+                for (int i = 0; i < 4; i++) {
+                    T *const low = row[i] + x + s, *const high = row[i + 4] + x + s;
+                    if constexpr (L == Layout::AC4)
+                        four.at[i] = keepAlpha<float>(loadFours(low, high), four.at[i]);
+                    storeFours(low, high, four.at[i]);
+                }
+            }
+        } else {
+            for (int s = 0; s < kSamples; s++)
+                if (s % kChannels < kColours) {
+                    const V32f samples = get(s / kChannels, s % kChannels);
+                    for (int i = 0; i < 8; i++) poke(row[i] + x + s, float(samples[i]));
+                }
+        }
     }
 };
 
-// A row of a long line, in every lane.
-template <class T, int Channels>
+// One channel of a row for a long line, in every lane.
+template <class T, Layout L>
 struct OneRow {
     T* row;
 
-    V32f one(ptrdiff_t x) const { return splat<V32f>(peek(row + x * Channels)); }
-    Several<V32f, 4> four(ptrdiff_t x) const { return {{one(x), one(x + 1), one(x + 2), one(x + 3)}}; }
-    void putOne(ptrdiff_t x, V32f samples) const { poke(row + x * Channels, float(samples[0])); }
-    void putFour(ptrdiff_t x, const Several<V32f, 4>& samples) const {
-        for (int i = 0; i < 4; i++) putOne(x + i, samples.at[i]);
+    template <int Pixels, class Put>
+    void load(ptrdiff_t x, Put put) const {
+        for (int i = 0; i < Pixels; i++) put(i, 0, splat<V32f>(peek(row + (x + i) * channelsOf(L))));
+    }
+    template <int Pixels, class Get>
+    void store(ptrdiff_t x, Get get) const {
+        for (int i = 0; i < Pixels; i++) poke(row + (x + i) * channelsOf(L), float(get(i, 0)[0]));
     }
 };
 
-// The rows of a channel that sequences take: place(i) of lane i.
-template <class S, int Channels, class T, class Place>
-auto rowsOf(ImageView<T> image, int channel, Place place) {
+// How many channels sequences take at a time, and the rows that they take: place(i) of lane i.
+template <class S, Layout L>
+inline constexpr int kChannelsOf = S::kLanes == 1 ? 1 : coloursOf(L);
+template <class S, Layout L, class T, class Place>
+auto rowsOf(ImageView<T> image, Place place) {
     if constexpr (S::kLanes == 1) {
-        return OneRow<T, Channels>{image.row(place(0)) + channel};
+        return OneRow<T, L>{image.row(place(0))};
     } else {
-        EightRows<T, Channels> rows;
-        for (int i = 0; i < 8; i++) rows.row[i] = image.row(place(i)) + channel;
+        EightRows<T, L> rows;
+        for (int i = 0; i < 8; i++) rows.row[i] = image.row(place(i));
         return rows;
     }
 }
@@ -80,33 +128,23 @@ auto rowsOf(ImageView<T> image, int channel, Place place) {
 // From y on; where there are fewer, the last one fills the other lanes.
 template <class S, class T>
 auto rowsFrom(ImageView<T> image, ptrdiff_t y, ptrdiff_t height) {
-    return rowsOf<S, 1>(image, 0, [&](int i) { return minOf(y + i, height - 1); });
+    return rowsOf<S, Layout::C1>(image, [&](int i) { return minOf(y + i, height - 1); });
 }
 
-// Rows of n complex numbers: two registers of samples are an element.
+// Rows of n complex numbers, whose parts are samples.
 template <bool Inverse, class S, class Rows>
 void loadRows(const Rows& rows, ptrdiff_t n, const S& to) {
-    ptrdiff_t i = 0;
-    for (; i + 2 <= n; i += 2) {
-        const Several<V32f, 4> s = rows.four(2 * i);
-        to.store(i, turned<Inverse>(Lanes{s.at[0], s.at[1]}));
-        to.store(i + 1, turned<Inverse>(Lanes{s.at[2], s.at[3]}));
-    }
-    if (i < n) to.store(i, turned<Inverse>(Lanes{rows.one(2 * i), rows.one(2 * i + 1)}));
+    inSteps<2>(n, [&]<int N>(ptrdiff_t x, Count<N>) {
+        rows.template load<2 * N>(
+            2 * x, [&](int i, int, V32f part) { to.store(x + i / 2, (i % 2 == 1) != Inverse, part); });
+    });
 }
 template <bool Inverse, class S, class Rows>
 void storeRows(const S& from, ptrdiff_t n, const Rows& rows, V32f scale) {
-    const auto element = [&](ptrdiff_t i) { return turned<Inverse>(scaled(from.load(i), scale)); };
-    ptrdiff_t i = 0;
-    for (; i + 2 <= n; i += 2) {
-        const Lanes a = element(i), b = element(i + 1);
-        rows.putFour(2 * i, {{a.re, a.im, b.re, b.im}});
-    }
-    if (i < n) {
-        const Lanes a = element(i);
-        rows.putOne(2 * i, a.re);
-        rows.putOne(2 * i + 1, a.im);
-    }
+    inSteps<2>(n, [&]<int N>(ptrdiff_t x, Count<N>) {
+        rows.template store<2 * N>(
+            2 * x, [&](int i, int) { return from.load(x + i / 2, (i % 2 == 1) != Inverse) * scale; });
+    });
 }
 
 // ---- Eight complex columns -------------------------------------------------------------------------------
@@ -160,12 +198,18 @@ void forColumns(ptrdiff_t width, Each each) {
     for (; x < width; x += S::kLanes) each(SomeColumns(minOf(width - x, ptrdiff_t(S::kLanes))), x);
 }
 
-// The buffers of a plan, as the sequences of groups side by side.
-template <class S, class Columns>
+// N groups, or a long line, in the buffers of a plan. One buffer is to spare, and moves from group to group.
+template <class S, int N>
 struct SideBySide {
-    S of[Columns::kGroups];
+    S of[N];
     SideBySide(const Line& line, float* buffers) {
-        for (int g = 0; g < Columns::kGroups; g++) of[g] = sequencesOf<S>(line, buffers, g);
+        for (int g = 0; g < N; g++) of[g] = sequencesOf<S>(line, buffers, g, N);
+    }
+    void transform(const Line& line) {
+        for (int g = 0; g < N; g++) {
+            if (g) of[g].other = of[g - 1].other;
+            tpx::transform(line, of[g]);
+        }
     }
 };
 

@@ -249,9 +249,9 @@ LineKind LineKind::of(uint64_t length, uint64_t count) {
 }
 bool LineKind::isChirp() const { return !factorsOf(length).complete; }
 uint64_t LineKind::elements() const { return isChirp() ? convolutionLength(length) : length; }
-uint64_t LineKind::bufferBytes() const {
+uint64_t LineKind::bufferBytes(int groups) const {
     constexpr uint64_t kElement = Group::kFloats * sizeof(float);
-    if (!isLong) return 2 * kGroups * elements() * kElement;
+    if (!isLong) return uint64_t(groups + 1) * elements() * kElement;
     return 2 * roundUp(elements() * 2 * sizeof(float), kBlockAlignment) +
            2 * SplitKinds(elements()).rows.length * kElement;
 }
@@ -341,16 +341,16 @@ void lendTables(const Line& from, Line* to) {
 // ---- Transforms ------------------------------------------------------------------------------------------
 
 template <>
-Group sequencesOf<Group>(const Line& line, float* buffers, int group) {
+Group sequencesOf<Group>(const Line& line, float* buffers, int place, int other) {
     const ptrdiff_t floats = ptrdiff_t(line.elements) * Group::kFloats;
-    return {buffers + 2 * group * floats, buffers + (2 * group + 1) * floats};
+    return {buffers + place * floats, buffers + other * floats};
 }
 template <>
-LongLine sequencesOf<LongLine>(const Line& line, float* buffers, int) {
+LongLine sequencesOf<LongLine>(const Line& line, float* buffers, int, int) {
     const Line& split = line.chirp ? *line.chirp->inner : line;
     const auto floats = ptrdiff_t(roundUp(uint64_t(line.elements) * 2, kBlockAlignment / sizeof(float)));
     float* const group = buffers + 2 * floats;
-    return {buffers, buffers + floats, sequencesOf<Group>(*split.split->rows, group, 0)};
+    return {buffers, buffers + floats, sequencesOf<Group>(*split.split->rows, group)};
 }
 
 void transform(const Line& line, Group& group) {

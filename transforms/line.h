@@ -35,6 +35,9 @@ struct Group {
         tpx::store(data + i * kFloats, x.re);
         tpx::store(data + i * kFloats + 8, x.im);
     }
+    // The real parts alone, or the imaginary ones.
+    V32f load(ptrdiff_t i, bool imaginary) const { return tpx::load(data + i * kFloats + 8 * imaginary); }
+    void store(ptrdiff_t i, bool imaginary, V32f x) const { tpx::store(data + i * kFloats + 8 * imaginary, x); }
 };
 
 // One sequence, which stands in every lane that is loaded. The group is for its parts.
@@ -49,6 +52,8 @@ struct LongLine {
         data[2 * i] = x.re[0];
         data[2 * i + 1] = x.im[0];
     }
+    V32f load(ptrdiff_t i, bool imaginary) const { return splat<V32f>(data[2 * i + imaginary]); }
+    void store(ptrdiff_t i, bool imaginary, V32f x) const { data[2 * i + imaginary] = x[0]; }
 };
 
 // ---- Plans -----------------------------------------------------------------------------------------------
@@ -98,7 +103,8 @@ struct LineKind {
     static LineKind of(uint64_t length, uint64_t count);
     bool isChirp() const;
     uint64_t elements() const; // those of the convolution, if there is one
-    uint64_t bufferBytes() const;
+    // Those of so many groups, which share the buffer that each is transformed into, or of one long line.
+    uint64_t bufferBytes(int groups) const;
 };
 
 // Takes a plan and its tables from the block; null if only counted. One that shares tables is lent them later.
@@ -111,10 +117,9 @@ void lendTables(const Line& from, Line* to);
 
 // ---- Transforms ------------------------------------------------------------------------------------------
 
-// The sequences of a line in buffers of its bufferBytes, which have room for two groups.
-inline constexpr int kGroups = 2;
+// Sequences in buffers of a line's bufferBytes: at one place, and with the other buffer at another.
 template <class S>
-S sequencesOf(const Line& line, float* buffers, int group = 0);
+S sequencesOf(const Line& line, float* buffers, int place = 0, int other = 1);
 
 // The inverse is the same with real and imaginary parts exchanged, before and after.
 void transform(const Line& line, Group& group);

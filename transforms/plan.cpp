@@ -69,7 +69,9 @@ Lines layOutLines(BlockLayout& block, const Shape& shape) {
     return lines;
 }
 
-uint64_t bufSizeOf(LineKind kind) { return kind.length > uint64_t(kShortLine) ? kind.bufferBytes() : 0; }
+uint64_t bufSizeOf(LineKind kind, Domain domain) {
+    return kind.length > uint64_t(kShortLine) ? kind.bufferBytes(groupsOf(domain)) : 0;
+}
 
 struct PlanSizes {
     uint64_t spec, init, work;
@@ -84,7 +86,7 @@ PlanSizes sizesOf(const Shape& shape) {
     BlockLayout spec, work;
     layOutLines(spec, shape);
     // By contract there is some room at least, though short lines use none; one row of them may do without.
-    const uint64_t buffers = maxOf(bufSizeOf(rows), bufSizeOf(columns));
+    const uint64_t buffers = maxOf(bufSizeOf(rows, shape.domain), bufSizeOf(columns, shape.domain));
     if (buffers) layOutWork(work, buffers, shape.domain, columns.length);
     const uint64_t room = maxOf(shape.isReal() ? 16 * rows.length : 0, 64 * columns.length);
     const bool none = !shape.isPowerOfTwo && columns.length == 1 && !buffers;
@@ -102,14 +104,14 @@ TpxStatus getSizes(const Shape& shape, int flag, int* specSize, int* initSize, i
     return tpxOk;
 }
 
-void describeLine(Line* line, int told, LineKind kind, int flag, int hint, Tpx32s tag) {
+void describeLine(Line* line, int told, LineKind kind, int flag, int hint, Tpx32s tag, Domain domain) {
     line->tag = tag;
     line->length = told;
     line->doFwdScale = flag == tpxFftDivForward || flag == tpxFftDivBySqrt;
     line->doInvScale = flag == tpxFftDivInverse || flag == tpxFftDivBySqrt;
     line->scale = flag == tpxFftDivBySqrt ? float(1 / squareRoot(double(kind.length))) : 1 / float(kind.length);
     line->hint = hint;
-    line->bufSize = Tpx32s(bufSizeOf(kind));
+    line->bufSize = Tpx32s(bufSizeOf(kind, domain));
 }
 
 template <class Spec>
@@ -127,17 +129,17 @@ TpxStatus initPlan(int x, int y, int flag, int hint, Spec* callersSpec, Tpx8u* i
     BlockLayout block(spec);
     const Lines lines = layOutLines(block, shape);
     const Tpx32s complexTag = shape.isPowerOfTwo ? 4 : 13, realTag = shape.isPowerOfTwo ? 6 : 15;
-    describeLine(lines.rows, x, shape.rows(), flag, hint, shape.isReal() ? realTag : complexTag);
+    describeLine(lines.rows, x, shape.rows(), flag, hint, shape.isReal() ? realTag : complexTag, shape.domain);
     initLine(lines.rows, shape.rows(), alignUp(initBuf));
     if (lines.columns) {
-        describeLine(lines.columns, y, shape.columns(), flag, hint, complexTag);
+        describeLine(lines.columns, y, shape.columns(), flag, hint, complexTag, shape.domain);
         if (x == y)
             lendTables(*lines.rows, lines.columns);
         else
             initLine(lines.columns, shape.columns(), alignUp(initBuf));
     }
     if (lines.realColumns) {
-        describeLine(lines.realColumns, y, shape.columns(), flag, hint, realTag);
+        describeLine(lines.realColumns, y, shape.columns(), flag, hint, realTag, shape.domain);
         lendTables(*lines.columns, lines.realColumns);
     }
     spec->lenX = x;

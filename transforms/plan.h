@@ -32,19 +32,23 @@ inline constexpr bool kIsPowerOfTwo =
 template <class Spec>
 inline constexpr Tpx32s kTagOf = (kIsPowerOfTwo<Spec> ? 25 : 27) + (kDomainOf<Spec> == Domain::Real);
 
-// A work buffer holds the buffers of a group or a long line and, of real transforms, column 0 and the last
+// Columns of two groups are taken at a time, and rows of all channels.
+inline constexpr int kColumnGroups = 2, kMostChannels = 4;
+inline constexpr int groupsOf(Domain domain) { return domain == Domain::Real ? kMostChannels : kColumnGroups; }
+
+// A work buffer holds the buffers of groups or a long line and, of real transforms, column 0 and the last
 // column of each channel. Where all lines are short they are on the stack.
 struct WorkParts {
     float *buffers, *edges;
 };
-inline constexpr uint64_t kEdges = 2 * 4;
+inline constexpr uint64_t kEdges = 2 * kMostChannels;
 inline WorkParts layOutWork(BlockLayout& block, uint64_t bufferBytes, Domain domain, uint64_t height) {
     WorkParts parts;
     parts.buffers = block.take<float>(bufferBytes / sizeof(float));
     parts.edges = block.take<float>(domain == Domain::Real ? kEdges * height : 0);
     return parts;
 }
-inline constexpr uint64_t kShortBytes = 2 * kGroups * kShortLine * Group::kFloats * sizeof(float);
+inline constexpr uint64_t kShortBytes = (kMostChannels + 1) * kShortLine * Group::kFloats * sizeof(float);
 
 // What a processing call knows of its plan.
 struct Transform : WorkParts {

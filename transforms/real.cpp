@@ -20,24 +20,27 @@ namespace {
 
 // Eight columns of samples, or one, and those that are 8 pixels further right; of so many groups, which are 16
 // pixels apart.
-template <int Channels, int Whole>
+template <Layout L, int Whole>
 struct ColumnPairs {
-    static constexpr int kGroups = Whole ? Whole : 1;
+    static constexpr int kChannels = channelsOf(L), kGroups = Whole ? Whole : 1;
     B32f first, second; // if they are not whole: lanes that exist, and are not of an alpha that stays
 
     Pair<V32f> load(const float* p, int group) const {
-        p += group * 16 * Channels;
-        if constexpr (Whole) return {tpx::load(p), tpx::load(p + 8 * Channels)};
-        return {loadLanes(p, first), loadLanes(p + 8 * Channels, second)};
+        p += group * 16 * kChannels;
+        if constexpr (Whole) return {tpx::load(p), tpx::load(p + 8 * kChannels)};
+        return {loadLanes(p, first), loadLanes(p + 8 * kChannels, second)};
     }
     void store(float* p, int group, V32f a, V32f b) const {
-        p += group * 16 * Channels;
-        if constexpr (Whole) {
+        p += group * 16 * kChannels;
+        if constexpr (Whole && L == Layout::AC4) {
+            tpx::store(p, keepAlpha<float>(tpx::load(p), a));
+            tpx::store(p + 8 * kChannels, keepAlpha<float>(tpx::load(p + 8 * kChannels), b));
+        } else if constexpr (Whole) {
             tpx::store(p, a);
-            tpx::store(p + 8 * Channels, b);
+            tpx::store(p + 8 * kChannels, b);
         } else {
             storeLanes(p, first, a);
-            storeLanes(p + 8 * Channels, second, b);
+            storeLanes(p + 8 * kChannels, second, b);
         }
     }
 };
@@ -49,13 +52,13 @@ void forColumnPairs(ptrdiff_t width, Each each) {
     constexpr ptrdiff_t kBlock = 16 * kChannels;
     const ptrdiff_t samples = width * kChannels;
     ptrdiff_t block = 0;
-    if constexpr (L != Layout::AC4 && S::kLanes == 8) {
-        const auto whole = [&]<int N>(std::integral_constant<int, N>) {
+    if constexpr (S::kLanes == 8) {
+        const auto whole = [&]<int N>(Count<N>) {
             for (; block + N * kBlock <= samples; block += N * kBlock)
-                for (ptrdiff_t x = block; x < block + kBlock / 2; x += 8) each(ColumnPairs<kChannels, N>(), x);
+                for (ptrdiff_t x = block; x < block + kBlock / 2; x += 8) each(ColumnPairs<L, N>(), x);
         };
-        whole(std::integral_constant<int, kGroups>());
-        whole(std::integral_constant<int, 1>());
+        whole(Count<kColumnGroups>());
+        whole(Count<1>());
     }
     const auto lanes = [](ptrdiff_t n) {
         const B32f existing = firstLanes(minOf(n, ptrdiff_t(S::kLanes)));
@@ -64,7 +67,7 @@ void forColumnPairs(ptrdiff_t width, Each each) {
     for (; block < samples; block += kBlock)
         for (ptrdiff_t x = block; x < block + kBlock / 2 && x < samples; x += S::kLanes)
             if (L != Layout::AC4 || S::kLanes == 8 || x % 4 < 3)
-                each(ColumnPairs<kChannels, 0>{lanes(samples - x), lanes(samples - x - kBlock / 2)}, x);
+                each(ColumnPairs<L, 0>{lanes(samples - x), lanes(samples - x - kBlock / 2)}, x);
 }
 
 template <Layout L, class S>
@@ -75,13 +78,13 @@ void columnsForward(const Transform& plan, ImageView<const float> from, ImageVie
     forColumnPairs<L, S>(plan.size.width, [&]<class Columns>(const Columns& columns, ptrdiff_t x) {
         const ImageView<const float> src = from.from(x, 0);
         const ImageView<float> dst = to.from(x, 0);
-        SideBySide<S, Columns> groups(*plan.columns, plan.buffers);
+        SideBySide<S, Columns::kGroups> groups(*plan.columns, plan.buffers);
         for (ptrdiff_t y = 0; y < n; y++)
             for (int g = 0; g < Columns::kGroups; g++) {
                 const Pair<V32f> samples = columns.load(src.row(y), g);
                 groups.of[g].store(y, {samples.low, samples.high});
             }
-        for (S& sequences : groups.of) transform(*plan.columns, sequences);
+        groups.transform(*plan.columns);
         const auto storeReal = [&](ptrdiff_t k) {
             for (int g = 0; g < Columns::kGroups; g++) {
                 const Lanes z = scaled(groups.of[g].load(k), scale);
@@ -105,7 +108,7 @@ void columnsInverse(const Transform& plan, ImageView<float> image) {
     const V32f scale = splat<V32f>(scaleOf(*plan.columns, true));
     forColumnPairs<L, S>(plan.size.width, [&]<class Columns>(const Columns& columns, ptrdiff_t x) {
         const ImageView<float> strip = image.from(x, 0);
-        SideBySide<S, Columns> groups(*plan.columns, plan.buffers);
+        SideBySide<S, Columns::kGroups> groups(*plan.columns, plan.buffers);
         const auto putReal = [&](ptrdiff_t k) {
             for (int g = 0; g < Columns::kGroups; g++) {
                 const Pair<V32f> re = columns.load(strip.row(k), g);
@@ -121,7 +124,7 @@ void columnsInverse(const Transform& plan, ImageView<float> image) {
                 groups.of[g].store(n - k, turned<true>(z.second));
             }
         if (n % 2 == 0) putReal(n / 2);
-        for (S& sequences : groups.of) transform(*plan.columns, sequences);
+        groups.transform(*plan.columns);
         for (ptrdiff_t y = 0; y < n; y++)
             for (int g = 0; g < Columns::kGroups; g++) {
                 const Lanes z = turned<true>(scaled(groups.of[g].load(y), scale));
@@ -170,24 +173,37 @@ inline Lanes chosen(B32f special, Lanes a, Lanes b) {
     return {select(special, a.re, b.re), select(special, a.im, b.im)};
 }
 
-template <int Channels, class S>
-void rowsForward(const Transform& plan, ImageView<float> image, const RowPairs& pairs, int channel) {
-    const ptrdiff_t n = plan.size.width, pairsOfColumns = (n - 1) / 2;
-    const auto rows = rowsOf<S, Channels>(image, channel, [&](int i) { return pairs.k[i]; });
-    const auto mirrors = rowsOf<S, Channels>(image, channel, [&](int i) { return pairs.mirror[i]; });
-    S sequences = sequencesOf<S>(*plan.rows, plan.buffers);
-    ptrdiff_t x = 0;
-    for (; x + 4 <= n; x += 4) {
-        const Several<V32f, 4> re = rows.four(x), im = mirrors.four(x);
-        for (int i = 0; i < 4; i++) sequences.store(x + i, {re.at[i], im.at[i]});
-    }
-    for (; x < n; x++) sequences.store(x, {rows.one(x), mirrors.one(x)});
+template <class S, Layout L, class T>
+auto rowsAt(ImageView<T> image, int channel, const ptrdiff_t (&rowOfLane)[8]) {
+    return rowsOf<S, L>(image.from(channel, 0), [&](int i) { return rowOfLane[i]; });
+}
 
-    transform(*plan.rows, sequences);
+// Rows of one channel, or of as many from there on as the sequences take at a time.
+template <Layout L, class S>
+void rowPairsForward(const Transform& plan, ImageView<float> image, const RowPairs& pairs, int channel) {
+    constexpr int kChannels = kChannelsOf<S, L>;
+    const ptrdiff_t n = plan.size.width, pairsOfColumns = (n - 1) / 2;
+    const auto rows = rowsAt<S, L>(image, channel, pairs.k),
+               mirrors = rowsAt<S, L>(image, channel, pairs.mirror);
+    SideBySide<S, kChannels> groups(*plan.rows, plan.buffers);
+    inSteps<4>(n, [&]<int N>(ptrdiff_t x, Count<N>) {
+        rows.template load<N>(x, [&](int i, int c, V32f re) { groups.of[c].store(x + i, false, re); });
+        mirrors.template load<N>(x, [&](int i, int c, V32f im) { groups.of[c].store(x + i, true, im); });
+    });
+
+    groups.transform(*plan.rows);
     const float factor = scaleOf(*plan.rows, false);
     const V32f scale = splat<V32f>(factor), half = splat<V32f>(factor / 2);
-    const auto spectra = [&](ptrdiff_t j) {
-        const Lanes z = sequences.load(j), mirror = sequences.load(n - j);
+    for (int c = 0; c < kChannels; c++) {
+        const auto packEdge = [&](bool last, ptrdiff_t j) {
+            storeEdge(plan.edge(channel + c, last), plan.size.height, pairs,
+                      scaled(groups.of[c].load(j), scale));
+        };
+        packEdge(false, 0);
+        if (n % 2 == 0) packEdge(true, n / 2);
+    }
+    const auto spectra = [&](int c, ptrdiff_t j) {
+        const Lanes z = groups.of[c].load(j), mirror = groups.of[c].load(n - j);
         Twins t = {scaled(z, scale), scaled(conjugate(mirror), scale)};
         if (pairs.anySpecial) {
             const Twins s = takeApart(z, mirror);
@@ -196,67 +212,56 @@ void rowsForward(const Transform& plan, ImageView<float> image, const RowPairs& 
         }
         return t;
     };
-    storeEdge(plan.edge(channel, false), plan.size.height, pairs, scaled(sequences.load(0), scale));
-    if (n % 2 == 0)
-        storeEdge(plan.edge(channel, true), plan.size.height, pairs, scaled(sequences.load(n / 2), scale));
-    ptrdiff_t j = 1;
-    for (; j + 1 <= pairsOfColumns; j += 2) {
-        const Twins a = spectra(j), b = spectra(j + 1);
-        mirrors.putFour(2 * j - 1, {{a.second.re, a.second.im, b.second.re, b.second.im}});
-        rows.putFour(2 * j - 1, {{a.first.re, a.first.im, b.first.re, b.first.im}});
-    }
-    if (j <= pairsOfColumns) {
-        const Twins a = spectra(j);
-        mirrors.putOne(2 * j - 1, a.second.re);
-        mirrors.putOne(2 * j, a.second.im);
-        rows.putOne(2 * j - 1, a.first.re);
-        rows.putOne(2 * j, a.first.im);
-    }
+    inSteps<2>(pairsOfColumns, [&]<int N>(ptrdiff_t before, Count<N>) {
+        const ptrdiff_t j = before + 1;
+        Twins t[N][kChannels];
+        for (int i = 0; i < N; i++)
+            for (int c = 0; c < kChannels; c++) t[i][c] = spectra(c, j + i);
+        const auto part = [](Lanes z, int i) { return i % 2 ? z.im : z.re; };
+        mirrors.template store<2 * N>(2 * j - 1, [&](int i, int c) { return part(t[i / 2][c].second, i); });
+        rows.template store<2 * N>(2 * j - 1, [&](int i, int c) { return part(t[i / 2][c].first, i); });
+    });
 }
 
-template <int Channels, class S>
-void rowsInverse(const Transform& plan, ImageView<const float> src, ImageView<float> dst, const RowPairs& pairs,
-                 int channel) {
+template <Layout L, class S>
+void rowPairsInverse(const Transform& plan, ImageView<const float> src, ImageView<float> dst,
+                     const RowPairs& pairs, int channel) {
+    constexpr int kChannels = kChannelsOf<S, L>;
     const ptrdiff_t n = plan.size.width, pairsOfColumns = (n - 1) / 2;
-    S sequences = sequencesOf<S>(*plan.rows, plan.buffers);
-    const auto put = [&](ptrdiff_t j, Lanes z) { sequences.store(j, turned<true>(z)); };
-    const auto putSpectra = [&](ptrdiff_t j, Lanes a, Lanes b) {
+    SideBySide<S, kChannels> groups(*plan.rows, plan.buffers);
+    const auto rows = rowsAt<S, L>(src, channel, pairs.k), mirrors = rowsAt<S, L>(src, channel, pairs.mirror);
+    const auto put = [&](int c, ptrdiff_t j, Lanes z) { groups.of[c].store(j, turned<true>(z)); };
+    const auto putSpectra = [&](int c, ptrdiff_t j, Lanes a, Lanes b) {
         Twins z = {a, conjugate(b)};
         if (pairs.anySpecial) {
             const Twins s = putTogether(a, b);
             z = {chosen(pairs.special, s.first, z.first), chosen(pairs.special, s.second, z.second)};
         }
-        put(j, z.first);
-        put(n - j, z.second);
+        put(c, j, z.first);
+        put(c, n - j, z.second);
     };
-    put(0, loadEdge(plan.edge(channel, false), plan.size.height, pairs));
-    if (n % 2 == 0) put(n / 2, loadEdge(plan.edge(channel, true), plan.size.height, pairs));
-    const auto rows = rowsOf<S, Channels>(src, channel, [&](int i) { return pairs.k[i]; });
-    const auto mirrors = rowsOf<S, Channels>(src, channel, [&](int i) { return pairs.mirror[i]; });
-    ptrdiff_t j = 1;
-    for (; j + 1 <= pairsOfColumns; j += 2) {
-        const Several<V32f, 4> a = rows.four(2 * j - 1), b = mirrors.four(2 * j - 1);
-        putSpectra(j, {a.at[0], a.at[1]}, {b.at[0], b.at[1]});
-        putSpectra(j + 1, {a.at[2], a.at[3]}, {b.at[2], b.at[3]});
+    inSteps<2>(pairsOfColumns, [&]<int N>(ptrdiff_t before, Count<N>) {
+        const ptrdiff_t j = before + 1;
+        V32f a[2 * N][kChannels], b[2 * N][kChannels];
+        rows.template load<2 * N>(2 * j - 1, [&](int i, int c, V32f part) { a[i][c] = part; });
+        mirrors.template load<2 * N>(2 * j - 1, [&](int i, int c, V32f part) { b[i][c] = part; });
+        for (int i = 0; i < 2 * N; i += 2)
+            for (int c = 0; c < kChannels; c++)
+                putSpectra(c, j + i / 2, {a[i][c], a[i + 1][c]}, {b[i][c], b[i + 1][c]});
+    });
+    for (int c = 0; c < kChannels; c++) {
+        put(c, 0, loadEdge(plan.edge(channel + c, false), plan.size.height, pairs));
+        if (n % 2 == 0) put(c, n / 2, loadEdge(plan.edge(channel + c, true), plan.size.height, pairs));
     }
-    if (j <= pairsOfColumns)
-        putSpectra(j, {rows.one(2 * j - 1), rows.one(2 * j)}, {mirrors.one(2 * j - 1), mirrors.one(2 * j)});
 
-    transform(*plan.rows, sequences);
+    groups.transform(*plan.rows);
     const V32f scale = splat<V32f>(scaleOf(*plan.rows, true));
-    const auto element = [&](ptrdiff_t x) { return turned<true>(scaled(sequences.load(x), scale)); };
-    const auto dstRows = rowsOf<S, Channels>(dst, channel, [&](int i) { return pairs.k[i]; });
-    const auto dstMirrors = rowsOf<S, Channels>(dst, channel, [&](int i) { return pairs.mirror[i]; });
-    ptrdiff_t x = 0;
-    for (; x + 4 <= n; x += 4) {
-        const Lanes z[4] = {element(x), element(x + 1), element(x + 2), element(x + 3)};
-        dstMirrors.putFour(x, {{z[0].im, z[1].im, z[2].im, z[3].im}});
-        dstRows.putFour(x, {{z[0].re, z[1].re, z[2].re, z[3].re}});
-    }
-    for (; x < n; x++) {
-        dstMirrors.putOne(x, element(x).im);
-        dstRows.putOne(x, element(x).re);
-    }
+    const auto dstRows = rowsAt<S, L>(dst, channel, pairs.k),
+               dstMirrors = rowsAt<S, L>(dst, channel, pairs.mirror);
+    inSteps<4>(n, [&]<int N>(ptrdiff_t x, Count<N>) {
+        dstMirrors.template store<N>(x, [&](int i, int c) { return groups.of[c].load(x + i, false) * scale; });
+        dstRows.template store<N>(x, [&](int i, int c) { return groups.of[c].load(x + i, true) * scale; });
+    });
 }
 
 // Calls move(y, x, value in the work buffer) for columns 0 and W - 1 of a packed spectrum, x counting samples.
@@ -272,22 +277,28 @@ void forEdges(const Transform& plan, Move move) {
 
 // ---- Calls -----------------------------------------------------------------------------------------------
 
+// Calls each(pairs, channel) for all rows and channels, as many at a time as the sequences take.
+template <Layout L, class S, class Each>
+void forRowPairs(ptrdiff_t height, Each each) {
+    for (ptrdiff_t k = 0; k <= (height - 1) / 2; k += S::kLanes)
+        for (int channel = 0; channel < coloursOf(L); channel += kChannelsOf<S, L>)
+            each(RowPairs(k, S::kLanes, height), channel);
+}
+
 template <Layout L, class S>
 void rowsForward(const Transform& plan, ImageView<float> image) {
-    constexpr int kChannels = channelsOf(L);
-    for (ptrdiff_t k = 0; k <= (plan.size.height - 1) / 2; k += S::kLanes)
-        for (int channel = 0; channel < coloursOf(L); channel++)
-            rowsForward<kChannels, S>(plan, image, RowPairs(k, S::kLanes, plan.size.height), channel);
+    forRowPairs<L, S>(plan.size.height, [&](const RowPairs& pairs, int channel) {
+        rowPairsForward<L, S>(plan, image, pairs, channel);
+    });
     forEdges<L>(plan, [&](ptrdiff_t y, ptrdiff_t x, float value) { poke(image.row(y) + x, value); });
 }
 
 template <Layout L, class S>
 void rowsInverse(const Transform& plan, ImageView<const float> src, ImageView<float> dst) {
-    constexpr int kChannels = channelsOf(L);
     forEdges<L>(plan, [&](ptrdiff_t y, ptrdiff_t x, float& value) { value = peek(src.row(y) + x); });
-    for (ptrdiff_t k = 0; k <= (plan.size.height - 1) / 2; k += S::kLanes)
-        for (int channel = 0; channel < coloursOf(L); channel++)
-            rowsInverse<kChannels, S>(plan, src, dst, RowPairs(k, S::kLanes, plan.size.height), channel);
+    forRowPairs<L, S>(plan.size.height, [&](const RowPairs& pairs, int channel) {
+        rowPairsInverse<L, S>(plan, src, dst, pairs, channel);
+    });
 }
 
 template <Layout L>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Fourier transforms of images against models in extended precision.
 #include <cmath>
+#include <numbers>
 #include <numeric>
 
 #include "models/fourier.h"
@@ -164,7 +165,7 @@ TYPED_TEST(RealImages, ArePackedAsTheModel) {
     }
 }
 
-// Every channel gives the bits of the image that it would be alone, in place too; alpha stays.
+// Every channel gives the bits of the image that it would be alone, in place too; alpha and the source stay.
 TYPED_TEST(RealImages, ChannelsAreImages) {
     int count = 0;
     for (const TpxiSize size : {TpxiSize{16, 16}, TpxiSize{32, 8}, TpxiSize{1, 16}, TpxiSize{8, 1},
@@ -177,10 +178,12 @@ TYPED_TEST(RealImages, ChannelsAreImages) {
             for (Direction d : {kForward, kInverse}) {
                 const int channels = c == kC1 ? 1 : c == kC3 ? 3 : 4;
                 const auto image = [&](int n) { return Image(size.width, size.height, n, lieOf(++count)); };
-                Image src = image(channels), dst = image(channels), same = image(channels);
+                Image src = image(channels), dst = image(channels), same = image(channels),
+                      before = image(channels);
                 src.randomise(unsigned(count));
                 dst.randomise(unsigned(count + 1));
                 same.copySamplesFrom(src);
+                before.copySamplesFrom(src);
                 std::vector<float> alpha;
                 for (int y = 0; y < size.height; y++)
                     for (int x = 0; x < size.width; x++) alpha.push_back(dst.at(x, y, channels - 1));
@@ -200,6 +203,7 @@ TYPED_TEST(RealImages, ChannelsAreImages) {
                         }
                 }
                 EXPECT_TRUE(dst.paddingIntact() && same.paddingIntact());
+                EXPECT_TRUE(matches(src, [&](int x, int y, int k) { return before.at(x, y, k); }));
             }
     }
 }
@@ -210,11 +214,11 @@ TYPED_TEST(RealImages, ChannelsAreImages) {
 // test.
 class Lines : public testing::TestWithParam<int> {};
 TEST_P(Lines, OfEveryLength) {
-    for (int n = 1 + GetParam(); n <= 2048; n += 8) {
+    for (int n = 1 + GetParam(); n <= 4096; n += n <= 2048 ? 8 : 24) { // every length, and then a third
         std::mt19937 random(static_cast<unsigned>(n));
         const bool tall = n % 16 == 3;
         const TpxiSize size = tall ? TpxiSize{1, n} : TpxiSize{n, 1};
-        const FourierPlan<ComplexLengths> plan(size, tpxFftNoDivide);
+        const FourierPlan<ComplexLengths> plan(size, tpxFftNoDivide, size_t(n / 8 % 2));
         Image sparse(size.width, size.height, 2), spectrum(size.width, size.height, 2);
         sparse.fill([](int, int, int) { return 0; });
         Numbers want(static_cast<size_t>(n));
@@ -261,6 +265,36 @@ TEST(LongLines, AreTheModels) {
         Real exact;
         for (const Number z : numbersOf(re)) exact.push_back(z.real() * area(size));
         expectClose(back, exact);
+    }
+}
+
+// Of a few numbers among zeros, at some frequencies.
+TEST(LongLines, OfMillions) {
+    for (const int n : {1 << 20, 1000003}) {
+        const FourierPlan<ComplexLengths> plan({n, 1});
+        Image line(n, 1, 2);
+        line.fill([](int, int, int) { return 0; });
+        std::mt19937 random(static_cast<unsigned>(n));
+        const auto any = [&] { return int(random() % unsigned(n)); };
+        std::vector<std::pair<int64_t, Number>> numbers;
+        for (int i = 0; i < 5; i++) {
+            const int x = any();
+            const float re = float(any()), im = float(any());
+            line.set(x, 0, 0, re);
+            line.set(x, 0, 1, im);
+            numbers.emplace_back(x, Number(re, im));
+        }
+        plan.runInPlace(kForward, line);
+        Distance distance;
+        for (int i = 0; i < 1000; i++) {
+            const int k = any();
+            Number want;
+            for (const auto& [x, z] : numbers)
+                want += times(z, std::polar(1.0L, -2 * std::numbers::pi_v<long double> * (x * k % n) / n));
+            distance.add(line.at(k, 0, 0), want.real());
+            distance.add(line.at(k, 0, 1), want.imag());
+        }
+        EXPECT_LE(distance.perDoubling(size_t(n)), kBound) << n;
     }
 }
 
@@ -386,6 +420,39 @@ TEST(PlanSizes, OfShortLinesAreFixed) {
             ASSERT_EQ(tpxiFFTGetSize_C_32fc(x, y, 8, 0, &s.spec, &s.init, &s.work), tpxOk);
             EXPECT_EQ(s.work, (64 << y) + 64);
         }
+}
+
+// Both plans of a real image's columns have the same tables.
+TEST(PlanSizes, CountTablesOnce) {
+    for (const TpxiSize size : {TpxiSize{1024, 2048}, TpxiSize{16, 1009}, TpxiSize{3, 36864}}) {
+        PlanSizes real{}, complex{};
+        ASSERT_EQ(RealLengths::getSizes(size, 8, real), tpxOk);
+        ASSERT_EQ(ComplexLengths::getSizes(size, 8, complex), tpxOk);
+        EXPECT_EQ(real.spec - complex.spec, 256) << size.height;
+    }
+}
+
+// Columns of equal samples, or rows, have equal spectra to the bit, wherever they are among others or alone.
+TEST(Plans, GiveTheSameWhereverLinesLie) {
+    const auto sizeOf = [](bool tall, int length, int lines) {
+        return tall ? TpxiSize{lines, length} : TpxiSize{length, lines};
+    };
+    for (int length : {6, 16, 60})
+        for (int lines = 1; lines <= 41; lines++)
+            for (bool tall : {false, true})
+                for (Direction d : {kForward, kInverse}) {
+                    const TpxiSize one = sizeOf(tall, length, 1), size = sizeOf(tall, length, lines);
+                    Image line(one.width, one.height, 2), alone(one.width, one.height, 2);
+                    line.randomise(unsigned(length));
+                    FourierPlan<ComplexLengths>(one).run(d, line, alone);
+                    // An impulse in the other direction makes them equal, without rounding.
+                    Image src(size.width, size.height, 2), dst(size.width, size.height, 2);
+                    src.fill([&](int x, int y, int c) { return (tall ? x : y) ? 0 : line.at(x, y, c); });
+                    FourierPlan<ComplexLengths>(size).run(d, src, dst);
+                    ASSERT_TRUE(matches(
+                        dst, [&](int x, int y, int c) { return alone.at(tall ? 0 : x, tall ? y : 0, c); }))
+                        << length << " x " << lines;
+                }
 }
 
 // A plan serves calls without being written, and makes the same of images wherever they lie.
@@ -514,8 +581,12 @@ TEST(PlanSizes, CheckInOrder) {
     }
     for (const auto& [x, y] : {std::pair{0x7FFFFFFF, 1}, {1 << 30, 1 << 30}, {3, 134217720}})
         EXPECT_LT(lengthsR({x, y, 8, sizes, sizes + 1, sizes + 2}), tpxOk);
+    for (int length : {1 << 27, 1 << 30}) // powers of two are only too large for memory
+        EXPECT_EQ(lengthsC({length, 1, 8, sizes, sizes + 1, sizes + 2}), tpxErrSizeTooLarge);
     EXPECT_EQ(lengthsR({67108879, 1, 8, sizes, sizes + 1, sizes + 2}), tpxErrSize); // a prime
+    EXPECT_EQ(lengthsC({67108879, 1, 8, sizes, sizes + 1, sizes + 2}), tpxErrSizeTooLarge);
     EXPECT_EQ(std::count(sizes, sizes + 3, -1), 3);
+    EXPECT_EQ(lengthsR({129140163, 1, 8, sizes, sizes + 1, sizes + 2}), tpxOk); // 3^17
 }
 
 TYPED_TEST(Plans, CheckInitialisersInOrder) {

@@ -89,7 +89,8 @@ struct ComplexLengths {
 enum Direction { kForward, kInverse };
 enum Channels { kC1, kC3, kC4, kAC4 };
 
-// Plan and buffers have exactly the sizes told, and end at unreadable pages; those of size 0 are null.
+// Plan and buffers have exactly the sizes told, and end at unreadable pages, or start behind them if misaligned
+// by an odd number; those of size 0 are null.
 template <class Calls>
 class FourierPlan {
  public:
@@ -98,9 +99,10 @@ class FourierPlan {
 
     explicit FourierPlan(TpxiSize size, int flag = tpxFftNoDivide, size_t misalign = 0) : size_(size) {
         EXPECT_EQ(Calls::getSizes(size, flag, sizes_), tpxOk);
-        spec_ = std::make_unique<GuardedBytes>(size_t(sizes_.spec), misalign);
-        work_ = std::make_unique<GuardedBytes>(size_t(sizes_.work), misalign);
-        GuardedBytes init{size_t(sizes_.init), misalign};
+        const Edge edge = misalign % 2 ? Edge::Start : Edge::End;
+        spec_ = std::make_unique<GuardedBytes>(size_t(sizes_.spec), misalign, edge);
+        work_ = std::make_unique<GuardedBytes>(size_t(sizes_.work), misalign, edge);
+        GuardedBytes init{size_t(sizes_.init), misalign, edge};
         spec_->fill(0xFF);
         work_->fill(0xFF);
         init.fill(0xFF);
