@@ -17,7 +17,7 @@ gives the status. `print(tpxi.prototypes["tpxiSet_8u_C1R"])` shows its declarati
 from .arithmetic import absolute, add, exp, log, maximum, minimum, multiply, sqrt, square, subtract
 from .filters import (DERIVATIVES, box, correlate, derivative, hipass, laplace, median, median_color, median_cross,
                       median_weighted, sharpen, window_sum)
-from .fourier import fft2, ifft2, pack_fft2, pack_ifft2, unpack
+from .fourier import FourierPlan, fft2, ifft2, pack_fft2, pack_ifft2, unpack
 from .images import pointer
 from .library import c, declared, ffi
 from .movement import (aligned, convert, copy, duplicate, fill, from_bits, merge, pad, split, swap_channels,
@@ -34,12 +34,13 @@ statuses = declared.statuses
 __version__ = ffi.string(c.tpxiGetLibVersion().version).decode()
 
 __all__ = [
-    "DERIVATIVES", "Error", "ResizePlan", "WarpPlan", "Warned", "absolute", "add", "aligned", "block_min_max",
-    "bound_of", "box", "c", "convert", "copy", "correlate", "derivative", "dot", "duplicate", "exp", "ffi", "fft2",
-    "fill", "from_bits", "hipass", "histogram", "ifft2", "laplace", "log", "lookup", "map_to_quad", "max", "max_at",
-    "maximum", "mean", "median", "median_color", "median_cross", "median_weighted", "merge", "min", "min_at",
-    "min_max", "minimum", "multiply", "norm", "norm_of_difference", "pack_fft2", "pack_ifft2", "pad", "palette",
-    "pointer", "prototypes", "quad_of", "relative_norm", "remap", "resize", "rotation", "sharpen", "source_of_tile",
-    "split", "sqrt", "square", "statuses", "subtract", "sum", "swap_channels", "threshold_above", "threshold_below",
-    "threshold_outside", "to_bits", "unpack", "warp", "window_sum",
+    "DERIVATIVES", "Error", "FourierPlan", "ResizePlan", "Warned", "WarpPlan", "absolute", "add", "aligned",
+    "block_min_max", "bound_of", "box", "c", "convert", "copy", "correlate", "derivative", "dot", "duplicate",
+    "exp", "ffi", "fft2", "fill", "from_bits", "hipass", "histogram", "ifft2", "laplace", "log", "lookup",
+    "map_to_quad", "max", "max_at", "maximum", "mean", "median", "median_color", "median_cross", "median_weighted",
+    "merge", "min", "min_at", "min_max", "minimum", "multiply", "norm", "norm_of_difference", "pack_fft2",
+    "pack_ifft2", "pad", "palette", "pointer", "prototypes", "quad_of", "relative_norm", "remap", "resize",
+    "rotation", "sharpen", "source_of_tile", "split", "sqrt", "square", "statuses", "subtract", "sum",
+    "swap_channels", "threshold_above", "threshold_below", "threshold_outside", "to_bits", "unpack", "warp",
+    "window_sum",
 ]

@@ -1,10 +1,12 @@
 # SPDX-License-Identifier: Apache-2.0
-"""Two-dimensional Fourier transforms of any size, in single precision.
+"""Two-dimensional Fourier transforms of any size, in single precision: plans, and calls that make one for themselves.
 
 norm says where to divide, as in numpy: "backward" in inverse transforms, "forward" in forward ones, "ortho" by
 the square root in both.
 """
 from __future__ import annotations
+
+from typing import Any
 
 import numpy as np
 
@@ -15,60 +17,95 @@ from .library import c, ffi
 _DIVIDE = {"backward": c.tpxFftDivInverse, "forward": c.tpxFftDivForward, "ortho": c.tpxFftDivBySqrt}
 
 
-def _transform(direction: str, kind: str, code: str, a: np.ndarray, norm: str, out: np.ndarray | None,
-               alpha: bool = False) -> np.ndarray:
-    """direction: Fwd or Inv; kind: RToPack, PackToR or CToC."""
-    source = image(a, "a")
-    to = destination(out, source)
-    is_placed = same(source, to)
-    if not is_placed:
-        refuse_overlap(source, to)
-    # Sides that are powers of two have transforms of their own.
-    is_power = all(side & (side - 1) == 0 for side in source.size)
-    word, letter = ("FFT" if is_power else "DFT"), ("C" if kind == "CToC" else "R")
-    name = export(f"tpxi{word}{direction}_{kind}", source.code, layout_of(source.channels, alpha),
-                  ["IR" if is_placed else "R"])
-    with_alpha(out, source, to, alpha)
-    told = {"orderX": source.width.bit_length() - 1, "orderY": source.height.bit_length() - 1, "roiSize": source.size,
-            "flag": choice("norm", norm, _DIVIDE), "hint": c.tpxHintAccurate}
-    sizes = {word: ffi.new("int*") for word in ("pSpecSize", "pInitBufSize", "pWorkSize")}
-    call(f"tpxi{word}GetSize_{letter}_{code}", {**told, **sizes})
-    memory, spec = block(sizes["pSpecSize"][0])
-    spec = ffi.cast(f"Tpxi{word}2DSpec_{letter}*", spec)
-    temporary, init = block(sizes["pInitBufSize"][0])
-    work, buffer = block(sizes["pWorkSize"][0])
-    call(f"tpxi{word}Init_{letter}_{code}", {**told, "pSpec": spec, "pInitBuf": init})
-    call(name, {**source.named("Src"), **to.named("Dst"), **to.named("SrcDst"), "pSpec": spec, "pBuffer": buffer})
-    del memory, temporary, work
-    return to.array
+class FourierPlan:
+    """A plan for transforms of images of `size` (width, height), which serves any number of threads.
+
+    dtype  complex64 for complex spectra of complex images, float32 for packed spectra of real ones
+    norm   where to divide
+    It pickles as its parameters.
+    """
+
+    def __init__(self, size: tuple[int, int], dtype: Any = np.complex64, norm: str = "backward") -> None:
+        self.size, self.dtype, self.norm = (int(size[0]), int(size[1])), np.dtype(dtype), norm
+        if self.dtype not in (np.float32, np.complex64):
+            raise TypeError(f"Fourier transforms are of float32 and complex64, not {self.dtype}")
+        if min(self.size) < 1:
+            raise ValueError(f"there is no transform of {self.size} pixels")
+        width, height = self.size
+        # Sides that are powers of two have transforms of their own.
+        self._word = "FFT" if width & (width - 1) == 0 and height & (height - 1) == 0 else "DFT"
+        letter = "R_32f" if self.dtype == np.float32 else "C_32fc"
+        asked = {"orderX": width.bit_length() - 1, "orderY": height.bit_length() - 1, "roiSize": self.size,
+                 "flag": choice("norm", norm, _DIVIDE), "hint": c.tpxHintAccurate}
+        sizes = {word: ffi.new("int*") for word in ("pSpecSize", "pInitBufSize", "pWorkSize")}
+        call(f"tpxi{self._word}GetSize_{letter}", {**asked, **sizes})
+        self._memory, spec = block(sizes["pSpecSize"][0])
+        self._spec = ffi.cast(f"Tpxi{self._word}2DSpec_{letter[0]}*", spec)
+        self._work_bytes = sizes["pWorkSize"][0]
+        temporary, init = block(sizes["pInitBufSize"][0])
+        call(f"tpxi{self._word}Init_{letter}", {**asked, "pSpec": self._spec, "pInitBuf": init})
+        del temporary
+
+    def __reduce__(self) -> Any:
+        return FourierPlan, (self.size, self.dtype.name, self.norm)
+
+    def forward(self, a: np.ndarray, out: np.ndarray | None = None, alpha: bool = False) -> np.ndarray:
+        """The spectrum of an image; of each channel of a float32 one."""
+        return self._run("Fwd_CToC" if self.dtype == np.complex64 else "Fwd_RToPack", a, out, alpha)
+
+    def inverse(self, a: np.ndarray, out: np.ndarray | None = None, alpha: bool = False) -> np.ndarray:
+        """The image of a spectrum."""
+        return self._run("Inv_CToC" if self.dtype == np.complex64 else "Inv_PackToR", a, out, alpha)
+
+    def _run(self, word: str, a: np.ndarray, out: np.ndarray | None, alpha: bool) -> np.ndarray:
+        source = image(a, "a")
+        if a.dtype != self.dtype or source.size != self.size:
+            raise ValueError(f"the plan is one for {self.size} pixels of {self.dtype}; a has shape {a.shape} of "
+                             f"{a.dtype}")
+        to = destination(out, source)
+        is_placed = same(source, to)
+        if not is_placed:
+            refuse_overlap(source, to)
+        with_alpha(out, source, to, alpha)
+        name = export(f"tpxi{self._word}{word}", source.code, layout_of(source.channels, alpha),
+                      ["IR" if is_placed else "R"])
+        work, buffer = block(self._work_bytes)
+        call(name, {**source.named("Src"), **to.named("Dst"), **to.named("SrcDst"), "pSpec": self._spec,
+                    "pBuffer": buffer})
+        del work
+        return to.array
+
+
+def _plan_for(a: np.ndarray, dtype: Any, norm: str) -> FourierPlan:
+    return FourierPlan(image(a, "a").size, dtype, norm)
 
 
 def _complex(a: np.ndarray) -> np.ndarray:
-    if a.dtype in (np.float32, np.complex64):
-        return a.astype(np.complex64, copy=False)
-    raise TypeError(f"Fourier transforms are of float32 and complex64, not {a.dtype}")
+    return a.astype(np.complex64) if a.dtype == np.float32 else a
 
 
 def fft2(a: np.ndarray, norm: str = "backward", out: np.ndarray | None = None) -> np.ndarray:
     """The transform (h, w) of a complex64 or float32 image of one channel as complex64, as numpy.fft.fft2 has it.
 
     A float32 image is turned into a complex one first; pack_fft2 needs half the time and memory."""
-    return _transform("Fwd", "CToC", "32fc", _complex(a), norm, out)
+    a = _complex(a)
+    return _plan_for(a, np.complex64, norm).forward(a, out)
 
 
 def ifft2(a: np.ndarray, norm: str = "backward", out: np.ndarray | None = None) -> np.ndarray:
     """The inverse of fft2, as complex64."""
-    return _transform("Inv", "CToC", "32fc", _complex(a), norm, out)
+    a = _complex(a)
+    return _plan_for(a, np.complex64, norm).inverse(a, out)
 
 
 def pack_fft2(a: np.ndarray, norm: str = "backward", out: np.ndarray | None = None, alpha: bool = False) -> np.ndarray:
     """The packed spectrum of each channel of a float32 image, an image of the same shape."""
-    return _transform("Fwd", "RToPack", "32f", a, norm, out, alpha)
+    return _plan_for(a, np.float32, norm).forward(a, out, alpha)
 
 
 def pack_ifft2(a: np.ndarray, norm: str = "backward", out: np.ndarray | None = None, alpha: bool = False) -> np.ndarray:
     """The float32 image of a packed spectrum."""
-    return _transform("Inv", "PackToR", "32f", a, norm, out, alpha)
+    return _plan_for(a, np.float32, norm).inverse(a, out, alpha)
 
 
 def unpack(packed: np.ndarray) -> np.ndarray:

@@ -189,6 +189,12 @@ def test_fourier(size):
         assert np.abs(tpxi.unpack(packed) - real).max() < 1e-6 * np.abs(real).max()
         assert np.abs(tpxi.pack_ifft2(packed, norm, out=packed) - a).max() < 1e-6 * np.abs(a).max()
     assert np.abs(tpxi.fft2(a) - np.fft.fft2(a.astype(float))).max() < 1e-6 * np.abs(np.fft.fft2(a)).max()
+    plan = pickle.loads(pickle.dumps(tpxi.FourierPlan(size[::-1], np.float32)))
+    assert (plan.forward(a) == tpxi.pack_fft2(a)).all() and (plan.inverse(a) == tpxi.pack_ifft2(a)).all()
+    with pytest.raises(ValueError, match="the plan is one for"):
+        plan.forward(z)
+    with pytest.raises(TypeError, match="of float32 and complex64, not float64"):
+        tpxi.FourierPlan(size, np.float64)
     colours = np.stack([a, a + 1, a - 1], -1)
     assert (tpxi.pack_fft2(colours)[..., 0] == tpxi.pack_fft2(a)).all()
 
