@@ -10,8 +10,8 @@ set(TPX_PKGCONFIG_DIR ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 set_target_properties(tpxie9 PROPERTIES INSTALL_RPATH "$ORIGIN")
 
 install(TARGETS tpxie9 tpxcore EXPORT tpxiTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(FILES include/tpxi.h include/tpxcore.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(DIRECTORY include/tpxi DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+install(FILES include/tpxi.h include/tpxi.hpp include/tpxcore.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY include/tpxi DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h" PATTERN "*.hpp")
 
 # Python looks for it there under /usr; elsewhere PYTHONPATH names the folder.
 install(DIRECTORY python/tpxi DESTINATION lib/python3/dist-packages COMPONENT python FILES_MATCHING PATTERN "*.py"

@@ -17,3 +17,7 @@ endfunction()
 file(GLOB headers RELATIVE ${INCLUDE} ${INCLUDE}/*.h ${INCLUDE}/tpxi/*.h)
 expectClean(c ${CC} "c89;c99;c2x" ${headers})
 expectClean(c++ ${CXX} "c++98;c++17;c++2b" ${headers})
+
+file(GLOB_RECURSE headers RELATIVE ${INCLUDE} ${INCLUDE}/*.hpp)
+expectClean(c++ ${CXX} "c++17" ${headers})
+expectClean(c++ ${CXX} "c++20;c++2b" tpxi.hpp)
