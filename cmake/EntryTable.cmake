@@ -1,18 +1,12 @@
 # SPDX-License-Identifier: Apache-2.0
 # Writes the assembler file of exported stubs and their slots.
 #   cmake -DHEADERS="a.h;b.h" -DOUTPUT=entries.S -P EntryTable.cmake
-# The names are those of the prototypes marked TPX_API, in byte order. A stub is ten bytes: the address of
-# its slot is loaded into a scratch register, and control jumps through the slot with all arguments
-# untouched. The slots stand in writable data and are filled when the library is loaded.
-set(names)
-foreach(header IN LISTS HEADERS)
-    file(READ ${header} text)
-    string(REGEX MATCHALL "TPX_API [A-Za-z0-9_ *]*tpx[ir][A-Za-z0-9_]+\\(" prototypes "${text}")
-    foreach(prototype IN LISTS prototypes)
-        string(REGEX REPLACE ".*[ *](tpx[ir][A-Za-z0-9_]+)\\($" "\\1" name "${prototype}")
-        list(APPEND names ${name})
-    endforeach()
-endforeach()
+# The names are those of the functions that the headers declare with TPX_API, in byte order. A stub is ten bytes:
+# the address of its slot is loaded into a scratch register, and control jumps through the slot with all
+# arguments untouched. The slots stand in writable data and are filled when the library is loaded.
+include(${CMAKE_CURRENT_LIST_DIR}/Prototypes.cmake)
+tpx_prototypes(names ${HEADERS})
+list(TRANSFORM names REPLACE "\\(.*" "")
 list(SORT names COMPARE STRING CASE SENSITIVE)
 set(unique ${names})
 list(REMOVE_DUPLICATES unique)

@@ -18,6 +18,7 @@ add_custom_command(
     COMMAND ${CMAKE_COMMAND} "-DHEADERS=${TPX_PUBLIC_HEADERS}" -DOUTPUT=${TPX_ENTRY_TABLE}
             -P ${PROJECT_SOURCE_DIR}/cmake/EntryTable.cmake
     DEPENDS ${TPX_PUBLIC_HEADERS} ${PROJECT_SOURCE_DIR}/cmake/EntryTable.cmake
+            ${PROJECT_SOURCE_DIR}/cmake/Prototypes.cmake
     COMMENT "Generating the entry table"
     VERBATIM)
 

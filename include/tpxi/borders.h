@@ -1,4 +1,7 @@
-/* Copying an image into a larger one, with the margin filled. */
+/* SPDX-License-Identifier: Apache-2.0 */
+/* clang-format off */
+/** @file
+ * Copying an image into a larger one, with the margin filled. */
 #ifndef TPXI_BORDERS_H
 #define TPXI_BORDERS_H
 
@@ -6,646 +9,569 @@
 
 TPX_EXTERN_C_BEGIN
 
-/* ---- Borders: tpxiCopyConstBorder, tpxiCopyReplicateBorder, tpxiCopyMirrorBorder, tpxiCopyWrapBorder ----
- * Copies an image into a larger one and fills the margin around it: with a constant, with the nearest edge
- * pixel, with the image mirrored about its edge (the edge is not repeated), or with the image repeated. The
- * right and bottom margins are what the sizes leave; margins may be wider than the source. In place (I),
- * pSrcDst points at the source's first pixel inside the destination. A source and a destination pointer that
- * are equal mean the same, with the destination's step, in all kinds but Const. AC4 keeps the destination's
- * fourth channel everywhere.
+/** @name Margins: tpxiCopyConstBorder, tpxiCopyReplicateBorder, tpxiCopyMirrorBorder, tpxiCopyWrapBorder
+ * @{ */
+
+/**
+ * Copies an image into a larger one and fills the margin around it. Const fills with a constant, Replicate
+ * with the nearest edge pixel, Mirror with the image mirrored about its edge (the edge is not repeated), Wrap
+ * with the image repeated.
  *
- * Statuses, in order: tpxErrNullPointer (an image); tpxErrStep (a step below 1); tpxErrSize (a size below 1, a
- * negative margin, or a source that does not fit into the destination with its margins); tpxErrNullPointer (the
- * constant's array); tpxOk. */
-TPX_API TpxStatus tpxiCopyConstBorder_8u_C1R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst,
-                                             int dstStep, TpxiSize dstRoiSize, int topBorderHeight,
-                                             int leftBorderWidth, Tpx8u value);
-TPX_API TpxStatus tpxiCopyConstBorder_8u_C3R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst,
-                                             int dstStep, TpxiSize dstRoiSize, int topBorderHeight,
-                                             int leftBorderWidth, const Tpx8u value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_8u_C4R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst,
-                                             int dstStep, TpxiSize dstRoiSize, int topBorderHeight,
-                                             int leftBorderWidth, const Tpx8u value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_8u_AC4R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst,
-                                              int dstStep, TpxiSize dstRoiSize, int topBorderHeight,
-                                              int leftBorderWidth, const Tpx8u value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_16u_C1R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                              Tpx16u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                              int topBorderHeight, int leftBorderWidth, Tpx16u value);
-TPX_API TpxStatus tpxiCopyConstBorder_16u_C3R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                              Tpx16u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                              int topBorderHeight, int leftBorderWidth, const Tpx16u value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_16u_C4R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                              Tpx16u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                              int topBorderHeight, int leftBorderWidth, const Tpx16u value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_16u_AC4R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx16u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth, const Tpx16u value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_16s_C1R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                              Tpx16s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                              int topBorderHeight, int leftBorderWidth, Tpx16s value);
-TPX_API TpxStatus tpxiCopyConstBorder_16s_C3R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                              Tpx16s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                              int topBorderHeight, int leftBorderWidth, const Tpx16s value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_16s_C4R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                              Tpx16s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                              int topBorderHeight, int leftBorderWidth, const Tpx16s value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_16s_AC4R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx16s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth, const Tpx16s value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_32s_C1R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                              Tpx32s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                              int topBorderHeight, int leftBorderWidth, Tpx32s value);
-TPX_API TpxStatus tpxiCopyConstBorder_32s_C3R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                              Tpx32s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                              int topBorderHeight, int leftBorderWidth, const Tpx32s value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_32s_C4R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                              Tpx32s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                              int topBorderHeight, int leftBorderWidth, const Tpx32s value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_32s_AC4R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx32s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth, const Tpx32s value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_32f_C1R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                              Tpx32f* pDst, int dstStep, TpxiSize dstRoiSize,
-                                              int topBorderHeight, int leftBorderWidth, Tpx32f value);
-TPX_API TpxStatus tpxiCopyConstBorder_32f_C3R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                              Tpx32f* pDst, int dstStep, TpxiSize dstRoiSize,
-                                              int topBorderHeight, int leftBorderWidth, const Tpx32f value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_32f_C4R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                              Tpx32f* pDst, int dstStep, TpxiSize dstRoiSize,
-                                              int topBorderHeight, int leftBorderWidth, const Tpx32f value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_32f_AC4R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx32f* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth, const Tpx32f value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_8u_C1R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                               Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                               TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth, Tpx8u value);
-TPX_API TpxStatus tpxiCopyConstBorder_8u_C3R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                               Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                               TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                               const Tpx8u value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_8u_C4R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                               Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                               TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                               const Tpx8u value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_8u_AC4R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                const Tpx8u value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_16u_C1R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                Tpx16u value);
-TPX_API TpxStatus tpxiCopyConstBorder_16u_C3R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                const Tpx16u value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_16u_C4R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                const Tpx16u value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_16u_AC4R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                 const Tpx16u value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_16s_C1R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                Tpx16s value);
-TPX_API TpxStatus tpxiCopyConstBorder_16s_C3R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                const Tpx16s value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_16s_C4R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                const Tpx16s value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_16s_AC4R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                 const Tpx16s value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_32s_C1R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx32s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                Tpx32s value);
-TPX_API TpxStatus tpxiCopyConstBorder_32s_C3R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx32s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                const Tpx32s value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_32s_C4R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx32s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                const Tpx32s value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_32s_AC4R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx32s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                 const Tpx32s value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_32f_C1R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                Tpx32f value);
-TPX_API TpxStatus tpxiCopyConstBorder_32f_C3R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                const Tpx32f value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_32f_C4R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                const Tpx32f value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_32f_AC4R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
-                                                 const Tpx32f value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_8u_C1IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                TpxSizeL leftBorderWidth, Tpx8u value);
-TPX_API TpxStatus tpxiCopyConstBorder_8u_C3IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                TpxSizeL leftBorderWidth, const Tpx8u value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_8u_C4IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                TpxSizeL leftBorderWidth, const Tpx8u value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_8u_AC4IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth, const Tpx8u value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_16u_C1IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth, Tpx16u value);
-TPX_API TpxStatus tpxiCopyConstBorder_16u_C3IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth, const Tpx16u value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_16u_C4IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth, const Tpx16u value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_16u_AC4IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth, const Tpx16u value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_16s_C1IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth, Tpx16s value);
-TPX_API TpxStatus tpxiCopyConstBorder_16s_C3IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth, const Tpx16s value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_16s_C4IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth, const Tpx16s value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_16s_AC4IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth, const Tpx16s value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_32s_C1IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth, Tpx32s value);
-TPX_API TpxStatus tpxiCopyConstBorder_32s_C3IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth, const Tpx32s value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_32s_C4IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth, const Tpx32s value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_32s_AC4IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth, const Tpx32s value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_32f_C1IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth, Tpx32f value);
-TPX_API TpxStatus tpxiCopyConstBorder_32f_C3IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth, const Tpx32f value[3]);
-TPX_API TpxStatus tpxiCopyConstBorder_32f_C4IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth, const Tpx32f value[4]);
-TPX_API TpxStatus tpxiCopyConstBorder_32f_AC4IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth, const Tpx32f value[3]);
+ * The right and the bottom margin are what the sizes leave; margins may be wider than the source. In place
+ * (I), pSrcDst points at the source's first pixel inside the destination. A source and a destination pointer
+ * that are equal mean the same, with the destination's step, in all kinds but Const. AC4 keeps the
+ * destination's fourth channel everywhere. _L: sizes and steps of 64 bits.
+ *
+ * @param pSrc            first pixel of the source
+ * @param srcStep         bytes from one row of the source to the next
+ * @param srcRoiSize      width and height of the source in pixels
+ * @param pDst            first pixel of the destination
+ * @param dstStep         bytes from one row of the destination to the next
+ * @param dstRoiSize      width and height of the destination in pixels, its margins included
+ * @param topBorderHeight height of the upper margin in pixels
+ * @param leftBorderWidth width of the left margin in pixels
+ * @param value           pixel of the margin: a sample for C1, an array of 3 for C3 and AC4, of 4 for C4
+ * @param pSrcDst         first pixel of the source, inside the destination
+ * @param srcDstStep      bytes from one row of the destination to the next
+ * @return The first of these that applies: tpxErrNullPointer (an image); tpxErrStep (a step below 1);
+ *     tpxErrSize (a size below 1, a negative margin, or a source that does not fit into the destination with
+ *     its margins); tpxErrNullPointer (the constant's array); tpxOk.
+ */
+TPX_API TpxStatus
+    tpxiCopyConstBorder_8u_C1R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst, int dstStep,
+                               TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Tpx8u value),
+    tpxiCopyConstBorder_8u_C3R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst, int dstStep,
+                               TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                               const Tpx8u value[3]),
+    tpxiCopyConstBorder_8u_C4R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst, int dstStep,
+                               TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                               const Tpx8u value[4]),
+    tpxiCopyConstBorder_8u_AC4R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                const Tpx8u value[3]),
+    tpxiCopyConstBorder_16u_C1R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16u* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Tpx16u value),
+    tpxiCopyConstBorder_16u_C3R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16u* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                const Tpx16u value[3]),
+    tpxiCopyConstBorder_16u_C4R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16u* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                const Tpx16u value[4]),
+    tpxiCopyConstBorder_16u_AC4R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16u* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                 const Tpx16u value[3]),
+    tpxiCopyConstBorder_16s_C1R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16s* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Tpx16s value),
+    tpxiCopyConstBorder_16s_C3R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16s* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                const Tpx16s value[3]),
+    tpxiCopyConstBorder_16s_C4R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16s* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                const Tpx16s value[4]),
+    tpxiCopyConstBorder_16s_AC4R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16s* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                 const Tpx16s value[3]),
+    tpxiCopyConstBorder_32s_C1R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32s* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Tpx32s value),
+    tpxiCopyConstBorder_32s_C3R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32s* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                const Tpx32s value[3]),
+    tpxiCopyConstBorder_32s_C4R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32s* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                const Tpx32s value[4]),
+    tpxiCopyConstBorder_32s_AC4R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32s* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                 const Tpx32s value[3]),
+    tpxiCopyConstBorder_32f_C1R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32f* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Tpx32f value),
+    tpxiCopyConstBorder_32f_C3R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32f* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                const Tpx32f value[3]),
+    tpxiCopyConstBorder_32f_C4R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32f* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                const Tpx32f value[4]),
+    tpxiCopyConstBorder_32f_AC4R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32f* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                 const Tpx32f value[3]),
+    tpxiCopyConstBorder_8u_C1R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx8u* pDst,
+                                 TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                 TpxSizeL leftBorderWidth, Tpx8u value),
+    tpxiCopyConstBorder_8u_C3R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx8u* pDst,
+                                 TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                 TpxSizeL leftBorderWidth, const Tpx8u value[3]),
+    tpxiCopyConstBorder_8u_C4R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx8u* pDst,
+                                 TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                 TpxSizeL leftBorderWidth, const Tpx8u value[4]),
+    tpxiCopyConstBorder_8u_AC4R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx8u* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth, const Tpx8u value[3]),
+    tpxiCopyConstBorder_16u_C1R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16u* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth, Tpx16u value),
+    tpxiCopyConstBorder_16u_C3R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16u* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth, const Tpx16u value[3]),
+    tpxiCopyConstBorder_16u_C4R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16u* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth, const Tpx16u value[4]),
+    tpxiCopyConstBorder_16u_AC4R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16u* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth, const Tpx16u value[3]),
+    tpxiCopyConstBorder_16s_C1R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16s* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth, Tpx16s value),
+    tpxiCopyConstBorder_16s_C3R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16s* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth, const Tpx16s value[3]),
+    tpxiCopyConstBorder_16s_C4R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16s* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth, const Tpx16s value[4]),
+    tpxiCopyConstBorder_16s_AC4R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16s* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth, const Tpx16s value[3]),
+    tpxiCopyConstBorder_32s_C1R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32s* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth, Tpx32s value),
+    tpxiCopyConstBorder_32s_C3R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32s* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth, const Tpx32s value[3]),
+    tpxiCopyConstBorder_32s_C4R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32s* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth, const Tpx32s value[4]),
+    tpxiCopyConstBorder_32s_AC4R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32s* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth, const Tpx32s value[3]),
+    tpxiCopyConstBorder_32f_C1R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32f* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth, Tpx32f value),
+    tpxiCopyConstBorder_32f_C3R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32f* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth, const Tpx32f value[3]),
+    tpxiCopyConstBorder_32f_C4R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32f* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth, const Tpx32f value[4]),
+    tpxiCopyConstBorder_32f_AC4R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32f* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth, const Tpx32f value[3]),
+    tpxiCopyConstBorder_8u_C1IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                  Tpx8u value),
+    tpxiCopyConstBorder_8u_C3IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                  const Tpx8u value[3]),
+    tpxiCopyConstBorder_8u_C4IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                  const Tpx8u value[4]),
+    tpxiCopyConstBorder_8u_AC4IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                   const Tpx8u value[3]),
+    tpxiCopyConstBorder_16u_C1IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                   Tpx16u value),
+    tpxiCopyConstBorder_16u_C3IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                   const Tpx16u value[3]),
+    tpxiCopyConstBorder_16u_C4IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                   const Tpx16u value[4]),
+    tpxiCopyConstBorder_16u_AC4IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                    const Tpx16u value[3]),
+    tpxiCopyConstBorder_16s_C1IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                   Tpx16s value),
+    tpxiCopyConstBorder_16s_C3IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                   const Tpx16s value[3]),
+    tpxiCopyConstBorder_16s_C4IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                   const Tpx16s value[4]),
+    tpxiCopyConstBorder_16s_AC4IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                    const Tpx16s value[3]),
+    tpxiCopyConstBorder_32s_C1IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                   Tpx32s value),
+    tpxiCopyConstBorder_32s_C3IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                   const Tpx32s value[3]),
+    tpxiCopyConstBorder_32s_C4IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                   const Tpx32s value[4]),
+    tpxiCopyConstBorder_32s_AC4IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                    const Tpx32s value[3]),
+    tpxiCopyConstBorder_32f_C1IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                   Tpx32f value),
+    tpxiCopyConstBorder_32f_C3IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                   const Tpx32f value[3]),
+    tpxiCopyConstBorder_32f_C4IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                   const Tpx32f value[4]),
+    tpxiCopyConstBorder_32f_AC4IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth,
+                                    const Tpx32f value[3]),
 
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_C1R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                 Tpx8u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                 int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_C3R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                 Tpx8u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                 int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_C4R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                 Tpx8u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                 int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_AC4R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                  Tpx8u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                  int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_C1R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                  Tpx16u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                  int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_C3R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                  Tpx16u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                  int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_C4R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                  Tpx16u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                  int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_AC4R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                   Tpx16u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                   int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_C1R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                  Tpx16s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                  int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_C3R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                  Tpx16s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                  int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_C4R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                  Tpx16s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                  int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_AC4R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                   Tpx16s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                   int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_C1R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                  Tpx32s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                  int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_C3R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                  Tpx32s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                  int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_C4R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                  Tpx32s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                  int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_AC4R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                   Tpx32s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                   int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_C1R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                  Tpx32f* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                  int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_C3R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                  Tpx32f* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                  int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_C4R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                  Tpx32f* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                  int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_AC4R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                                   Tpx32f* pDst, int dstStep, TpxiSize dstRoiSize,
-                                                   int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_C1IR(Tpx8u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                  TpxiSize dstRoiSize, int topBorderHeight,
-                                                  int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_C3IR(Tpx8u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                  TpxiSize dstRoiSize, int topBorderHeight,
-                                                  int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_C4IR(Tpx8u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                  TpxiSize dstRoiSize, int topBorderHeight,
-                                                  int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_AC4IR(Tpx8u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                   TpxiSize dstRoiSize, int topBorderHeight,
-                                                   int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_C1IR(Tpx16u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                   TpxiSize dstRoiSize, int topBorderHeight,
-                                                   int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_C3IR(Tpx16u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                   TpxiSize dstRoiSize, int topBorderHeight,
-                                                   int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_C4IR(Tpx16u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                   TpxiSize dstRoiSize, int topBorderHeight,
-                                                   int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_AC4IR(Tpx16u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                    TpxiSize dstRoiSize, int topBorderHeight,
-                                                    int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_C1IR(Tpx16s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                   TpxiSize dstRoiSize, int topBorderHeight,
-                                                   int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_C3IR(Tpx16s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                   TpxiSize dstRoiSize, int topBorderHeight,
-                                                   int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_C4IR(Tpx16s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                   TpxiSize dstRoiSize, int topBorderHeight,
-                                                   int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_AC4IR(Tpx16s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                    TpxiSize dstRoiSize, int topBorderHeight,
-                                                    int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_C1IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                   TpxiSize dstRoiSize, int topBorderHeight,
-                                                   int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_C3IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                   TpxiSize dstRoiSize, int topBorderHeight,
-                                                   int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_C4IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                   TpxiSize dstRoiSize, int topBorderHeight,
-                                                   int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_AC4IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                    TpxiSize dstRoiSize, int topBorderHeight,
-                                                    int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_C1IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                   TpxiSize dstRoiSize, int topBorderHeight,
-                                                   int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_C3IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                   TpxiSize dstRoiSize, int topBorderHeight,
-                                                   int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_C4IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                   TpxiSize dstRoiSize, int topBorderHeight,
-                                                   int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_AC4IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                    TpxiSize dstRoiSize, int topBorderHeight,
-                                                    int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_C1R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                   Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                   TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_C3R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                   Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                   TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_C4R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                   Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                   TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_AC4R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                    Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                    TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_C1R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                    Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                    TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_C3R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                    Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                    TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_C4R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                    Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                    TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_AC4R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                     Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                     TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_C1R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                    Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                    TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_C3R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                    Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                    TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_C4R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                    Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                    TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_AC4R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                     Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                     TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_C1R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                    Tpx32s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                    TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_C3R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                    Tpx32s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                    TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_C4R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                    Tpx32s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                    TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_AC4R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                     Tpx32s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                     TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_C1R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                    Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                    TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_C3R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                    Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                    TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_C4R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                    Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                    TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_AC4R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                     Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                     TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_C1IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                    TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_C3IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                    TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_C4IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                    TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_8u_AC4IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                     TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                     TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_C1IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                     TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                     TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_C3IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                     TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                     TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_C4IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                     TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                     TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16u_AC4IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep,
-                                                      TpxiSizeL srcRoiSize, TpxiSizeL dstRoiSize,
-                                                      TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_C1IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                     TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                     TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_C3IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                     TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                     TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_C4IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                     TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                     TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_16s_AC4IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep,
-                                                      TpxiSizeL srcRoiSize, TpxiSizeL dstRoiSize,
-                                                      TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_C1IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                     TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                     TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_C3IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                     TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                     TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_C4IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                     TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                     TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32s_AC4IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep,
-                                                      TpxiSizeL srcRoiSize, TpxiSizeL dstRoiSize,
-                                                      TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_C1IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                     TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                     TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_C3IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                     TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                     TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_C4IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                     TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                     TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyReplicateBorder_32f_AC4IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep,
-                                                      TpxiSizeL srcRoiSize, TpxiSizeL dstRoiSize,
-                                                      TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
+    tpxiCopyReplicateBorder_8u_C1R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst,
+                                   int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_C3R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst,
+                                   int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_C4R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst,
+                                   int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_AC4R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst,
+                                    int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_C1R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16u* pDst,
+                                    int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_C3R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16u* pDst,
+                                    int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_C4R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16u* pDst,
+                                    int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_AC4R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16u* pDst,
+                                     int dstStep, TpxiSize dstRoiSize, int topBorderHeight,
+                                     int leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_C1R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16s* pDst,
+                                    int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_C3R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16s* pDst,
+                                    int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_C4R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16s* pDst,
+                                    int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_AC4R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16s* pDst,
+                                     int dstStep, TpxiSize dstRoiSize, int topBorderHeight,
+                                     int leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_C1R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32s* pDst,
+                                    int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_C3R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32s* pDst,
+                                    int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_C4R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32s* pDst,
+                                    int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_AC4R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32s* pDst,
+                                     int dstStep, TpxiSize dstRoiSize, int topBorderHeight,
+                                     int leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_C1R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32f* pDst,
+                                    int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_C3R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32f* pDst,
+                                    int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_C4R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32f* pDst,
+                                    int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_AC4R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32f* pDst,
+                                     int dstStep, TpxiSize dstRoiSize, int topBorderHeight,
+                                     int leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_C1IR(Tpx8u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                    int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_C3IR(Tpx8u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                    int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_C4IR(Tpx8u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                    int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_AC4IR(Tpx8u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                     int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_C1IR(Tpx16u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                     int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_C3IR(Tpx16u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                     int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_C4IR(Tpx16u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                     int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_AC4IR(Tpx16u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                      int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_C1IR(Tpx16s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                     int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_C3IR(Tpx16s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                     int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_C4IR(Tpx16s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                     int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_AC4IR(Tpx16s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                      int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_C1IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                     int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_C3IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                     int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_C4IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                     int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_AC4IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                      int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_C1IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                     int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_C3IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                     int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_C4IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                     int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_AC4IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                      int topBorderHeight, int leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_C1R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx8u* pDst,
+                                     TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                     TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_C3R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx8u* pDst,
+                                     TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                     TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_C4R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx8u* pDst,
+                                     TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                     TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_AC4R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx8u* pDst,
+                                      TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                      TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_C1R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16u* pDst,
+                                      TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                      TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_C3R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16u* pDst,
+                                      TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                      TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_C4R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16u* pDst,
+                                      TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                      TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_AC4R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16u* pDst,
+                                       TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_C1R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16s* pDst,
+                                      TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                      TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_C3R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16s* pDst,
+                                      TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                      TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_C4R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16s* pDst,
+                                      TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                      TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_AC4R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16s* pDst,
+                                       TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_C1R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32s* pDst,
+                                      TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                      TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_C3R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32s* pDst,
+                                      TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                      TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_C4R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32s* pDst,
+                                      TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                      TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_AC4R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32s* pDst,
+                                       TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_C1R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32f* pDst,
+                                      TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                      TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_C3R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32f* pDst,
+                                      TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                      TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_C4R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32f* pDst,
+                                      TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                      TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_AC4R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32f* pDst,
+                                       TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_C1IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                      TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_C3IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                      TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_C4IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                      TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_8u_AC4IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                       TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_C1IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                       TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_C3IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                       TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_C4IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                       TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16u_AC4IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                        TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                        TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_C1IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                       TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_C3IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                       TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_C4IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                       TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_16s_AC4IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                        TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                        TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_C1IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                       TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_C3IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                       TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_C4IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                       TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32s_AC4IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                        TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                        TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_C1IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                       TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_C3IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                       TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_C4IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                       TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                       TpxSizeL leftBorderWidth),
+    tpxiCopyReplicateBorder_32f_AC4IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                        TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                        TpxSizeL leftBorderWidth),
 
-TPX_API TpxStatus tpxiCopyMirrorBorder_8u_C1R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst,
-                                              int dstStep, TpxiSize dstRoiSize, int topBorderHeight,
-                                              int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_8u_C3R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst,
-                                              int dstStep, TpxiSize dstRoiSize, int topBorderHeight,
-                                              int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_8u_C4R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst,
-                                              int dstStep, TpxiSize dstRoiSize, int topBorderHeight,
-                                              int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16u_C1R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx16u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16u_C3R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx16u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16u_C4R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx16u* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16s_C1R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx16s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16s_C3R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx16s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16s_C4R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx16s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32s_C1R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx32s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32s_C3R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx32s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32s_C4R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx32s* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32f_C1R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx32f* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32f_C3R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx32f* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32f_C4R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize,
-                                               Tpx32f* pDst, int dstStep, TpxiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_8u_C1IR(Tpx8u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                               TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_8u_C3IR(Tpx8u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                               TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_8u_C4IR(Tpx8u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                               TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16u_C1IR(Tpx16u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16u_C3IR(Tpx16u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16u_C4IR(Tpx16u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16s_C1IR(Tpx16s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16s_C3IR(Tpx16s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16s_C4IR(Tpx16s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32s_C1IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32s_C3IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32s_C4IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32f_C1IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32f_C3IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32f_C4IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_8u_C1R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_8u_C3R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_8u_C4R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                Tpx8u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16u_C1R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16u_C3R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16u_C4R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx16u* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16s_C1R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16s_C3R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16s_C4R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx16s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32s_C1R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx32s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32s_C3R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx32s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32s_C4R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx32s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32f_C1R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32f_C3R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32f_C4R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                                 Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                                 TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_8u_C1IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_8u_C3IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_8u_C4IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                 TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                 TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16u_C1IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16u_C3IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16u_C4IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16s_C1IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16s_C3IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_16s_C4IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32s_C1IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32s_C3IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32s_C4IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32f_C1IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32f_C3IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyMirrorBorder_32f_C4IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                  TpxSizeL leftBorderWidth);
+    tpxiCopyMirrorBorder_8u_C1R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_8u_C3R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_8u_C4R(const Tpx8u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx8u* pDst, int dstStep,
+                                TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_16u_C1R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16u* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_16u_C3R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16u* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_16u_C4R(const Tpx16u* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16u* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_16s_C1R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16s* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_16s_C3R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16s* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_16s_C4R(const Tpx16s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx16s* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_32s_C1R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32s* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_32s_C3R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32s* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_32s_C4R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32s* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_32f_C1R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32f* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_32f_C3R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32f* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_32f_C4R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32f* pDst,
+                                 int dstStep, TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_8u_C1IR(Tpx8u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                 int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_8u_C3IR(Tpx8u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                 int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_8u_C4IR(Tpx8u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                 int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_16u_C1IR(Tpx16u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                  int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_16u_C3IR(Tpx16u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                  int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_16u_C4IR(Tpx16u* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                  int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_16s_C1IR(Tpx16s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                  int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_16s_C3IR(Tpx16s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                  int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_16s_C4IR(Tpx16s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                  int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_32s_C1IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                  int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_32s_C3IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                  int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_32s_C4IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                  int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_32f_C1IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                  int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_32f_C3IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                  int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_32f_C4IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                  int topBorderHeight, int leftBorderWidth),
+    tpxiCopyMirrorBorder_8u_C1R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx8u* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_8u_C3R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx8u* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_8u_C4R_L(const Tpx8u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx8u* pDst,
+                                  TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                  TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_16u_C1R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16u* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_16u_C3R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16u* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_16u_C4R_L(const Tpx16u* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16u* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_16s_C1R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16s* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_16s_C3R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16s* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_16s_C4R_L(const Tpx16s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx16s* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_32s_C1R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32s* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_32s_C3R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32s* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_32s_C4R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32s* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_32f_C1R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32f* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_32f_C3R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32f* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_32f_C4R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32f* pDst,
+                                   TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                   TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_8u_C1IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_8u_C3IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_8u_C4IR_L(Tpx8u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                   TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_16u_C1IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_16u_C3IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_16u_C4IR_L(Tpx16u* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_16s_C1IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_16s_C3IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_16s_C4IR_L(Tpx16s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_32s_C1IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_32s_C3IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_32s_C4IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_32f_C1IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_32f_C3IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyMirrorBorder_32f_C4IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                    TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
 
-TPX_API TpxStatus tpxiCopyWrapBorder_32s_C1R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32s* pDst,
-                                             int dstStep, TpxiSize dstRoiSize, int topBorderHeight,
-                                             int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyWrapBorder_32f_C1R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32f* pDst,
-                                             int dstStep, TpxiSize dstRoiSize, int topBorderHeight,
-                                             int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyWrapBorder_32s_C1IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                              TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyWrapBorder_32f_C1IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize,
-                                              TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
-TPX_API TpxStatus tpxiCopyWrapBorder_32s_C1R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                               Tpx32s* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                               TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyWrapBorder_32f_C1R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize,
-                                               Tpx32f* pDst, TpxSizeL dstStep, TpxiSizeL dstRoiSize,
-                                               TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyWrapBorder_32s_C1IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                TpxSizeL leftBorderWidth);
-TPX_API TpxStatus tpxiCopyWrapBorder_32f_C1IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
-                                                TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
-                                                TpxSizeL leftBorderWidth);
+    tpxiCopyWrapBorder_32s_C1R(const Tpx32s* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32s* pDst, int dstStep,
+                               TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyWrapBorder_32f_C1R(const Tpx32f* pSrc, int srcStep, TpxiSize srcRoiSize, Tpx32f* pDst, int dstStep,
+                               TpxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth),
+    tpxiCopyWrapBorder_32s_C1IR(Tpx32s* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                int topBorderHeight, int leftBorderWidth),
+    tpxiCopyWrapBorder_32f_C1IR(Tpx32f* pSrcDst, int srcDstStep, TpxiSize srcRoiSize, TpxiSize dstRoiSize,
+                                int topBorderHeight, int leftBorderWidth),
+    tpxiCopyWrapBorder_32s_C1R_L(const Tpx32s* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32s* pDst,
+                                 TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                 TpxSizeL leftBorderWidth),
+    tpxiCopyWrapBorder_32f_C1R_L(const Tpx32f* pSrc, TpxSizeL srcStep, TpxiSizeL srcRoiSize, Tpx32f* pDst,
+                                 TpxSizeL dstStep, TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight,
+                                 TpxSizeL leftBorderWidth),
+    tpxiCopyWrapBorder_32s_C1IR_L(Tpx32s* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth),
+    tpxiCopyWrapBorder_32f_C1IR_L(Tpx32f* pSrcDst, TpxSizeL srcDstStep, TpxiSizeL srcRoiSize,
+                                  TpxiSizeL dstRoiSize, TpxSizeL topBorderHeight, TpxSizeL leftBorderWidth);
+
+/** @} */
 
 TPX_EXTERN_C_END
 

@@ -1,4 +1,6 @@
-/* What a status is called and what it means: tpxStatusName, tpxStatusText. Inline, in C and in C++. */
+/* SPDX-License-Identifier: Apache-2.0 */
+/** @file
+ * What a status is called and what it means: tpxStatusName, tpxStatusText. Inline, in C and in C++. */
 #ifndef TPXI_STATUS_TEXT_H
 #define TPXI_STATUS_TEXT_H
 
@@ -12,7 +14,12 @@
 #define TPX_INLINE static __inline__
 #endif
 
-/* The enumerator: "tpxErrSize" for -6. "unknown" for what is no status. */
+/**
+ * Gives the name of a status: "tpxErrSize" for -6.
+ *
+ * @param status what a call returned
+ * @return its enumerator, or "unknown" for what is no status
+ */
 TPX_INLINE const char* tpxStatusName(TpxStatus status) {
     switch (status) {
 #define TPX_STATUS(name, value, text) \
@@ -25,8 +32,13 @@ TPX_INLINE const char* tpxStatusName(TpxStatus status) {
     }
 }
 
-/* What it says, as in the list of types.h: "width or height below 1, or sizes that do not fit together" for -6.
- * "no status of this library" for what is none. */
+/**
+ * Gives the text of a status, as in the list of types.h: "width or height below 1, or sizes that do not fit
+ * together" for -6.
+ *
+ * @param status what a call returned
+ * @return its text, or "no status of this library" for what is none
+ */
 TPX_INLINE const char* tpxStatusText(TpxStatus status) {
     switch (status) {
 #define TPX_STATUS(name, value, text) \

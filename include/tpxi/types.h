@@ -1,116 +1,147 @@
-/*
+/* SPDX-License-Identifier: Apache-2.0 */
+/** @file
  * Sample types, records, statuses and selectors shared by every family of the library.
  *
  * Units used throughout: a *step* is the distance in bytes from the start of one row to the start of the
- * next, whatever the sample type; sizes and offsets are in pixels; a *run* is counted in samples.
- */
+ * next, whatever the sample type; sizes and offsets are in pixels; a *run* is counted in samples. */
 #ifndef TPXI_TYPES_H
 #define TPXI_TYPES_H
 
 #include <stdint.h>
 
 #ifdef __cplusplus
-#define TPX_EXTERN_C_BEGIN extern "C" {
-#define TPX_EXTERN_C_END }
+#define TPX_LINKAGE_BEGIN extern "C" {
+#define TPX_LINKAGE_END }
 #else
-#define TPX_EXTERN_C_BEGIN
-#define TPX_EXTERN_C_END
+#define TPX_LINKAGE_BEGIN
+#define TPX_LINKAGE_END
 #endif
 
-/* Marks a function of the boundary. The build reads the exported names from the lines that begin with it. */
+/* Around the prototypes of a header. A family's text names the parameters of all its forms, of which one form
+ * has some: clang's check of comments takes each prototype by itself. */
+#ifdef __clang__
+#define TPX_EXTERN_C_BEGIN \
+    _Pragma("clang diagnostic push") _Pragma("clang diagnostic ignored \"-Wdocumentation\"") TPX_LINKAGE_BEGIN
+#define TPX_EXTERN_C_END TPX_LINKAGE_END _Pragma("clang diagnostic pop")
+#else
+#define TPX_EXTERN_C_BEGIN TPX_LINKAGE_BEGIN
+#define TPX_EXTERN_C_END TPX_LINKAGE_END
+#endif
+
+/* Begins a declaration of the boundary. One declaration has all functions of a family, so that the comment in
+ * front of it is that of each. The build reads the exported names from these declarations. clang-format takes
+ * them for products of types and pointers, and is off in the headers that have them. */
 #define TPX_API extern
 
-/* ---- Samples -------------------------------------------------------------------------------------- */
+/** @name Samples
+ * @{ */
 
-typedef uint8_t Tpx8u;
-typedef int8_t Tpx8s;
-typedef uint16_t Tpx16u;
-typedef int16_t Tpx16s;
-typedef uint32_t Tpx32u;
-typedef int32_t Tpx32s;
-typedef uint64_t Tpx64u;
-typedef int64_t Tpx64s;
-typedef float Tpx32f;
-typedef double Tpx64f;
+typedef uint8_t Tpx8u;   /**< a sample of 8 bits, unsigned */
+typedef int8_t Tpx8s;    /**< a sample of 8 bits, signed */
+typedef uint16_t Tpx16u; /**< a sample of 16 bits, unsigned */
+typedef int16_t Tpx16s;  /**< a sample of 16 bits, signed */
+typedef uint32_t Tpx32u; /**< a sample of 32 bits, unsigned */
+typedef int32_t Tpx32s;  /**< a sample of 32 bits, signed */
+typedef uint64_t Tpx64u; /**< a number of 64 bits, unsigned */
+typedef int64_t Tpx64s;  /**< a number of 64 bits, signed */
+typedef float Tpx32f;    /**< a sample in single precision */
+typedef double Tpx64f;   /**< a sample in double precision */
 
-/* Complex samples, real part first. */
+/** A complex sample in single precision. */
 typedef struct {
-    Tpx32f re;
-    Tpx32f im;
+    Tpx32f re; /**< the real part */
+    Tpx32f im; /**< the imaginary part */
 } Tpx32fc;
+
+/** A complex sample of 32-bit integers. */
 typedef struct {
-    Tpx32s re;
-    Tpx32s im;
+    Tpx32s re; /**< the real part */
+    Tpx32s im; /**< the imaginary part */
 } Tpx32sc;
 
-/* ---- Records: 32-bit for the short forms, 64-bit for the _L forms; passed by value ----------------- */
+/** @} */
 
+/** @name Records: of 32 bits for the short forms, of 64 bits for the _L forms; passed by value
+ * @{ */
+
+/** A size, step or offset of 64 bits. */
 typedef Tpx64s TpxSizeL;
 
+/** The size of an image or a region. */
 typedef struct {
-    int width;
-    int height;
+    int width;  /**< pixels of a row */
+    int height; /**< number of rows */
 } TpxiSize;
+
+/** The size of an image or a region, of 64 bits. */
 typedef struct {
-    TpxSizeL width;
-    TpxSizeL height;
+    TpxSizeL width;  /**< pixels of a row */
+    TpxSizeL height; /**< number of rows */
 } TpxiSizeL;
 
+/** A place in an image, which counts from its first pixel. */
 typedef struct {
-    int x;
-    int y;
+    int x; /**< column in pixels */
+    int y; /**< row */
 } TpxiPoint;
+
+/** A place in an image, of 64 bits. */
 typedef struct {
-    TpxSizeL x;
-    TpxSizeL y;
+    TpxSizeL x; /**< column in pixels */
+    TpxSizeL y; /**< row */
 } TpxiPointL;
 
+/** A rectangle of an image. */
 typedef struct {
-    int x;
-    int y;
-    int width;
-    int height;
+    int x;      /**< first column in pixels */
+    int y;      /**< first row */
+    int width;  /**< pixels of a row */
+    int height; /**< number of rows */
 } TpxiRect;
+
+/** A rectangle of an image, of 64 bits. */
 typedef struct {
-    TpxSizeL x;
-    TpxSizeL y;
-    TpxSizeL width;
-    TpxSizeL height;
+    TpxSizeL x;      /**< first column in pixels */
+    TpxSizeL y;      /**< first row */
+    TpxSizeL width;  /**< pixels of a row */
+    TpxSizeL height; /**< number of rows */
 } TpxiRectL;
 
-/* Margins around a rectangle, in pixels. */
+/** Margins around a rectangle. */
 typedef struct {
-    int left;
-    int top;
-    int right;
-    int bottom;
+    int left;   /**< pixels on the left */
+    int top;    /**< pixels above */
+    int right;  /**< pixels on the right */
+    int bottom; /**< pixels below */
 } TpxiBorderSize;
+
+/** Margins around a rectangle, of 64 bits. */
 typedef struct {
-    TpxSizeL left;
-    TpxSizeL top;
-    TpxSizeL right;
-    TpxSizeL bottom;
+    TpxSizeL left;   /**< pixels on the left */
+    TpxSizeL top;    /**< pixels above */
+    TpxSizeL right;  /**< pixels on the right */
+    TpxSizeL bottom; /**< pixels below */
 } TpxiBorderSizeL;
 
-/* What tpxiGetLibVersion points at. */
+/** What tpxiGetLibVersion points at. */
 typedef struct {
-    int major;
-    int minor;
-    int update;
-    int revision;
-    char targetCpu[4];
-    const char* name;
-    const char* version;
-    const char* buildDate;
+    int major;             /**< first number of the version */
+    int minor;             /**< second number */
+    int update;            /**< third number */
+    int revision;          /**< revision of the build */
+    char targetCpu[4];     /**< code of the instruction set */
+    const char* name;      /**< name of the library */
+    const char* version;   /**< the version in words */
+    const char* buildDate; /**< day of the build */
 } TpxLibraryVersion;
 
-/* ---- Statuses --------------------------------------------------------------------------------------
- * 0 is success. A negative status means that the operation stopped at a failed check, having written
- * nothing. A positive status is a warning: the operation ran to its end and its result is defined.
- *
- * The list makes the enumerators here, and their names and texts in status_text.h. The last entry is called
- * apart, since an enumeration may not end with a comma in C89. */
+/** @} */
 
+/* The list of statuses makes the enumerators here, and their names and texts in status_text.h. The last entry
+ * is called apart, since an enumeration may not end with a comma in C89. */
+
+/** What a call returns: 0 is success, a negative number an error, a positive one a warning. tpxi.h tells what
+ * has been written then, status_text.h gives names and texts. */
 typedef int TpxStatus;
 
 /* clang-format off */
@@ -130,7 +161,7 @@ typedef int TpxStatus;
     status(tpxErrStepNotMultiple, -108, "a step that is not a whole number of samples")                  \
     status(tpxErrHistogramLevels, -107, "fewer than 2 histogram levels in a channel")                    \
     status(tpxErrLutLevels, -106, "fewer than 2 lookup levels in a channel")                             \
-    status(tpxErrChannelOrder, -60, "channel order entry at or above the number of channels")            \
+    status(tpxErrChannelOrder, -60, "channel order entry that is no channel")                            \
     status(tpxErrQuad, -58, "quadrangle not well formed")                                                \
     status(tpxErrRect, -57, "rectangle not accepted")                                                    \
     status(tpxErrCoefficient, -56, "coefficients that describe no usable transform")                     \
@@ -149,7 +180,7 @@ typedef int TpxStatus;
     status(tpxErrThresholdBounds, -18, "upper threshold below lower threshold")                          \
     status(tpxErrContext, -17, "a plan or spec that was not made for the operation")                     \
     status(tpxErrFftFlag, -16, "FFT normalisation flag other than 1, 2, 4 or 8")                         \
-    status(tpxErrFftOrder, -15, "FFT order above 29 or negative")                                        \
+    status(tpxErrFftOrder, -15, "FFT order negative or too large")                                       \
     status(tpxErrStep, -14, "a step below 1, or not accepted")                                           \
     status(tpxErrScaleRange, -13, "span between maximum and minimum not positive")                       \
     status(tpxErrDataType, -12, "TpxDataType not accepted")                                              \
@@ -182,54 +213,87 @@ enum { TPX_STATUSES(TPX_STATUS, TPX_LAST_STATUS) };
 #undef TPX_STATUS
 #undef TPX_LAST_STATUS
 
-/* ---- Selectors --------------------------------------------------------------------------------------
- * Plain integers, so that a value outside the set can be passed and is answered with a status. */
+/** @name Selectors: plain integers, so that a value outside the set can be passed and is answered with a status
+ * @{ */
 
-typedef int TpxDataType;
-enum { tpxDataType8u = 1, tpxDataType16u = 5, tpxDataType16s = 7, tpxDataType32f = 13, tpxDataType64f = 19 };
+typedef int TpxDataType; /**< the type of samples */
+enum {
+    tpxDataType8u = 1,   /**< Tpx8u */
+    tpxDataType16u = 5,  /**< Tpx16u */
+    tpxDataType16s = 7,  /**< Tpx16s */
+    tpxDataType32f = 13, /**< Tpx32f */
+    tpxDataType64f = 19  /**< Tpx64f */
+};
 
-typedef int TpxChannelCode;
-enum { tpxChannelC1 = 1, tpxChannelC3 = 3, tpxChannelC4 = 4, tpxChannelAC4 = 9 };
+typedef int TpxChannelCode; /**< the channels of a pixel */
+enum {
+    tpxChannelC1 = 1, /**< one */
+    tpxChannelC3 = 3, /**< three */
+    tpxChannelC4 = 4, /**< four */
+    tpxChannelAC4 = 9 /**< four, of which the destination keeps the fourth */
+};
 
-/* The low nibble is the border kind, the high nibble says on which sides the pixels beyond the region are
+/** The low nibble is the border kind, the high nibble says on which sides the pixels beyond the region are
  * valid memory and are read there. tpxBorderInMemAll stands alone and needs no kind. */
 typedef Tpx32u TpxBorderType;
 enum {
-    tpxBorderReplicate = 1,
-    tpxBorderMirror = 3,
-    tpxBorderConstant = 6,
-    tpxBorderTransparent = 7,
-    tpxBorderInMemTop = 0x10,
-    tpxBorderInMemBottom = 0x20,
-    tpxBorderInMemLeft = 0x40,
-    tpxBorderInMemRight = 0x80,
-    tpxBorderInMemAll = 0xF0
+    tpxBorderReplicate = 1,      /**< the nearest pixel of the edge */
+    tpxBorderMirror = 3,         /**< the image mirrored about its edge, which is not repeated */
+    tpxBorderConstant = 6,       /**< a constant pixel */
+    tpxBorderTransparent = 7,    /**< destination pixels outside stay as they were */
+    tpxBorderInMemTop = 0x10,    /**< the rows above are in memory */
+    tpxBorderInMemBottom = 0x20, /**< the rows below are in memory */
+    tpxBorderInMemLeft = 0x40,   /**< the columns on the left are in memory */
+    tpxBorderInMemRight = 0x80,  /**< the columns on the right are in memory */
+    tpxBorderInMemAll = 0xF0     /**< all of them are */
 };
 
-typedef int TpxInterpolationType;
+typedef int TpxInterpolationType; /**< how a value between pixels is made */
 enum {
-    tpxInterpolationNearest = 1,
-    tpxInterpolationLinear = 2,
-    tpxInterpolationCubic = 6,
-    tpxInterpolationSuper = 8,
-    tpxInterpolationLanczos = 16
+    tpxInterpolationNearest = 1, /**< the nearest pixel */
+    tpxInterpolationLinear = 2,  /**< linear */
+    tpxInterpolationCubic = 6,   /**< cubic */
+    tpxInterpolationSuper = 8,   /**< means of areas, for reductions */
+    tpxInterpolationLanczos = 16 /**< windowed sinc */
 };
 
-typedef int TpxRoundMode;
-enum { tpxRoundTowardZero = 0, tpxRoundNearestEven = 1, tpxRoundHalfAway = 2, tpxRoundExactFlag = 0x10 };
+typedef int TpxRoundMode; /**< how fractions are rounded */
+enum {
+    tpxRoundTowardZero = 0,  /**< cut off */
+    tpxRoundNearestEven = 1, /**< to nearest, ties to even */
+    tpxRoundHalfAway = 2,    /**< to nearest, ties away from zero */
+    tpxRoundExactFlag = 0x10 /**< flag of the general filter: of the exact quotient */
+};
 
-typedef int TpxCmpOp;
-enum { tpxCmpLess = 0, tpxCmpLessEq = 1, tpxCmpEq = 2, tpxCmpGreaterEq = 3, tpxCmpGreater = 4 };
+typedef int TpxCmpOp; /**< a comparison; thresholds take tpxCmpLess and tpxCmpGreater */
+enum {
+    tpxCmpLess = 0,      /**< less */
+    tpxCmpLessEq = 1,    /**< less or equal */
+    tpxCmpEq = 2,        /**< equal */
+    tpxCmpGreaterEq = 3, /**< greater or equal */
+    tpxCmpGreater = 4    /**< greater */
+};
 
-typedef int TpxHintAlgorithm;
-enum { tpxHintFast = 1, tpxHintAccurate = 2 };
+typedef int TpxHintAlgorithm; /**< what a caller prefers, where a family has a choice */
+enum {
+    tpxHintFast = 1,    /**< speed */
+    tpxHintAccurate = 2 /**< accuracy */
+};
 
-/* How tpxiCopyManaged moves memory: a set of bits. */
-typedef int TpxCopyFlags;
-enum { tpxCopyNonTemporalStore = 1, tpxCopyNonTemporalLoad = 2 };
+typedef int TpxCopyFlags; /**< how tpxiCopyManaged moves memory: a set of bits */
+enum {
+    tpxCopyNonTemporalStore = 1, /**< write past the caches */
+    tpxCopyNonTemporalLoad = 2   /**< read past the caches */
+};
 
-/* Where an FFT divides by the number of samples. */
-typedef int TpxFftFlag;
-enum { tpxFftDivForward = 1, tpxFftDivInverse = 2, tpxFftDivBySqrt = 4, tpxFftNoDivide = 8 };
+typedef int TpxFftFlag; /**< where a Fourier transform divides by the number of pixels */
+enum {
+    tpxFftDivForward = 1, /**< in forward transforms */
+    tpxFftDivInverse = 2, /**< in inverse ones */
+    tpxFftDivBySqrt = 4,  /**< by its square root in both */
+    tpxFftNoDivide = 8    /**< nowhere */
+};
+
+/** @} */
 
 #endif

@@ -73,20 +73,24 @@ def read(folder: Path) -> Declarations:
         text = re.sub(r"/\*.*?\*/|//[^\n]*|^#[^\n]*", "", header.read_text(), flags=re.DOTALL | re.MULTILINE)
         types += re.findall(r"^(?:typedef\b[^;{]*(?:\{[^}]*\}[^;]*)?|enum\b[^;(]*);", text, re.MULTILINE)
         for declaration in re.findall(r"^TPX_API\b([^;]*);", text, re.MULTILINE):
-            prototype = _prototype(" ".join(declaration.split()))
-            prototypes[prototype.name] = prototype
+            prototypes |= {p.name: p for p in _prototypes(" ".join(declaration.split()))}
     statuses = _statuses(shared.read_text())
     types.append(f"enum {{ {', '.join(f'{s.name} = {s.number}' for s in statuses.values())} }};")
     return Declarations("\n".join(types), prototypes, statuses)
 
 
-def _prototype(declaration: str) -> Prototype:
-    match = re.fullmatch(r"(.*?)(\w+)\((.*)\)", declaration)
+def _prototypes(declaration: str) -> list[Prototype]:
+    """All functions of one declaration: `TpxStatus f(int a), g(int b)`, `void *f(int a), *g(int b)`."""
+    match = re.fullmatch(r"(.*?) ?(\**\w+\(.*\))", declaration)
     if not match:
-        raise ValueError(f"no prototype that can be read: {declaration}")
-    result, name, parameters = match.groups()
-    found = re.findall(r"(?:^|, )(\w[^,]*?)\s*\b(\w+)((?:\[\d*\])*)(?=,|$)", "" if parameters == "void" else parameters)
-    return Prototype(name, result.strip(), tuple(Parameter(kind + sides, word) for kind, word, sides in found))
+        raise ValueError(f"no prototypes that can be read: {declaration}")
+    return [Prototype(name, match[1] + stars, _parameters(parameters))
+            for stars, name, parameters in re.findall(r"(\**)(\w+)\(([^)]*)\)", match[2])]
+
+
+def _parameters(text: str) -> tuple[Parameter, ...]:
+    found = re.findall(r"(?:^|, )(\w[^,]*?)\s*\b(\w+)((?:\[\d*\])*)(?=,|$)", "" if text == "void" else text)
+    return tuple(Parameter(kind + sides, word) for kind, word, sides in found)
 
 
 def _statuses(text: str) -> dict[int, Status]:
