@@ -18,6 +18,7 @@ python3-numpy and python3-cffi, and python3-tifffile for --image; `tools/setup p
 from __future__ import annotations
 
 import argparse
+import logging
 import os
 import signal
 import sys
@@ -26,6 +27,7 @@ from dataclasses import dataclass
 from pathlib import Path
 from typing import Any, Iterator
 
+import dask
 import numpy as np
 from distributed import Client, LocalCluster, as_completed
 
@@ -258,7 +260,10 @@ def main() -> int:
         with Client(arguments.scheduler) as client:
             total = run(client, job, arguments.tile, False)
     else:
-        with (LocalCluster(n_workers=arguments.workers, threads_per_worker=1, dashboard_address=None) as cluster,
+        # A result that lay on a worker that died is asked for until this time has passed, and then made again.
+        dask.config.set({"distributed.comm.timeouts.connect": "5s"})
+        with (LocalCluster(n_workers=arguments.workers, threads_per_worker=1, dashboard_address=None,
+                           silence_logs=logging.CRITICAL) as cluster,
               Client(cluster) as client):
             total = run(client, job, arguments.tile, arguments.kill_worker)
             client.wait_for_workers(arguments.workers)  # a killed one is replaced, and may still be starting
