@@ -4,19 +4,23 @@
 //   contact_sheet [-f|--force] [INPUT.png [OUTPUT.png]]
 //
 // A new family gets a function like toneCurves(): a section, and for each picture one call of show().
+#include <getopt.h>
+
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <vector>
 
 #include "gallery.h"
 #include "png_io.h"
+#include "tiled_resize.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-// Four pixels leave two of them at half size, the least that linear resize takes.
-constexpr SizeLimits kLimits = {.minSide = 6, .maxSide = 32768, .maxPixels = 1LL << 25};
+constexpr SizeLimits kLimits = {.maxSide = 32768, .maxPixels = 1LL << 25};
+constexpr int kLeastSide = 6; // of the source of a Lanczos resize with 3 lobes
 
 constexpr char kUsage[] =
     "usage: contact_sheet [-f|--force] [INPUT.png [OUTPUT.png]]\n"
@@ -29,34 +33,42 @@ struct Options {
     std::string input = CONTACT_SHEET_PHOTOGRAPH;
     std::string output = "contact_sheet.png";
     bool force = false;
-    bool help = false;
 };
 
-struct UsageError : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
-
+// Ends the program after --help, and where the arguments are wrong.
 Options parse(int argc, char** argv) {
+    const option known[] = {{"force", no_argument, nullptr, 'f'}, {"help", no_argument, nullptr, 'h'}, {}};
     Options options;
-    std::vector<std::string> files;
-    bool optionsEnded = false;
-    for (int i = 1; i < argc; ++i) {
-        const std::string argument = argv[i];
-        if (optionsEnded || argument.empty() || argument[0] != '-')
-            files.push_back(argument);
-        else if (argument == "--")
-            optionsEnded = true;
-        else if (argument == "-f" || argument == "--force")
-            options.force = true;
-        else if (argument == "-h" || argument == "--help")
-            options.help = true;
-        else
-            throw UsageError("unknown option " + argument);
+    for (int letter; (letter = getopt_long(argc, argv, "fh", known, nullptr)) != -1;) switch (letter) {
+            case 'f':
+                options.force = true;
+                break;
+            case 'h':
+                std::fputs(kUsage, stdout);
+                std::exit(0);
+            default: // which getopt_long has told
+                std::fputs(kUsage, stderr);
+                std::exit(2);
+        }
+    const std::vector<std::string> files(argv + optind, argv + argc);
+    if (files.size() > 2) {
+        std::fprintf(stderr, "contact_sheet: more than two files\n%s", kUsage);
+        std::exit(2);
     }
-    if (files.size() > 2) throw UsageError("more than two files");
     if (!files.empty()) options.input = files[0];
     if (files.size() > 1) options.output = files[1];
     return options;
+}
+
+// A picture that is too small for the longer kernels, with every pixel repeated as often as it takes.
+Image8u largeEnough(Image8u picture) {
+    const auto times = [](int length) { return length < kLeastSide ? (kLeastSide + length - 1) / length : 1; };
+    const TpxiSize size = picture.size();
+    const TpxiSize enough = {size.width * times(size.width), size.height * times(size.height)};
+    if (enough.width == size.width && enough.height == size.height) return picture;
+    Image8u enlarged(enough);
+    TiledResize(ResizeKind::nearest, size, enough, 1).run(picture.view(), enlarged.view());
+    return enlarged;
 }
 
 // ---- The program ----
@@ -71,16 +83,18 @@ void refuseUnsafeOutput(const Options& options) {
 
 void makeSheet(const Options& options) {
     refuseUnsafeOutput(options);
-    const Image8u source = readPng(options.input, kLimits);
+    Progress progress;
+    Image8u picture = readPng(options.input, kLimits);
+    const std::string size = text(picture.size());
+    const Image8u source = largeEnough(std::move(picture));
     const std::string name = fs::path(options.input).filename().string();
 
     const TpxLibraryVersion& version = *tpxiGetLibVersion();
     Sheet sheet("Contact sheet", std::string(version.name) + " " + version.version + " \u00b7 " + name + ", " +
-                                     text(source.size()) + " \u00b7 times are the best of " +
-                                     std::to_string(kRuns) + " runs");
-    Gallery gallery(sheet);
-    sheet.section("The photograph, and linear resize");
-    sheet.add(source.view(), {"Original", "", text(source.size()), ""}, 2);
+                                     size + " \u00b7 times are the best of " + std::to_string(kRuns) + " runs");
+    Gallery gallery(sheet, progress);
+    gallery.section("The photograph, and linear resize");
+    sheet.add(source.view(), {"Original", "", size, ""}, 2);
     resizes(gallery, source);
     warps(gallery, source);
     toneCurves(gallery, source);
@@ -92,26 +106,22 @@ void makeSheet(const Options& options) {
     spectra(gallery, source);
     measuring(gallery, source);
 
-    const Image8u picture = sheet.render();
-    writePng(options.output, picture.view(), options.force);
-    std::printf("%s, %s\n\n", options.input.c_str(), text(source.size()).c_str());
+    progress.at("drawing the sheet");
+    const Image8u drawn = sheet.render();
+    progress.at("writing " + options.output);
+    writePng(options.output, drawn.view(), options.force);
+    std::printf("%s, %s\n\n", options.input.c_str(), size.c_str());
     gallery.print();
-    std::printf("\nwrote %s, %s\n", options.output.c_str(), text(picture.size()).c_str());
+    std::printf("\nwrote %s, %s\n", options.output.c_str(), text(drawn.size()).c_str());
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
+    const Options options = parse(argc, argv);
     try {
-        const Options options = parse(argc, argv);
-        if (options.help)
-            std::fputs(kUsage, stdout);
-        else
-            makeSheet(options);
+        makeSheet(options);
         return 0;
-    } catch (const UsageError& error) {
-        std::fprintf(stderr, "contact_sheet: %s\n%s", error.what(), kUsage);
-        return 2;
     } catch (const std::bad_alloc&) {
         std::fprintf(stderr, "contact_sheet: not enough memory\n");
     } catch (const std::exception& error) {

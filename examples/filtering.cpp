@@ -43,7 +43,7 @@ void sprinkle(Pixels picture) {
 } // namespace
 
 void filters(Gallery& gallery, const Image8u& source) {
-    gallery.sheet().section("Neighbourhoods");
+    gallery.section("Neighbourhoods");
     const ConstPixels src = source.view();
     const TpxiSize size = src.size;
     Image8u result(size);

@@ -9,11 +9,13 @@
 #include <type_traits>
 
 #include "tpxi.h"
+#include "tpxi/status_text.h"
 
 // Throws unless the call succeeded or ended with the one warning that the caller expects.
 inline void check(TpxStatus status, const char* call, TpxStatus expectedWarning = tpxOk) {
     if (status != tpxOk && status != expectedWarning)
-        throw std::runtime_error(std::string(call) + " returned status " + std::to_string(status));
+        throw std::runtime_error(std::string(call) + ": " + tpxStatusName(status) + ", " +
+                                 tpxStatusText(status));
 }
 
 inline constexpr int kChannels = 3;

@@ -37,7 +37,7 @@ void channels(Gallery& gallery, const Image8u& source) {
     const ConstPixels src = source.view();
     const TpxiSize size = src.size;
 
-    gallery.sheet().section("Planes, channels, bits");
+    gallery.section("Planes, channels, bits");
     const Plane red(size), green(size), blue(size);
     Tpx8u* const planes[kChannels] = {red.data(), green.data(), blue.data()};
     const double split = bestTime(
@@ -69,7 +69,7 @@ void channels(Gallery& gallery, const Image8u& source) {
 }
 
 void borders(Gallery& gallery, const Image8u& source) {
-    gallery.sheet().section("Borders around a detail");
+    gallery.section("Borders around a detail");
     const TpxiSize box = {300, 200};
     const ConstPixels detail = source.view().centre({box.width * 2 / 3, box.height * 2 / 3});
     const TpxiSize inner = detail.size;

@@ -7,7 +7,6 @@
 #include "image.h"
 
 struct SizeLimits {
-    int minSide;
     int maxSide;
     long long maxPixels;
 };

@@ -43,7 +43,7 @@ void resizes(Gallery& gallery, const Image8u& source) {
     const Resized stretched = resize("Linear, to another shape", ResizeKind::linear, photo, {300, 400});
     gallery.show(stretched.image.view(), stretched.operation);
 
-    gallery.sheet().section("A detail six times enlarged");
+    gallery.section("A detail six times enlarged");
     // A region of interest is a pointer into the photograph and the photograph's step: nothing is copied.
     constexpr int kZoom = 6;
     const ConstPixels detail = photo.centre({300 / kZoom, 200 / kZoom});
@@ -54,7 +54,7 @@ void resizes(Gallery& gallery, const Image8u& source) {
                              resize("Lanczos, 3 lobes", ResizeKind::lanczos, detail, enlarged)})
         gallery.show(r.image.view(), r.operation);
 
-    gallery.sheet().section("Fine rings, a quarter of their size: all but the inner ones should turn grey");
+    gallery.section("Fine rings, a quarter of their size: all but the inner ones should turn grey");
     constexpr int kReduction = 4;
     const TpxiSize small = {300, 200};
     const Image8u rings = finestRings({small.width * kReduction, small.height * kReduction});

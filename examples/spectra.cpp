@@ -94,7 +94,7 @@ Image8u picture(View<const Tpx32f> spectrum) {
 } // namespace
 
 void spectra(Gallery& gallery, const Image8u& source) {
-    gallery.sheet().section("Frequencies: what a Fourier transform makes of the photograph, and back");
+    gallery.section("Frequencies: what a Fourier transform makes of the photograph, and back");
     const TpxiSize size = source.size();
     const ConstPixels src = source.view();
     Image32f samples(size), spectrum(size);

@@ -14,7 +14,7 @@ void convert(View<const From> src, View<To> dst, Convert rule) {
 } // namespace
 
 void toneCurves(Gallery& gallery, const Image8u& source) {
-    gallery.sheet().section("Tone curves");
+    gallery.section("Tone curves");
     const ConstPixels src = source.view();
     Image8u result(src.size);
     const Pixels dst = result.view();

@@ -17,7 +17,7 @@ Image8u turned(ConstPixels src) {
 } // namespace
 
 void twoImages(Gallery& gallery, const Image8u& source) {
-    gallery.sheet().section("Two images: the photograph and itself turned round");
+    gallery.section("Two images: the photograph and itself turned round");
     const ConstPixels a = source.view();
     const Image8u other = turned(a);
     const ConstPixels b = other.view();
@@ -38,7 +38,7 @@ void twoImages(Gallery& gallery, const Image8u& source) {
 }
 
 void thresholds(Gallery& gallery, const Image8u& source) {
-    gallery.sheet().section("Thresholds, a value for each channel");
+    gallery.section("Thresholds, a value for each channel");
     const ConstPixels src = source.view();
     Image8u result(src.size);
     const Pixels dst = result.view();

@@ -174,11 +174,11 @@ Image8u withGrid(ConstPixels src) {
 
 void warps(Gallery& gallery, const Image8u& source) {
     const ConstPixels photo = source.view();
-    gallery.sheet().section("Rotated, sheared, rectified");
+    gallery.section("Rotated, sheared, rectified");
     for (const Warped& w : {rotated(photo), sheared(photo), rectified(photo)})
         gallery.show(w.image.view(), w.operation);
 
-    gallery.sheet().section("A detail turned: what becomes of pixels outside");
+    gallery.section("A detail turned: what becomes of pixels outside");
     // With pixels of the photograph around it, which the last of the borders reads.
     const ConstPixels detail =
         photo.centre({std::min(60, photo.size.width - 2), std::min(40, photo.size.height - 2)});
@@ -188,7 +188,7 @@ void warps(Gallery& gallery, const Image8u& source) {
                             turnedDetail("In memory: taps reach outside", detail, tpxBorderInMemAll)})
         gallery.show(w.image.view(), w.operation);
 
-    gallery.sheet().section("Through maps: bent by a lens, and undone");
+    gallery.section("Through maps: bent by a lens, and undone");
     const Image8u grid = withGrid(photo);
     const Warped bent = radial("Bent by a lens", grid.view(), tpxInterpolationCubic, lens);
     const Warped straight = radial("Straightened", bent.image.view(), tpxInterpolationLanczos, undone);
