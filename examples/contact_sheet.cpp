@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Runs what the library offers on a photograph, and writes one labelled sheet of the results.
 //
-//   contact_sheet [-f|--force] [INPUT.png [OUTPUT.png]]
+//   contact_sheet [-f|--force] [-s|--small] [INPUT.png [OUTPUT.png]]
 //
 // A new family gets a function like toneCurves(): a section, and for each picture one call of show().
 #include <getopt.h>
@@ -23,25 +23,32 @@ constexpr SizeLimits kLimits = {.maxSide = 32768, .maxPixels = 1LL << 25};
 constexpr int kLeastSide = 6; // of the source of a Lanczos resize with 3 lobes
 
 constexpr char kUsage[] =
-    "usage: contact_sheet [-f|--force] [INPUT.png [OUTPUT.png]]\n"
+    "usage: contact_sheet [-f|--force] [-s|--small] [INPUT.png [OUTPUT.png]]\n"
     "\n"
     "Runs the library's operations on INPUT.png (the photograph shipped with the example unless given) and\n"
     "writes a labelled sheet of the results to OUTPUT.png (contact_sheet.png in the working directory unless\n"
-    "given). An existing file is replaced only with --force.\n";
+    "given). An existing file is replaced only with --force. --small makes a sheet of narrow columns.\n";
 
 struct Options {
     std::string input = CONTACT_SHEET_PHOTOGRAPH;
     std::string output = "contact_sheet.png";
     bool force = false;
+    bool small = false;
 };
 
 // Ends the program after --help, and where the arguments are wrong.
 Options parse(int argc, char** argv) {
-    const option known[] = {{"force", no_argument, nullptr, 'f'}, {"help", no_argument, nullptr, 'h'}, {}};
+    const option known[] = {{"force", no_argument, nullptr, 'f'},
+                            {"small", no_argument, nullptr, 's'},
+                            {"help", no_argument, nullptr, 'h'},
+                            {}};
     Options options;
-    for (int letter; (letter = getopt_long(argc, argv, "fh", known, nullptr)) != -1;) switch (letter) {
+    for (int letter; (letter = getopt_long(argc, argv, "fsh", known, nullptr)) != -1;) switch (letter) {
             case 'f':
                 options.force = true;
+                break;
+            case 's':
+                options.small = true;
                 break;
             case 'h':
                 std::fputs(kUsage, stdout);
@@ -90,8 +97,10 @@ void makeSheet(const Options& options) {
     const std::string name = fs::path(options.input).filename().string();
 
     const TpxLibraryVersion& version = *tpxiGetLibVersion();
-    Sheet sheet("Contact sheet", std::string(version.name) + " " + version.version + " \u00b7 " + name + ", " +
-                                     size + " \u00b7 times are the best of " + std::to_string(kRuns) + " runs");
+    Sheet sheet("Contact sheet",
+                std::string(version.name) + " " + version.version + " \u00b7 " + name + ", " + size +
+                    " \u00b7 times are the best of " + std::to_string(kRuns) + " runs",
+                options.small);
     Gallery gallery(sheet, progress);
     gallery.section("The photograph, and linear resize");
     sheet.add(source.view(), {"Original", "", size, ""}, 2);

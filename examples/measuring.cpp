@@ -3,8 +3,8 @@
 #include <array>
 #include <numeric>
 
+#include "canvas.h"
 #include "gallery.h"
-#include "text.h"
 
 namespace {
 
@@ -144,18 +144,15 @@ std::vector<std::string> figures(ConstPixels a, ConstPixels b) {
 }
 
 Image8u printed(const std::vector<std::string>& lines) {
-    constexpr int kLine = 18, kMargin = 10, kWidth = 300;
-    constexpr TextStyle kStyle = {"DejaVu Sans Mono", 12, false, {226, 230, 236}};
+    constexpr int kMargin = 10, kWidth = 300;
+    constexpr TextStyle kStyle = {"DejaVu Sans Mono", 12, {226, 230, 236}};
     constexpr Tpx8u kGround[kChannels] = {40, 40, 40};
-    Image8u image({kWidth, 2 * kMargin + kLine * static_cast<int>(lines.size())});
-    const Pixels dst = image.view();
-    check(tpxiSet_8u_C3R(kGround, dst.data, dst.step, dst.size), "tpxiSet_8u_C3R");
-    int baseline = kMargin + 13;
-    for (const std::string& one : lines) {
-        drawText(dst, kMargin, baseline, kWidth - 2 * kMargin, one, kStyle);
-        baseline += kLine;
-    }
-    return image;
+    std::vector<TextLine> text;
+    for (const std::string& one : lines) text.push_back({one, kStyle});
+    const int width = kWidth - 2 * kMargin;
+    Canvas canvas({kWidth, Canvas::height(text, width) + 2 * kMargin}, kGround);
+    canvas.write(text, {kMargin, kMargin}, width);
+    return canvas.image();
 }
 
 } // namespace

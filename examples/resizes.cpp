@@ -39,7 +39,7 @@ void resizes(Gallery& gallery, const Image8u& source) {
 
     const Resized larger = resize("Linear, 1.5 times, the middle", ResizeKind::linear, photo,
                                   {size.width * 3 / 2, size.height * 3 / 2});
-    gallery.show(larger.image.view().centre(Sheet::box()), larger.operation);
+    gallery.show(larger.image.view().centre(gallery.sheet().box()), larger.operation);
     const Resized stretched = resize("Linear, to another shape", ResizeKind::linear, photo, {300, 400});
     gallery.show(stretched.image.view(), stretched.operation);
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "image.h"
+#include "canvas.h"
 
 // One line each, under the picture; empty ones are left out.
 struct Caption {
@@ -17,10 +17,12 @@ struct Caption {
 
 class Sheet {
  public:
-    Sheet(std::string title, std::string subtitle) : title_(std::move(title)), subtitle_(std::move(subtitle)) {}
+    // Small sheets have narrow columns and small letters.
+    Sheet(std::string title, std::string subtitle, bool small)
+        : small_(small), title_(std::move(title)), subtitle_(std::move(subtitle)) {}
 
     // The room for a picture that spans so many columns.
-    static TpxiSize box(int columns = 1);
+    TpxiSize box(int columns = 1) const;
 
     void section(std::string title) { sections_.push_back({std::move(title), {}}); }
 
@@ -42,6 +44,9 @@ class Sheet {
         std::vector<Cell> cells;
     };
 
+    TextStyle style(const TextStyle& style) const;
+
+    bool small_;
     std::string title_;
     std::string subtitle_;
     std::vector<Section> sections_;

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 # Runs the contact sheet program as a user does.
 #   cmake -DPROGRAM=contact_sheet -DPHOTO=coffee.png -DWORK=directory -DCASE=name -P contact_sheet_test.cmake
-cmake_minimum_required(VERSION 3.25)
+cmake_minimum_required(VERSION 3.21)
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK})
 

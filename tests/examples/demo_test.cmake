@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 # What tools/demo says of its arguments. It installs and builds nothing for any of these.
 #   cmake -DDEMO=tools/demo -DPHOTO=coffee.png -DWORK=directory -P demo_test.cmake
-cmake_minimum_required(VERSION 3.25)
+cmake_minimum_required(VERSION 3.21)
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK})
 

@@ -1,0 +1,41 @@
+# SPDX-License-Identifier: Apache-2.0
+# A page of the guide shows its program as it is: the page's blocks of C are parts of the source, and what the page says
+# that the program prints is what it prints.
+#   cmake -DPAGE=page.md -DSOURCE=program.c -DPROGRAM=program -P guide_test.cmake
+cmake_minimum_required(VERSION 3.21)
+file(READ ${PAGE} page)
+file(READ ${SOURCE} source)
+execute_process(COMMAND ${PROGRAM} OUTPUT_VARIABLE printed TIMEOUT 10 COMMAND_ERROR_IS_FATAL ANY)
+
+# Takes the next block that begins with ```kind out of `page` into `block`.
+macro(nextBlock kind)
+    set(block "")
+    string(FIND "${page}" "```${kind}\n" start)
+    if(NOT start EQUAL -1)
+        string(LENGTH "```${kind}\n" fence)
+        math(EXPR start "${start} + ${fence}")
+        string(SUBSTRING "${page}" ${start} -1 page)
+        string(FIND "${page}" "```" end)
+        string(SUBSTRING "${page}" 0 ${end} block)
+    endif()
+endmacro()
+
+set(blocks 0)
+set(whole "${page}")
+nextBlock(c)
+while(NOT block STREQUAL "")
+    math(EXPR blocks "${blocks} + 1")
+    string(FIND "${source}" "${block}" at)
+    if(at EQUAL -1)
+        message(SEND_ERROR "${SOURCE} does not have\n${block}")
+    endif()
+    nextBlock(c)
+endwhile()
+if(blocks EQUAL 0)
+    message(SEND_ERROR "${PAGE} shows no code")
+endif()
+set(page "${whole}")
+nextBlock(text)
+if(NOT block STREQUAL printed)
+    message(SEND_ERROR "${PAGE} says\n${block}but the program prints\n${printed}")
+endif()
