@@ -9,26 +9,27 @@
 #include <tpxi.h>
 #include <unistd.h>
 
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <iostream>
+#include <iterator>
+#include <sstream>
 
 namespace bench {
 namespace {
 
 constexpr const char* kUsage =
     "  --table=FILE      write the table as Markdown\n"
-    "  --picture=FILE    draw the ratios into a PNG file (needs gnuplot)\n"
-    "  --script=FILE     where the gnuplot script goes, default tpx_bench.gp\n"
+    "  --bars=FILE       write what bench/picture.gp draws\n"
+    "  --readme=FILE     renew its eight rows and its sentence\n"
     "  --yardsticks-avx  hold the other libraries to AVX\n"
     "  and the options of Google Benchmark, such as --benchmark_filter=REGEX\n";
 
 struct Options {
     std::string table;
-    std::string picture;
-    std::string script = "tpx_bench.gp";
+    std::string bars;
+    std::string readme;
 };
 
 // Tells how far the run is, and what went wrong. The figures come at the end, in the table.
@@ -71,19 +72,38 @@ Facts facts() {
         "cache"};
 }
 
-bool draw(const Options& options, const std::string& subtitle) {
-    std::ofstream script(options.script);
-    writeScript(script, options.picture, subtitle, rows());
-    script.close();
-    if (!script) {
-        std::cerr << "cannot write " << options.script << "\n";
+// Writes a file by write(stream).
+template <class Write>
+bool writeFile(const std::string& path, Write write) {
+    std::ofstream out(path);
+    write(out);
+    out.close();
+    if (!out) std::cerr << "cannot write " << path << "\n";
+    return bool(out);
+}
+
+// Puts `text` between the README's marks of that name.
+bool replaceMarked(std::string& readme, const std::string& name, const std::string& text) {
+    const std::string begin = "<!-- " + name + " -->\n", end = "<!-- end of " + name + " -->";
+    const size_t from = readme.find(begin), to = readme.find(end);
+    if (from == std::string::npos || to == std::string::npos) {
+        std::cerr << "the README has no marks of " << name << "\n";
         return false;
     }
-    if (std::system("command -v gnuplot >/dev/null") != 0) {
-        std::cerr << "gnuplot is missing, no picture; the script for it is " << options.script << "\n";
-        return true;
-    }
-    return std::system(("gnuplot '" + options.script + "'").c_str()) == 0;
+    readme.replace(from + begin.size(), to - from - begin.size(), text);
+    return true;
+}
+
+bool renewReadme(const std::string& path, const Facts& known) {
+    std::ifstream in(path);
+    std::string readme((std::istreambuf_iterator<char>(in)), {});
+    in.close();
+    std::ostringstream sentence, summary;
+    writeSentence(sentence, rows());
+    writeSummary(summary, known, rows());
+    const bool ok =
+        replaceMarked(readme, "figure", sentence.str()) && replaceMarked(readme, "benchmark", summary.str());
+    return ok && writeFile(path, [&](std::ostream& out) { out << readme; });
 }
 
 } // namespace
@@ -98,10 +118,10 @@ int run(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         if (const char* file = value(argv[i], "--table="))
             options.table = file;
-        else if (const char* file = value(argv[i], "--picture="))
-            options.picture = file;
-        else if (const char* file = value(argv[i], "--script="))
-            options.script = file;
+        else if (const char* file = value(argv[i], "--bars="))
+            options.bars = file;
+        else if (const char* file = value(argv[i], "--readme="))
+            options.readme = file;
         else if (std::strcmp(argv[i], "--yardsticks-avx") == 0)
             limitYardsticksToAvx();
         else {
@@ -136,16 +156,18 @@ int run(int argc, char** argv) {
     const Facts known = facts();
     writeTable(std::cout, Style::text, known, rows());
     bool ok = !progress.failed();
-    if (!options.table.empty()) {
-        std::ofstream out(options.table);
-        out << "# Speed\n\nWritten by `bench/run`; `bench/README.md` tells how to read it.\n\n"
-            << "![Ratios](benchmark.png)\n\n";
-        writeTable(out, Style::markdown, known, rows());
-        out.close();
-        if (!out) std::cerr << "cannot write " << options.table << "\n";
-        ok = ok && out;
-    }
-    if (!options.picture.empty()) ok = draw(options, known[1] + "; " + known[2]) && ok;
+    if (!options.table.empty())
+        ok = writeFile(
+                 options.table,
+                 [&](std::ostream& out) {
+                     out << "# Speed\n\nWritten by `bench/run`; `bench/README.md` tells how to read it.\n\n"
+                         << "![Ratios](benchmark.png)\n\n";
+                     writeTable(out, Style::markdown, known, rows());
+                 }) &&
+             ok;
+    if (!options.bars.empty())
+        ok = writeFile(options.bars, [](std::ostream& out) { writeBars(out, rows()); }) && ok;
+    if (!options.readme.empty()) ok = renewReadme(options.readme, known) && ok;
     return ok ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 

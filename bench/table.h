@@ -17,6 +17,10 @@ using Facts = std::vector<std::string>;
 
 void writeTable(std::ostream& out, Style style, const Facts& facts, const std::vector<Row>& rows);
 
+// For the README: eight rows, and one sentence that they bear out.
+void writeSummary(std::ostream& out, const Facts& facts, const std::vector<Row>& rows);
+void writeSentence(std::ostream& out, const std::vector<Row>& rows);
+
 // In the order of their first appearance.
 std::vector<std::string> groups(const std::vector<Row>& rows);
 std::vector<Row> inGroup(const std::vector<Row>& rows, const std::string& group);
