@@ -9,9 +9,11 @@ array title[2] = ['Resizes and Fourier transforms beside other libraries', \
 array first[2] = [0.235, 0.745]
 array last[2] = [0.475, 0.985]
 
-stats data index 0 using 1 name 'left' nooutput
-stats data index 1 using 1 name 'right' nooutput
-rows = (left_max > right_max ? left_max : right_max) + 1
+stats data index 0 using 1:2 name 'left' nooutput
+stats data index 1 using 1:2 name 'right' nooutput
+rows = (left_max_x > right_max_x ? left_max_x : right_max_x) + 1
+array least[2] = [left_min_y, right_min_y]
+array most[2] = [left_max_y, right_max_y]
 height = head + unit * rows + foot
 figure(x) = x < 0.1 ? sprintf('%.3f', x) : x < 10 ? sprintf('%.2f', x) : sprintf('%.0f', x)
 
@@ -40,9 +42,8 @@ do for [c = 1:2] {
     set lmargin at screen first[c]
     set rmargin at screen last[c]
     set label 7 title[c] font 'DejaVu Sans Bold,10' at screen first[c] - 0.22, screen 1 - 70 / height
-    stats data index c - 1 using 2 name 'x' nooutput
-    low = (x_min < 0.5 ? x_min : 0.5) / 1.6
-    high = (x_max > 2 ? x_max : 2) * 1.6
+    low = (least[c] < 0.5 ? least[c] : 0.5) / 2.4
+    high = (most[c] > 2 ? most[c] : 2) * 1.6
     set xrange [low:high]
     plot data index c - 1 using 2:1:($2 < 1 ? $2 : 1):($2 < 1 ? 1 : $2):($1 - 0.42):($1 + 0.42):3 \
              with boxxyerror lc rgb variable, \
