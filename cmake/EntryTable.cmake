@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: Apache-2.0
-# Writes the assembler file of exported stubs and their slots.
+# Writes the assembler file of exported stubs and their slots; and beside it what the static library's symbols are
+# renamed by (entries.renames) and which of them others may see (entries.names).
 #   cmake -DHEADERS="a.h;b.h" -DOUTPUT=entries.S -P EntryTable.cmake
 # The names are those of the functions that the headers declare with TPX_API, in byte order. A stub is ten bytes:
 # the address of its slot is loaded into a scratch register, and control jumps through the slot with all
@@ -47,5 +48,10 @@ ${stubs}
 ${slots}
     .section .note.GNU-stack, \"\", @progbits
 ")
+list(JOIN names "\n" lines)
+string(REGEX REPLACE "([^\n]+)" "e9_\\1 \\1" renames "${lines}")
+get_filename_component(dir ${OUTPUT} DIRECTORY)
+file(WRITE ${dir}/entries.names "${lines}\n")
+file(WRITE ${dir}/entries.renames "${renames}\n")
 file(COPY_FILE ${OUTPUT}.new ${OUTPUT} ONLY_IF_DIFFERENT)
 file(TOUCH_NOCREATE ${OUTPUT})

@@ -15,6 +15,7 @@ file(GLOB TPX_PUBLIC_HEADERS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/tpx
 set(TPX_ENTRY_TABLE ${PROJECT_BINARY_DIR}/generated/entries.S)
 add_custom_command(
     OUTPUT ${TPX_ENTRY_TABLE}
+    BYPRODUCTS ${PROJECT_BINARY_DIR}/generated/entries.names ${PROJECT_BINARY_DIR}/generated/entries.renames
     COMMAND ${CMAKE_COMMAND} "-DHEADERS=${TPX_PUBLIC_HEADERS}" -DOUTPUT=${TPX_ENTRY_TABLE}
             -P ${PROJECT_SOURCE_DIR}/cmake/EntryTable.cmake
     DEPENDS ${TPX_PUBLIC_HEADERS} ${PROJECT_SOURCE_DIR}/cmake/EntryTable.cmake
@@ -69,3 +70,29 @@ if(NOT TPX_SANITIZE)
                                        -Wl,-init,initializer -Wl,-fini,destructor)
 endif()
 target_link_options(tpxie9 PRIVATE -Wl,-z,noexecstack -Wl,--as-needed)
+
+if(TPX_STATIC AND NOT TPX_SANITIZE)
+    # The static library is one object: the parts linked with each other, where the bodies have the names of the
+    # exports, and all other symbols are its own. It has no stubs and no hooks, and takes the memory functions of the
+    # program's C library. Every function keeps its section, so a linker that drops what nothing uses
+    # (--gc-sections) leaves in a program what it calls.
+    set(TPX_ONE_OBJECT ${PROJECT_BINARY_DIR}/generated/tpxie9.o)
+    add_custom_command(
+        OUTPUT ${TPX_ONE_OBJECT}
+        COMMAND ${CMAKE_CXX_COMPILER} -r -nostdlib -Wl,--force-group-allocation -o ${TPX_ONE_OBJECT}.parts
+                $<TARGET_OBJECTS:tpxi_objects>
+        COMMAND ${CMAKE_OBJCOPY} --redefine-syms=${PROJECT_BINARY_DIR}/generated/entries.renames
+                ${TPX_ONE_OBJECT}.parts
+        COMMAND ${CMAKE_OBJCOPY} --keep-global-symbols=${PROJECT_BINARY_DIR}/generated/entries.names
+                ${TPX_ONE_OBJECT}.parts ${TPX_ONE_OBJECT}
+        DEPENDS tpxi_objects $<TARGET_OBJECTS:tpxi_objects> ${TPX_ENTRY_TABLE}
+        COMMENT "Linking the parts of the static library"
+        COMMAND_EXPAND_LISTS VERBATIM)
+    set_source_files_properties(${TPX_ONE_OBJECT} PROPERTIES EXTERNAL_OBJECT ON GENERATED ON)
+    add_library(tpxie9_static STATIC ${TPX_ONE_OBJECT})
+    add_library(tpxi::tpxie9_static ALIAS tpxie9_static)
+    set_target_properties(tpxie9_static PROPERTIES OUTPUT_NAME tpxie9 LINKER_LANGUAGE C)
+    target_include_directories(tpxie9_static INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+                                                       $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    target_link_libraries(tpxie9_static INTERFACE tpxcore_static)
+endif()

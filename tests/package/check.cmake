@@ -37,6 +37,37 @@ foreach(pair IN ITEMS main/tpxie9 core/tpxcore)
     run(${WORK_DIR}/${program})
 endforeach()
 
+# A program that holds the library holds what it calls of it, and needs no other library.
+if(STATIC)
+    file(SIZE ${WORK_DIR}/build/main_static whole)
+    file(SIZE ${prefix}/${LIBDIR}/libtpxie9.a all)
+    if(whole GREATER 2000000 OR all LESS 5000000)
+        message(FATAL_ERROR "a program of ${whole} bytes of a library of ${all}")
+    endif()
+    execute_process(COMMAND nm -g --defined-only --format=posix ${prefix}/${LIBDIR}/libtpxie9.a
+                    OUTPUT_VARIABLE names COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX MATCHALL "[^\n]+ [A-Z] " names "${names}")
+    list(TRANSFORM names REPLACE " .*" "")
+    list(SORT names COMPARE STRING)
+    file(STRINGS ${EXPORTS} exports)
+    if(NOT names STREQUAL exports)
+        list(REMOVE_ITEM names ${exports})
+        message(FATAL_ERROR "the static library's names are not those of the exports, but also: ${names}")
+    endif()
+    execute_process(COMMAND ${PKG_CONFIG} --static --cflags --libs tpxie9 OUTPUT_VARIABLE flags
+                    OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    separate_arguments(flags UNIX_COMMAND "${flags}")
+    run(${C_COMPILER} -std=c99 ${CONSUMER_DIR}/main.c -static ${flags} -o ${WORK_DIR}/main)
+    run(${WORK_DIR}/main)
+endif()
+
+# The prefix is a variable that a caller may set.
+execute_process(COMMAND ${PKG_CONFIG} --define-variable=prefix=/elsewhere --cflags --libs tpxie9
+                OUTPUT_VARIABLE flags COMMAND_ERROR_IS_FATAL ANY)
+if(NOT flags MATCHES "-I/elsewhere/include -L/elsewhere/${LIBDIR} -ltpxie9")
+    message(FATAL_ERROR "with another prefix: ${flags}")
+endif()
+
 # The Python package finds the headers and the library that were installed with it.
 if(PYTHON)
     run(${CMAKE_COMMAND} -E env --unset=TPXI_INCLUDE --unset=TPXI_LIBRARY PYTHONDONTWRITEBYTECODE=1
