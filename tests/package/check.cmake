@@ -35,6 +35,11 @@ foreach(pair IN ITEMS main/tpxie9 core/tpxcore)
     run(${C_COMPILER} -std=c99 -pedantic -Wall -Wextra -Werror ${CONSUMER_DIR}/${program}.c ${flags}
         -Wl,-rpath,${prefix}/${LIBDIR} -o ${WORK_DIR}/${program})
     run(${WORK_DIR}/${program})
+    if(EXISTS ${CONSUMER_DIR}/${program}.cpp)
+        run(${CXX_COMPILER} -std=c++17 -pedantic -Wall -Wextra -Werror ${CONSUMER_DIR}/${program}.cpp ${flags}
+            -Wl,-rpath,${prefix}/${LIBDIR} -o ${WORK_DIR}/${program}_cpp)
+        run(${WORK_DIR}/${program}_cpp)
+    endif()
 endforeach()
 
 # A program that holds the library holds what it calls of it, and needs no other library.
