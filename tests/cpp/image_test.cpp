@@ -128,6 +128,8 @@ TEST(CppImage, Buffers) {
     EXPECT_EQ(taken.data(), data);
     EXPECT_EQ(buffer.data(), nullptr);
     EXPECT_EQ(buffer.size(), 0);
-    EXPECT_EQ(Buffer(0).data(), nullptr);
+    EXPECT_EQ(Buffer().data(), nullptr);
+    EXPECT_NE(Buffer(0).data(), nullptr);
+    EXPECT_THROW(Buffer(-1), Error);
     EXPECT_THROW(Buffer(std::numeric_limits<TpxSizeL>::max()), Error);
 }

@@ -203,7 +203,7 @@ TpxStatus dup(const Src& src, Dst&& dst) {
 // C3 to C4 an order of 3 gives `value`.
 template <class Src, class Dst, detail::Images<Src, Dst> = 0>
 TpxStatus swapChannels(const Src& src, Dst&& dst,
-                       const std::array<int, coloursOf(detail::layoutOf<Dst>)>& order) {
+                       const std::array<int, std::size_t{coloursOf(detail::layoutOf<Dst>)}>& order) {
     return detail::map<op::SwapChannels>("swapChannels", src, dst, order.data());
 }
 template <class Src, class Dst, detail::Images<Src, Dst> = 0>
@@ -212,7 +212,8 @@ TpxStatus swapChannels(const Src& src, Dst&& dst, const std::array<int, 4>& orde
     return detail::map<op::SwapChannels>("swapChannels", src, dst, order.data(), value);
 }
 template <class SrcDst, detail::Images<SrcDst> = 0>
-TpxStatus swapChannels(SrcDst&& srcDst, const std::array<int, coloursOf(detail::layoutOf<SrcDst>)>& order) {
+TpxStatus swapChannels(SrcDst&& srcDst,
+                       const std::array<int, std::size_t{coloursOf(detail::layoutOf<SrcDst>)}>& order) {
     return detail::mapInPlace<op::SwapChannels>("swapChannels", srcDst, order.data());
 }
 

@@ -61,7 +61,7 @@ constexpr int coloursOf(int layout) { return layout == AC4 ? 3 : layout; }  // t
 
 // One value a colour, as the library takes and gives them: a plain value for C1, an array for the others.
 template <class Value, int layout>
-using Pixel = std::conditional_t<layout == C1, Value, std::array<Value, coloursOf(layout)>>;
+using Pixel = std::conditional_t<layout == C1, Value, std::array<Value, std::size_t{coloursOf(layout)}>>;
 
 namespace detail {
 template <class Sample>
@@ -206,14 +206,14 @@ class Image {
 };
 
 // ---- Buffers -------------------------------------------------------------------------------------------
-// Bytes for a plan, or for the work of one call at a time. One of no bytes holds a null pointer.
+// Bytes for a plan, or for the work of one call at a time. Of no bytes too there is an address, since a few
+// functions want one.
 class Buffer {
  public:
     Buffer() = default;
     explicit Buffer(TpxSizeL bytes) : bytes_(bytes) {
-        if (bytes < 1) return;
         TpxSizeL step = 0;
-        data_.reset(tpxiMalloc_8u_C1_L(bytes, 1, &step));
+        data_.reset(tpxiMalloc_8u_C1_L(bytes == 0 ? 1 : bytes, 1, &step));
         if (!data_) detail::fail(tpxErrMemAlloc, "Buffer");
     }
     Buffer(Buffer&& other) noexcept { swap(other); }

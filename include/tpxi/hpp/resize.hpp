@@ -161,7 +161,7 @@ class ResizePlan {
             case Kind::antialiasing:
                 return run<op::ResizeAntialiasing>(src, dst, dstOffset, buffer, border);
         }
-        return tpxErrContext; // there is no other kind
+        return check(tpxErrContext, "ResizePlan"); // there is no other kind
     }
 
     TpxiPoint srcOffset(TpxiPoint dstOffset) const {
@@ -198,15 +198,15 @@ class ResizePlan {
             detail::fail(tpxErrSize, "ResizePlan"); // there is no plan of no pixels
         spec_ = Buffer(bytes);
     }
-    template <class Init, class... Parameters>
-    ResizePlan&& init(Init init, Parameters... parameters) {
-        check(init(srcSize_, dstSize_, parameters..., spec()), "ResizePlan");
+    template <class Function, class... Parameters>
+    ResizePlan&& init(Function function, Parameters... parameters) {
+        check(function(srcSize_, dstSize_, parameters..., spec()), "ResizePlan");
         return std::move(*this);
     }
-    template <class Init, class... Parameters>
-    ResizePlan&& initWithBuffer(Init init, Parameters... parameters) {
-        const Buffer temporary(initBytes_ > 0 ? initBytes_ : 1);
-        check(init(srcSize_, dstSize_, parameters..., spec(), temporary.data()), "ResizePlan");
+    template <class Function, class... Parameters>
+    ResizePlan&& initWithBuffer(Function function, Parameters... parameters) {
+        const Buffer temporary(initBytes_);
+        check(function(srcSize_, dstSize_, parameters..., spec(), temporary.data()), "ResizePlan");
         return std::move(*this);
     }
 
@@ -230,7 +230,7 @@ class ResizePlan {
             else
                 return check(call(), "ResizePlan");
         } else {
-            return tpxErrContext; // 64f has linear plans alone
+            return check(tpxErrContext, "ResizePlan"); // 64f has linear plans alone
         }
     }
 

@@ -271,15 +271,15 @@ TpxStatus maxEvery(const Src& src, SrcDst&& srcDst) {
 template <class Sample, int layout>
 class Histogram {
  public:
-    using Counts = std::array<int, layout>;
+    template <class T>
+    using Each = std::array<T, std::size_t{layout}>;
 
-    Histogram(TpxiSize size, const std::array<const Tpx32f*, layout>& levels, const Counts& nLevels)
+    Histogram(TpxiSize size, const Each<const Tpx32f*>& levels, const Each<int>& nLevels)
         : Histogram(size, nLevels, 0) {
         check(tpxiHistogramInit(dataType<Sample>, levels.data(), nLevels.data(), layout, spec()), "Histogram");
     }
     // Levels at even distances, from lower to upper.
-    Histogram(TpxiSize size, const std::array<Tpx32f, layout>& lower, const std::array<Tpx32f, layout>& upper,
-              const Counts& nLevels)
+    Histogram(TpxiSize size, const Each<Tpx32f>& lower, const Each<Tpx32f>& upper, const Each<int>& nLevels)
         : Histogram(size, nLevels, 1) {
         check(tpxiHistogramUniformInit(dataType<Sample>, lower.data(), upper.data(), nLevels.data(), layout,
                                        spec()),
@@ -289,8 +289,7 @@ class Histogram {
     Buffer buffer() const { return Buffer(bufferBytes_); }
 
     template <class Src, detail::Images<Src> = 0>
-    TpxStatus operator()(const Src& src, const std::array<Tpx32u*, layout>& counters,
-                         const Buffer& buffer) const {
+    TpxStatus operator()(const Src& src, const Each<Tpx32u*>& counters, const Buffer& buffer) const {
         static_assert(std::is_same_v<detail::KeyOfOne<Src>, Key<Sample, layout>>, "an image of another type");
         const auto from = detail::readable(src);
         const auto function = detail::find<op::Histogram, Key<Sample, layout>>();
@@ -305,7 +304,7 @@ class Histogram {
     }
 
  private:
-    Histogram(TpxiSize size, const Counts& nLevels, int uniform) {
+    Histogram(TpxiSize size, const Each<int>& nLevels, int uniform) {
         int bytes = 0;
         check(tpxiHistogramGetBufferSize(dataType<Sample>, size, nLevels.data(), layout, uniform, &bytes,
                                          &bufferBytes_),
@@ -326,7 +325,7 @@ class Lut {
  public:
     using Value = std::conditional_t<std::is_same_v<Sample, Tpx32f>, Tpx32f, Tpx32s>;
     template <class T>
-    using Each = std::array<T, coloursOf(layout)>;
+    using Each = std::array<T, std::size_t{coloursOf(layout)}>;
 
     Lut(TpxInterpolationType interpolation, const Each<const Value*>& values, const Each<const Value*>& levels,
         const Each<int>& nLevels) {

@@ -117,7 +117,7 @@ class WarpAffine
                                     &bytes, &initBytes),
               "WarpAffine");
         this->spec_ = Buffer(bytes);
-        const Buffer temporary(initBytes + 1);
+        const Buffer temporary(initBytes);
         const auto init = [&](auto function, auto... more) {
             return function(src, dst, dataType<Sample>, coeffs, o.direction, layout, more...);
         };
@@ -155,7 +155,7 @@ class WarpPerspective : public WarpPlan<Sample, layout, op::WarpPerspectiveNeare
                                          o.direction, o.border, &bytes, &initBytes),
               "WarpPerspective");
         this->spec_ = Buffer(bytes);
-        const Buffer temporary(initBytes + 1);
+        const Buffer temporary(initBytes);
         const auto init = [&](auto function, auto... kernel) {
             return function(src, srcRoi, dst, dataType<Sample>, coeffs, o.direction, layout, kernel...,
                             o.border, o.borderValue.data(), o.smoothEdge, spec(), temporary.data());
@@ -191,7 +191,7 @@ class WarpQuad : public WarpPlan<Sample, layout, op::WarpPerspectiveNearest, op:
               "WarpQuad");
         this->dstSize_ = {dstRoi.x + dstRoi.width, dstRoi.y + dstRoi.height};
         this->spec_ = Buffer(bytes);
-        const Buffer temporary(initBytes + 1);
+        const Buffer temporary(initBytes);
         const auto init = [&](auto function, auto... kernel) {
             return function(src, srcRoi, srcQuad, dstRoi, dstQuad, transform, dataType<Sample>, layout,
                             kernel..., o.border, o.borderValue.data(), o.smoothEdge, spec(), temporary.data());
