@@ -17,23 +17,50 @@ namespace {
 
 // The taps of some positions of an axis.
 struct AxisTaps {
-    Footprint footprint;
     const Tpx32s* index;
-    const Tpx32f* weights; // of the first of a position's taps
-    int64_t stride;        // from a position's weights to the next one's
+    const Tpx32f* table;
+    int64_t stride, size; // from the weights of a position to those of the next, and how many of them are used
+    int64_t offset;       // of the first tap from the index, where none is skipped
+
+    const Tpx32f* begin(int64_t i) const { return table + i * stride; }
+    // Where the taps of a position that are used begin.
+    struct Place {
+        int64_t first;
+        const Tpx32f* weights;
+    };
+    Place at(int64_t i) const {
+        const Tpx32f *weights = begin(i), *const end = weights + (stride - size);
+        int64_t first = index[i] + offset;
+        for (; weights < end && *weights == 0; weights++) first++;
+        return {first, weights};
+    }
 };
 
 // Stretched kernels leave the outermost taps without weight, and so do positions that fall on pixels. Integers
-// do without what has none on both sides at all positions. A float may be infinite, and keeps it.
+// begin at the first tap with a weight, and take as many as the position that needs most has up to its last
+// weight. A float may be infinite, and keeps all.
 template <class T>
 AxisTaps tapsOf(const TpxiResizeAxis& axis, int lobes, int64_t first, int64_t count) {
     const int64_t stride = 2 * int64_t(lobes);
-    const Tpx32f* const weights = axis.pCoef32f + first * stride;
-    int64_t spare = std::is_integral_v<T> ? lobes - 1 : 0; // on either side
-    for (int64_t i = 0; i < count && spare > 0; i++)
-        for (int64_t k = 0; k < spare; k++)
-            if (weights[i * stride + k] != 0 || weights[(i + 1) * stride - 1 - k] != 0) spare = k;
-    return {footprintOf(lobes - int(spare)), axis.pIndex + first, weights + spare, stride};
+    const AxisTaps all = {axis.pIndex + first, axis.pCoef32f + first * stride, stride, stride,
+                          1 - int64_t(lobes)};
+    if constexpr (std::is_integral_v<T>) {
+        AxisTaps taps = all;
+        taps.size = 1;
+        int64_t before = INT64_MIN;
+        for (int64_t i = 0; i < count; i++) {
+            const Tpx32f* const weights = all.begin(i);
+            int64_t skipped = 0, end = stride;
+            while (skipped < stride - 1 && weights[skipped] == 0) skipped++;
+            while (end > skipped + taps.size && weights[end - 1] == 0) end--;
+            taps.size = maxOf(taps.size, end - skipped);
+            const int64_t begin = taps.index[i] + skipped;
+            if (taps.size == stride || begin < before) return all; // rows and columns are read in rising order
+            before = begin;
+        }
+        return taps;
+    }
+    return all;
 }
 
 // ---- Bands of columns --------------------------------------------------------------------------------------
@@ -42,40 +69,46 @@ AxisTaps tapsOf(const TpxiResizeAxis& axis, int lobes, int64_t first, int64_t co
 // more rows than that lies in the caller's buffer, and has a row at a time passed into it.
 constexpr int64_t kSourceRoom = 6144, kRingRoom = 6144;
 
-// The positions from `first` on that make a band, of `end` at most.
+// A band of columns, few enough for what is kept of its rows to stay close to the processor.
 template <int N>
-TapColumns bandAt(const AxisTaps& taps, int64_t ringRows, int64_t first, int64_t end) {
-    const Tpx32s* const index = taps.index + first;
-    const int size = taps.footprint.size;
-    const int64_t groups = maxOf<int64_t>(kRingRoom / (ringRows * kTapPositions * N), 1);
-    const auto pixels = [&](int64_t count) { return int64_t(index[count - 1]) - index[0] + size; };
-    const auto fits = [&](int64_t count) { return pixels(count) * N * kTapRows<N> <= kSourceRoom; };
-    int64_t count = minOf(end - first, groups * kTapPositions);
-    if (fits(1) && !fits(count)) { // as positions rise, the last one that fits is found by halving
-        int64_t tooMany = count;
-        count = 1;
-        while (tooMany - count > 1) {
-            const int64_t middle = (count + tooMany) / 2;
-            (fits(middle) ? count : tooMany) = middle;
+struct TapColumns {
+    static constexpr int64_t kMost = kRingRoom / (kTapRows<N> * N);
+
+    int64_t count;
+    int64_t from, pixels = 0; // of the source, that the taps read
+    bool inPieces;            // those of a single position are too many already
+    TapPosition positions[kMost];
+
+    // The positions from `first` on, of `end` at most; their pixels will lie at `turned`.
+    TapColumns(const AxisTaps& taps, int64_t ringRows, int64_t first, int64_t end, const Tpx32f* turned)
+        : from(taps.at(first).first) {
+        const auto fits = [](int64_t n) { return n * N * kTapRows<N> <= kSourceRoom; };
+        inPieces = !fits(taps.size);
+        const int64_t groups = maxOf<int64_t>(kRingRoom / (ringRows * kTapPositions * N), 1);
+        const int64_t most = minOf(end - first, groups * kTapPositions);
+        for (count = 0; count < most; count++) {
+            const AxisTaps::Place place = taps.at(first + count);
+            const int64_t at = place.first - from;
+            if (!inPieces && !fits(at + taps.size)) break;
+            pixels = at + taps.size;
+            positions[count] = {inPieces ? turned : turned + at * N * kTapRows<N>, place.weights};
         }
     }
-    return {index, taps.weights + first * taps.stride,        taps.stride,  count,
-            size,  int64_t(index[0]) + taps.footprint.offset, pixels(count)};
-}
+};
 
-// Where a position has more taps than the stack has room for, they are read in pieces.
-template <class T, int N>
-void passInPieces(const TapSource<T, N>& source, int64_t y, int64_t n, const TapColumns& columns,
-                  Tpx32f* turned, Tpx32f* const* rows) {
+// Where a position has more taps than the stack has room for, they are read in pieces. Its pixels begin at
+// firstOf(j).
+template <class T, int N, class FirstOf>
+void passInPieces(const TapSource<T, N>& source, int64_t y, int64_t n, const TapColumns<N>& columns,
+                  int64_t taps, FirstOf firstOf, Tpx32f* turned, Tpx32f* const* rows) {
     constexpr int64_t kPixels = kSourceRoom / (N * kTapRows<N>);
     passPositions<N>(columns.count, rows, [&](int64_t j, TapSums<N>* sums) {
-        const int64_t from = columns.from + columns.index[j] - columns.index[0];
         for (int c = 0; c < N; c++)
             for (V32f& sum : sums[c]) sum = V32f{};
-        for (int64_t t = 0; t < columns.taps; t += kPixels) {
-            const int64_t count = minOf(columns.taps - t, kPixels);
-            source.read(y, n, from + t, count, turned);
-            addTaps<N, kAnyTaps>(turned, columns.weights + j * columns.stride + t, int(count), t == 0, sums);
+        for (int64_t t = 0; t < taps; t += kPixels) {
+            const int64_t count = minOf(taps - t, kPixels);
+            source.read(y, n, firstOf(j) + t, count, turned);
+            addTaps<N, kAnyTaps>(turned, columns.positions[j].weights + t, int(count), t == 0, sums);
         }
     });
 }
@@ -83,45 +116,30 @@ void passInPieces(const TapSource<T, N>& source, int64_t y, int64_t n, const Tap
 // ---- The tile ----------------------------------------------------------------------------------------------
 
 // Calls act(std::integral_constant<int, Taps>) with the number of taps, or kAnyTaps.
-template <class Act>
-void withTaps(int taps, Act act) {
-    switch (taps) {
-        case 2:
-            return act(std::integral_constant<int, 2>());
-        case 4:
-            return act(std::integral_constant<int, 4>());
-        case 6:
-            return act(std::integral_constant<int, 6>());
-        case 8: // 8 to 14 are those of stretched kernels
-            return act(std::integral_constant<int, 8>());
-        case 10:
-            return act(std::integral_constant<int, 10>());
-        case 12:
-            return act(std::integral_constant<int, 12>());
-        case 14:
-            return act(std::integral_constant<int, 14>());
-        default:
-            return act(std::integral_constant<int, kAnyTaps>());
-    }
+template <int Taps = kOwnTaps, class Act>
+void withTaps(int64_t taps, Act act) {
+    if constexpr (Taps != kAnyTaps)
+        if (taps != Taps) return withTaps<Taps - 1>(taps, act);
+    act(std::integral_constant<int, Taps>());
 }
 
-using PassAlongX = void (*)(const TapColumns&, const Tpx32f*, Tpx32f* const*);
+using PassAlongX = void (*)(const TapPosition*, int64_t, int, Tpx32f* const*);
 template <class T>
-using BlendAlongY = void (*)(const RowRing<Tpx32f>&, const Tpx32f*, int, T*, int64_t);
+using BlendAlongY = void (*)(const RowRing<Tpx32f>&, const Tpx32f*, int64_t, T*, int64_t);
 
 template <class T, int N>
 void resizeTile(const Tile<T>& tile, BorderWord border) {
     const TpxiResizeAxis &ax = tile.plan.axisX, &ay = tile.plan.axisY;
     const AxisTaps x = tapsOf<T>(ax, tile.plan.lobesX, tile.x, tile.width);
     const AxisTaps y = tapsOf<T>(ay, tile.plan.lobesY, tile.y, tile.height);
-    const int rows = y.footprint.size;
+    const int64_t rows = y.size;
     const TapSource<T, N> source(tile.src, ax.srcLen, ay.srcLen, border);
     PassAlongX pass = nullptr;
-    withTaps(x.footprint.size, [&](auto taps) { pass = passAlongX<N, taps>; });
+    withTaps(x.size, [&](auto taps) { pass = passAlongX<N, taps>; });
     BlendAlongY<T> blend = nullptr;
     withTaps(rows, [&](auto taps) { blend = blendAlongY<T, taps>; });
 
-    const int64_t endRow = int64_t(y.index[tile.height - 1]) + y.footprint.last() + 1;
+    const int64_t endRow = y.at(tile.height - 1).first + rows;
     constexpr int64_t kGroup = kTapPositions * N;
     alignas(32) Tpx32f turned[kSourceRoom + kTurned<T> * kTapRows<N>], onStack[kRingRoom], aside[kGroup];
     const bool fits = (rows + kTapRows<N> - 1) * kGroup <= kRingRoom;
@@ -130,7 +148,7 @@ void resizeTile(const Tile<T>& tile, BorderWord border) {
 
     int64_t bandWidth;
     for (int64_t band = 0; band < tile.width; band += bandWidth) {
-        const TapColumns columns = bandAt<N>(x, rows + ahead, band, tile.width);
+        const TapColumns<N> columns(x, rows + ahead, band, tile.width, turned);
         bandWidth = columns.count;
         // The caller's buffer has no room for whole groups; a band is a single group then.
         const auto step = ptrdiff_t(roundUp(uint64_t(columns.count) * N, fits ? kGroup : kLanes<Tpx32f>));
@@ -139,18 +157,20 @@ void resizeTile(const Tile<T>& tile, BorderWord border) {
             Tpx32f* to[kTapRows<N>]; // lanes past n have what row n - 1 has
             for (int k = 0; k < kTapRows<N>; k++)
                 to[k] = fits ? ring.of(first + minOf<int64_t>(k, n - 1)) : aside;
-            if (columns.pixels * N * kTapRows < N >> kSourceRoom) {
-                passInPieces(source, first, n, columns, turned, to);
+            if (columns.inPieces) {
+                const auto firstOf = [&](int64_t j) { return x.at(band + j).first; };
+                passInPieces(source, first, n, columns, x.size, firstOf, turned, to);
             } else {
                 source.read(first, n, columns.from, columns.pixels, turned);
-                pass(columns, turned, to);
+                pass(columns.positions, columns.count, int(x.size), to);
             }
             if (!fits) __builtin_memcpy(ring.of(first), aside, size_t(columns.count) * N * sizeof(Tpx32f));
         };
         const ImageView<T> dst = tile.dst.from(band * N, 0);
         for (int64_t i = 0; i < tile.height; i++) {
-            ring.moveTo(int64_t(y.index[i]) + y.footprint.offset, endRow, make);
-            blend(ring, y.weights + i * y.stride, rows, dst.row(i), columns.count * N);
+            const AxisTaps::Place place = y.at(i);
+            ring.moveTo(place.first, endRow, make);
+            blend(ring, place.weights, rows, dst.row(i), columns.count * N);
         }
     }
 }

@@ -11,19 +11,14 @@
 
 namespace tpx {
 
-// The numbers of taps with code of their own; kAnyTaps serves all even ones.
-inline constexpr int kAnyTaps = 0;
+// Up to kOwnTaps taps have code of their own; kAnyTaps serves all numbers.
+inline constexpr int kAnyTaps = 0, kOwnTaps = 14;
 
 // ---- Along x ---------------------------------------------------------------------------------------------
 
-// A band of columns, few enough for what is kept of its rows to stay close to the processor.
-struct TapColumns {
-    const Tpx32s* index;   // of the band's positions
-    const Tpx32f* weights; // `taps` of each
-    int64_t stride;        // from the weights of a position to those of the next
-    int64_t count;
-    int taps;
-    int64_t from, pixels; // of the source, that the taps read
+// Where a position finds its taps: of turned source pixels, and of the plan.
+struct TapPosition {
+    const Tpx32f *pixels, *weights;
 };
 
 // The sums of a sample in all rows.
@@ -65,13 +60,9 @@ template <int N, class SumsOf>
 }
 
 template <int N, int Taps>
-inline void passAlongX(const TapColumns& columns, const Tpx32f* turned, Tpx32f* const* rows) {
-    const int taps = Taps == kAnyTaps ? columns.taps : Taps;
-    const int64_t stride = columns.stride;
-    const Tpx32s* const index = columns.index;
-    const Tpx32f *const weights = columns.weights, *const origin = turned - int64_t(index[0]) * N * kTapRows<N>;
-    passPositions<N>(columns.count, rows, [&](int64_t j, TapSums<N>* sums) {
-        addTaps<N, Taps>(origin + int64_t(index[j]) * N * kTapRows<N>, weights + j * stride, taps, true, sums);
+inline void passAlongX(const TapPosition* positions, int64_t count, int taps, Tpx32f* const* rows) {
+    passPositions<N>(count, rows, [&](int64_t j, TapSums<N>* sums) {
+        addTaps<N, Taps>(positions[j].pixels, positions[j].weights, taps, true, sums);
     });
 }
 
@@ -95,16 +86,21 @@ template <class T, int M>
 
 // The rows of the window, weighted and added, to `count` samples. Rows have whole registers.
 template <class T, int Taps>
-inline void blendAlongY(const RowRing<Tpx32f>& ring, const Tpx32f* weights, int taps, T* dst, int64_t count) {
+inline void blendAlongY(const RowRing<Tpx32f>& ring, const Tpx32f* weights, int64_t taps, T* dst,
+                        int64_t count) {
     constexpr int L = kLanes<T>, F = kLanes<Tpx32f>, kPerRegister = L / F;
     // Registers of sums that are made at a time; of few taps no more than what is stored.
     constexpr int kSums = Taps == kAnyTaps ? 4 : kPerRegister;
     const Tpx32f* rows[Taps == kAnyTaps ? 1 : Taps];
-    for (int t = 0; t < Taps; t++) rows[t] = ring.at(t);
+    V32f hoisted[Taps == kAnyTaps ? 1 : Taps]; // stores of samples might otherwise have changed them
+    for (int t = 0; t < Taps; t++) {
+        rows[t] = ring.at(t);
+        hoisted[t] = splat<V32f>(peek(weights + t));
+    }
 
     const auto sums = [&]<int M>(int64_t i, V32f(&sum)[M]) {
-        const auto add = [&](const Tpx32f* row, int t) {
-            const V32f weight = splat<V32f>(peek(weights + t));
+        const auto add = [&](const Tpx32f* row, int64_t t) {
+            const V32f weight = Taps == kAnyTaps ? splat<V32f>(peek(weights + t)) : hoisted[t];
             for (int m = 0; m < M; m++) {
                 const V32f product = load(row + i + m * F) * weight;
                 sum[m] = t == 0 ? product : sum[m] + product;
@@ -112,7 +108,7 @@ inline void blendAlongY(const RowRing<Tpx32f>& ring, const Tpx32f* weights, int 
         };
         if constexpr (Taps == kAnyTaps) {
             for (int m = 0; m < M; m++) sum[m] = load(ring.at(0) + i + m * F) * splat<V32f>(peek(weights));
-            for (int t = 1; t < taps; t++) add(ring.at(t), t);
+            for (int64_t t = 1; t < taps; t++) add(ring.at(t), t);
         } else {
             for (int t = 0; t < Taps; t++) add(rows[t], t);
         }
