@@ -10,6 +10,15 @@
 namespace tpx {
 namespace {
 
+// Whether integers serve the tile; then it is done. Not inlined, so that its terms are off the stack before
+// others put theirs there.
+template <int N>
+[[gnu::noinline]] bool averageInIntegers(const Tile<Tpx8u>& tile) {
+    const ByteMeans<N> means(tile);
+    if (means.serves()) means(tile);
+    return means.serves();
+}
+
 template <Layout L, class T>
 TpxStatus resizeSuper(const TileCall<T>& call) {
     constexpr int N = channelsOf(L);
@@ -23,13 +32,8 @@ TpxStatus resizeSuper(const TileCall<T>& call) {
             bytesOf(tile.dst), bytesOf(call.src));
         return doneTile(call);
     }
-    if constexpr (std::is_same_v<T, Tpx8u>) {
-        const ByteMeans<N> means(tile);
-        if (means.serves()) {
-            means(tile);
-            return doneTile(call);
-        }
-    }
+    if constexpr (std::is_same_v<T, Tpx8u>)
+        if (averageInIntegers<N>(tile)) return doneTile(call);
     if constexpr (std::is_integral_v<T> && N == 1) {
         if (SuperRow<T>::serves(tile.plan.axisX)) {
             averageByRows(tile);

@@ -51,7 +51,7 @@ template <int N>
 // where there is none for a single one, in pieces.
 template <class T, int N>
 inline void sumAlongX(const TapSource<T, N>& source, int64_t y, int64_t n, const SuperColumns<N>& columns,
-                      Tpx32f* const* rows) {
+                      bool fromMemory, Tpx32f* const* rows) {
     constexpr int64_t kSourceRoom = 6144, kPixels = kSourceRoom / (N * kTapRows<N>);
     alignas(32) Tpx32f turned[kSourceRoom + kTurned<T> * kTapRows<N>];
     int64_t end;
@@ -64,7 +64,9 @@ inline void sumAlongX(const TapSource<T, N>& source, int64_t y, int64_t n, const
         Tpx32f* to[kTapRows<N>];
         for (int k = 0; k < kTapRows<N>; k++) to[k] = rows[k] + begin * N;
         if (runs->count <= kPixels) {
-            source.read(y, n, from, runs[count - 1].end() - from, turned);
+            const int64_t pixels = runs[count - 1].end() - from;
+            const ptrdiff_t next = fromMemory ? ptrdiff_t(pixels * N * int64_t(sizeof(T))) : 0;
+            source.read(y, n, from, pixels, turned, next);
             passPositions<N>(count, to, [&](int64_t j, TapSums<N>* sums) {
                 const CoveredRun& run = runs[j];
                 addRun<N>(turned + (run.first - from) * N * kTapRows<N>, run.count, run.firstWeight,
@@ -88,23 +90,33 @@ inline void sumAlongX(const TapSource<T, N>& source, int64_t y, int64_t n, const
     }
 }
 
-// Floats of several channels that are reduced far come from memory, which gives more of one row at a time than
-// of many.
-template <int N>
-inline void sumFarAlongX(const Tpx32f* src, const SuperColumns<N>& columns, Tpx32f* row) {
-    for (int64_t j = 0; j < columns.count; j++, row += N) {
+// Floats of several channels that are reduced far come from memory, which gives more of few rows at a time than
+// of many. Rows at a time are as many sums that need not wait for each other.
+inline constexpr int kFarRows = 4;
+template <int N, int Rows>
+inline void sumFarAlongX(ImageView<const Tpx32f> image, const SuperColumns<N>& columns, Tpx32f* const* rows) {
+    const Tpx32f* src[Rows];
+    for (int r = 0; r < Rows; r++) src[r] = image.row(r);
+    for (int64_t j = 0; j < columns.count; j++) {
         const CoveredRun& run = columns.runs[j];
-        const Tpx32f* const first = src + run.first * N;
-        const auto sum = [&](auto at) {
-            auto total = at(0) * run.firstWeight;
-            for (int64_t k = 1; k < run.count - 1; k++) total += at(k);
-            if (run.count > 1) total += at(run.count - 1) * run.lastWeight;
-            return total;
+        const int64_t first = run.first * N, last = (run.count - 1) * N;
+        const auto sum = [&](auto load, auto put) {
+            decltype(load(src[0])) total[Rows];
+            for (int r = 0; r < Rows; r++) total[r] = load(src[r] + first) * run.firstWeight;
+            for (int64_t k = N; k < last; k += N)
+                for (int r = 0; r < Rows; r++) total[r] += load(src[r] + first + k);
+            for (int r = 0; r < Rows; r++) {
+                if (last > 0) total[r] += load(src[r] + first + last) * run.lastWeight;
+                put(rows[r] + j * N, total[r]);
+            }
         };
         if (N == 4 || j + 1 < columns.count) // what is behind three is replaced
-            storeFour(row, sum([=](int64_t k) { return loadFour(first + k * N); }));
+            sum([](const Tpx32f* p) { return loadFour(p); },
+                [](Tpx32f* to, auto total) { storeFour(to, total); });
         else
-            for (int c = 0; c < N; c++) row[c] = sum([=](int64_t k) { return peek(first + k * N + c); });
+            for (int c = 0; c < N; c++)
+                sum([=](const Tpx32f* p) { return peek(p + c); },
+                    [=](Tpx32f* to, Tpx32f total) { to[c] = total; });
     }
 }
 
@@ -166,6 +178,14 @@ template <class T, int N>
 void averageTurned(const Tile<T>& tile) {
     const TpxiResizeAxis& axis = tile.plan.axisX;
     const TapSource<T, N> source(tile.src);
+    // So far that reading the source takes most of the time, and whether it is more than caches are likely to
+    // hold.
+    const bool isFar = axis.srcRatio >= (N == 1 ? 8 : 10) * int64_t(axis.dstRatio);
+    constexpr double kCaches = 16 << 20;
+    const bool fromMemory =
+        std::is_same_v<T, Tpx32f> && isFar &&
+        double(tile.width) * double(tile.height) * scaleOf(axis) * scaleOf(tile.plan.axisY) * N * sizeof(T) >
+            kCaches;
     int64_t width;
     for (int64_t x = 0; x < tile.width; x += width) {
         const SuperColumns<N> columns(axis, tile.x + x, tile.width - x);
@@ -175,13 +195,18 @@ void averageTurned(const Tile<T>& tile) {
                 for (int64_t k = 0; k < n; k++) sumRow(tile.src.row(y + k), rows[k]);
             };
             if constexpr (std::is_same_v<T, Tpx32f> && N > 1)
-                if (axis.srcRatio >= 10 * int64_t(axis.dstRatio))
-                    return eachRow([&](const T* src, Tpx32f* row) { sumFarAlongX(src, columns, row); });
+                if (isFar) {
+                    int64_t k = 0;
+                    for (; k + kFarRows <= n; k += kFarRows)
+                        sumFarAlongX<N, kFarRows>(tile.src.from(0, y + k), columns, rows + k);
+                    for (; k < n; k++) sumFarAlongX<N, 1>(tile.src.from(0, y + k), columns, rows + k);
+                    return;
+                }
             if (axis.srcRatio == axis.dstRatio)
                 return eachRow([&](const T* src, Tpx32f* row) {
                     convertRow(src + columns.runs[0].first * N, row, width * N);
                 });
-            sumAlongX(source, y, n, columns, rows);
+            sumAlongX(source, y, n, columns, fromMemory, rows);
         });
     }
 }

@@ -65,8 +65,10 @@ template <int Rows, class T>
 }
 
 // `count` samples of some rows, and up to kTurned samples of anything behind them. No sample but those is read.
+// Where `next` is not 0, what lies so many bytes further on is fetched meanwhile: processors foresee how single
+// rows are read, and lose track of as many as these.
 template <int Rows, class T>
-inline void turnRows(const T* const* rows, int64_t count, Tpx32f* out) {
+inline void turnRows(const T* const* rows, int64_t count, Tpx32f* out, ptrdiff_t next = 0) {
     constexpr int kBlock = kTurned<T>;
     if (count < kBlock) {
         T samples[Rows][kBlock] = {};
@@ -79,7 +81,20 @@ inline void turnRows(const T* const* rows, int64_t count, Tpx32f* out) {
         return;
     }
     int64_t i = 0;
-    for (; i + kBlock <= count; i += kBlock) turnBlock<Rows>(rows, i, out + i * Rows);
+    const auto blocks = [&](auto before) {
+        for (; i + kBlock <= count; i += kBlock) {
+            before();
+            turnBlock<Rows>(rows, i, out + i * Rows);
+        }
+    };
+    if (next == 0)
+        blocks([] {});
+    else
+        blocks([&] { // a block is a quarter of a line: a whole one of a quarter of the rows
+            constexpr int kQuarter = Rows / 4;
+            const T* const* const some = rows + i / kBlock % 4 * kQuarter;
+            for (int k = 0; k < kQuarter; k++) prefetch(addBytes(some[k] + i, next));
+        });
     if (i < count) turnBlock<Rows>(rows, count - kBlock, out + (count - kBlock) * Rows);
 }
 
@@ -96,8 +111,8 @@ class TapSource {
           endRow_(border.bottom ? kFar : height) {}
 
     // `count` pixels of the rows [y, y + n) from column x on, sample by sample, and what turnRows leaves behind
-    // them. Lanes past n repeat the last row.
-    void read(int64_t y, int64_t n, int64_t x, int64_t count, Tpx32f* out) const {
+    // them. Lanes past n repeat the last row. `next` is that of turnRows.
+    void read(int64_t y, int64_t n, int64_t x, int64_t count, Tpx32f* out, ptrdiff_t next = 0) const {
         const int64_t before = clampTo(firstColumn_ - x, 0, count);
         const int64_t after = clampTo(x + count - endColumn_, 0, count), inside = count - before - after;
         const auto rowsAt = [&](int64_t column, const T*(&rows)[kRows]) {
@@ -114,7 +129,7 @@ class TapSource {
         }
         if (inside > 0) {
             rowsAt(x + before, rows);
-            turnRows<kRows>(rows, inside * N, out + before * N * kRows);
+            turnRows<kRows>(rows, inside * N, out + before * N * kRows, next);
         }
         if (after > 0) {
             rowsAt(endColumn_ - 1, rows);
