@@ -204,10 +204,8 @@ void transformBySplit(const Line& line, LongLine& sequence) {
         Group group = sequence.group;
         for (ptrdiff_t y = 0; y < height; y++) group.store(y, columns.load(strip.row(y), 0));
         transform(ofColumns, group);
-        ptrdiff_t turns = 0;
-        for (ptrdiff_t k = 0; k < height; k++, turns += x) {
-            if (turns >= line.elements) turns -= line.elements;
-            const Complex<double> root = roots(uint64_t(turns));
+        for (ptrdiff_t k = 0; k < height; k++) {
+            const Complex<double> root = roots(uint64_t(k * x));
             const Lanes turn = multiply(line.split->laneRoots[k],
                                         Lanes{splat<V32f>(float(root.re)), splat<V32f>(float(root.im))});
             columns.store(strip.row(k), 0, toInterleaved(multiply(group.load(k), turn)));

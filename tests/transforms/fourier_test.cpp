@@ -489,7 +489,7 @@ TYPED_TEST(Plans, CheckProcessingInOrder) {
         Tpx8u* buffer;
     };
     const FourierPlan<TypeParam> plan({16, 4});
-    std::vector<Tpx8u> zeroed(1000), garbage(1000, 0x5A), other(10000);
+    std::vector<Tpx8u> zeroed(1000), garbage(1000, 0x5A), other(10000, 0x5A);
     const auto failed = reinterpret_cast<typename Calls::Spec*>(other.data());
     EXPECT_EQ(Calls::init({16, 4}, 3, failed, nullptr), tpxErrFftFlag);
     Image src(16, 4, 2), dst(16, 4, 2);
@@ -585,6 +585,7 @@ TEST(PlanSizes, CheckInOrder) {
         EXPECT_EQ(lengthsC({length, 1, 8, sizes, sizes + 1, sizes + 2}), tpxErrSizeTooLarge);
     EXPECT_EQ(lengthsR({67108879, 1, 8, sizes, sizes + 1, sizes + 2}), tpxErrSize); // a prime
     EXPECT_EQ(lengthsC({67108879, 1, 8, sizes, sizes + 1, sizes + 2}), tpxErrSizeTooLarge);
+    EXPECT_EQ(lengthsR({53 << 21, 1, 8, sizes, sizes + 1, sizes + 2}), tpxErrSizeTooLarge);
     EXPECT_EQ(std::count(sizes, sizes + 3, -1), 3);
     EXPECT_EQ(lengthsR({129140163, 1, 8, sizes, sizes + 1, sizes + 2}), tpxOk); // 3^17
 }
