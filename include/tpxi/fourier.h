@@ -31,8 +31,8 @@ TPX_EXTERN_C_BEGIN
  * W - j) = conj F(k, j).
  *
  * Transforms work in single precision: beside the exact transform of N pixels of noise, the root mean square
- * of the errors is below 0.45 * 2^-24 * log2(N) times that of the result, measured over all rows of up to
- * 2048 pixels and longer ones up to 2^24. Sides with prime factors above 50 cost two transforms of twice the
+ * of the errors is below 0.5 * 2^-24 * log2(N) times that of the result, measured over all rows of 2 to
+ * 4096 pixels and longer ones up to 2^24. Sides with prime factors above 50 cost two transforms of twice the
  * length or more. Results depend neither on steps or addresses nor on the number of channels.
  *
  * A call sequence is: GetSize, Init with a plan and an initialisation buffer of the sizes told, transforms
