@@ -25,7 +25,7 @@ TPX_EXTERN_C_BEGIN
  *
  * The caller owns plan and buffers; they may start at any address and need no release. Sizes are in
  * pixels, 0-based offsets too. Destination position i lies at c = (i + 0.5) * src / dst - 0.5 in the source;
- * nearest takes the pixel at src / dst * (i + 0.5).
+ * nearest takes the pixel at src / dst * (i + 0.5), and the lower one where that is the boundary of two.
  *
  * The typed calls differ only in the type they plan for; a query takes any plan of its width (short calls
  * those of short initialisers, _L calls those of _L initialisers).

@@ -467,8 +467,9 @@ TPX_API TpxStatus
  * @{ */
 
 /**
- * Stores a norm of the difference of two images, for each channel: with x the exact difference of two
- * samples, Inf is the largest |x|, L1 the sum of |x|, L2 the square root of the sum of x^2.
+ * Stores a norm of the difference of two images, for each channel: with x the difference of two samples
+ * (exact of integers, rounded to single precision of 32f but for L1 and L2 with tpxHintAccurate), Inf is the
+ * largest |x|, L1 the sum of |x|, L2 the square root of the sum of x^2.
  *
  * Sums over integers are exact up to 2^53. 32f L1 and L2: tpxHintAccurate works in double precision
  * throughout, any other hint makes terms and short sums of them in single precision, which overflow and lose
