@@ -50,7 +50,7 @@ inline Tpx32u sumEntries(const Counter* table, ptrdiff_t begin, ptrdiff_t end) {
     if (end - begin >= 16) {
         V32u sums[2] = {};
         for (; begin + 8 <= end; begin += 8)
-            for (int j = 0; j < 2; j++) sums[j] += peek(reinterpret_cast<const V32u*>(table + begin + 4 * j));
+            for (int j = 0; j < 2; j++) sums[j] += load(table + begin + 4 * j);
         sums[0] += sums[1];
         for (int j = 0; j < 4; j++) sum += sums[0][j];
     }
