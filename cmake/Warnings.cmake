@@ -16,3 +16,10 @@ if(TPX_SANITIZE)
                   -fno-sanitize=null,object-size,vptr,pointer-overflow -fno-sanitize-address-use-after-scope>)
     target_link_options(tpx_flags INTERFACE -fsanitize=address,undefined)
 endif()
+if(TPX_FUZZ)
+    # Edges and comparisons of the library are counted, so that the fuzzer sees which inputs reach something new.
+    target_compile_options(
+        tpx_flags
+        INTERFACE $<$<NOT:$<BOOL:$<TARGET_PROPERTY:TPX_WATCHES>>>:-fsanitize=fuzzer-no-link>
+                  -fno-sanitize=function "SHELL:-mllvm -asan-instrumentation-with-call-threshold=0")
+endif()
