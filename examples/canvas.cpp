@@ -30,7 +30,8 @@ Layout layout(const std::vector<TextLine>& lines, int width) {
         // A file's name may be no UTF-8.
         char* valid = g_utf8_make_valid(line.text.data(), static_cast<gssize>(line.text.size()));
         char* escaped = g_markup_escape_text(valid, -1);
-        markup += (markup.empty() ? "" : "\n") + std::string(span) + escaped + "</span>";
+        if (!markup.empty()) markup += '\n';
+        markup.append(span).append(escaped).append("</span>");
         g_free(escaped);
         g_free(valid);
     }

@@ -288,8 +288,10 @@ TPX_API TpxStatus
 
 /**
  * Tells the source rectangle of a tile of a resize. A tile past the destination's edge is trimmed first. On
- * sides where the source image goes on, linear also reads the pixel next to the rectangle
- * (tpxiResizeGetBorderSize). _L: sizes and offsets of 64 bits.
+ * sides where the source image goes on, up to as many pixels beyond the rectangle are read as
+ * tpxiResizeGetBorderSize tells. A tile of the first positions of an enlargement alone, which lie before the
+ * centre of the source's first pixel, is told a width or height of 0; that pixel is read all the same. _L:
+ * sizes and offsets of 64 bits.
  *
  * @param pSpec         the plan
  * @param dstRoiOffset  place of the tile in the destination, in pixels
