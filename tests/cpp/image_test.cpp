@@ -130,6 +130,6 @@ TEST(CppImage, Buffers) {
     EXPECT_EQ(buffer.size(), 0);
     EXPECT_EQ(Buffer().data(), nullptr);
     EXPECT_NE(Buffer(0).data(), nullptr);
-    EXPECT_THROW(Buffer(-1), Error);
-    EXPECT_THROW(Buffer(std::numeric_limits<TpxSizeL>::max()), Error);
+    EXPECT_THROW(Buffer{-1}, Error);
+    EXPECT_THROW(Buffer{std::numeric_limits<TpxSizeL>::max()}, Error);
 }
