@@ -53,11 +53,12 @@ class Resize {
 
         int64_t specBytes = 0, initBytes = 0;
         Arguments getSize = query("GetSize");
-        getSize.integer("interpolation", bytes_.once(64) ? bytes_.hostile() : kind_.interpolation)
+        const TpxInterpolationType asked = bytes_.once(64) ? bytes_.hostile() : kind_.interpolation;
+        getSize.integer("interpolation", asked)
             .integer("antialiasing", kind_.isSmooth ? bytes_.between(1, 3) : 0)
             .pointer("pSpecSize", &specBytes)
             .pointer("pInitBufSize", &initBytes);
-        if (sizes(getSize)() < 0) return;
+        if (sizes(getSize)() < 0 || asked != kind_.interpolation) return; // another kind's sizes
         if (specBytes < 1 || size_t(specBytes + initBytes) > kMaxPlan) return;
 
         Block plan(bytes_, size_t(specBytes)), work(bytes_, size_t(initBytes));
