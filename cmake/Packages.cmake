@@ -19,7 +19,7 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(about "Functions on rectangles of pixels that the caller owns: copies, conversion,
 arithmetic, thresholds, statistics, filters, resizing, warps and Fourier
-transforms, exact to the last bit. They need a processor with AVX.")
+transforms. They need a processor with AVX.")
 
 set(CPACK_DEBIAN_LIBRARIES_PACKAGE_NAME libtpxie9-2017.0.0)
 set(CPACK_DEBIAN_LIBRARIES_PACKAGE_SECTION libs)

@@ -5,7 +5,7 @@ Headers and library are looked for in this order:
 
 1. the environment: TPXI_INCLUDE, the folder of tpxi.h, and TPXI_LIBRARY, the file libtpxie9.so;
 2. the prefix that this package is installed in (`<prefix>/lib/python3/dist-packages/tpxi`);
-3. a source tree that this package lies in, built in build/release or build/demo;
+3. a source tree that this package lies in, built in build/release;
 4. /usr/local and /usr.
 
 No compiler is needed. Calls release the interpreter lock while they run.
@@ -30,7 +30,7 @@ def _places() -> list[tuple[Path, list[Path]]]:
     installed, tree = above[3], above[1]
     prefixes = [(prefix / "include", [prefix / folder for folder in _LIBRARY_FOLDERS])
                 for prefix in (installed, Path("/usr/local"), Path("/usr"))]
-    return [prefixes[0], (tree / "include", [tree / "build" / b for b in ("release", "demo")]), *prefixes[1:]]
+    return [prefixes[0], (tree / "include", [tree / "build" / "release"]), *prefixes[1:]]
 
 
 def find() -> tuple[Path, Path]:
