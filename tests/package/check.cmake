@@ -1,18 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 # Installs the build, moves the installed tree, and builds and runs the consumer's programs against it: with
 # find_package, then with the compiler and pkg-config alone; then as a Python package.
-file(REMOVE_RECURSE ${WORK_DIR})
-file(MAKE_DIRECTORY ${WORK_DIR})
-unset(ENV{LD_LIBRARY_PATH})
-unset(ENV{DESTDIR})
-
-function(run)
-    execute_process(COMMAND ${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
-    if(NOT result EQUAL 0)
-        list(JOIN ARGV " " command)
-        message(FATAL_ERROR "${command}\nended with ${result}:\n${output}")
-    endif()
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/run.cmake)
 
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --config ${CONFIG} --prefix ${WORK_DIR}/installed)
 set(prefix ${WORK_DIR}/moved)

@@ -1,19 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 # The Debian packages of a build: lintian finds no error in them; they are installed into a folder of their own, where a
 # program is built and run and Python finds its package; and removed, nothing of them stays.
-file(REMOVE_RECURSE ${WORK_DIR})
-file(MAKE_DIRECTORY ${WORK_DIR})
-unset(ENV{LD_LIBRARY_PATH})
-unset(ENV{DESTDIR})
-
-function(run)
-    execute_process(COMMAND ${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
-    if(NOT result EQUAL 0)
-        list(JOIN ARGV " " command)
-        message(FATAL_ERROR "${command}\nended with ${result}:\n${output}")
-    endif()
-    set(output "${output}" PARENT_SCOPE)
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/run.cmake)
 
 run(${CMAKE_CPACK_COMMAND} --config ${BUILD_DIR}/CPackConfig.cmake -B ${WORK_DIR}/packages)
 file(GLOB packages ${WORK_DIR}/packages/*.deb)
