@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Every export that works on whole images, decided by its parameters: sizes, steps and modes of any value,
-// images that end at unreadable pages.
+// images that end at unreadable pages; and image memory of any size.
 #include <algorithm>
 #include <memory>
 
@@ -12,11 +12,13 @@ namespace {
 
 using namespace test;
 
-const std::vector<const Export*>& callableExports() {
+bool isMalloc(const Export& e) { return e.operation == "Malloc"; }
+
+const std::vector<const Export*>& fuzzedExports() {
     static const auto list = [] {
         std::vector<const Export*> made;
         for (const Export& e : exports())
-            if (isCallable(e)) made.push_back(&e);
+            if (isCallable(e) || isMalloc(e)) made.push_back(&e);
         return made;
     }();
     return list;
@@ -185,11 +187,37 @@ class Pointwise {
     uint64_t constants_[4];
 };
 
+// All rows that the step tells are there, or nothing is.
+template <class Int>
+void allocate(const Export& e, Bytes& bytes) {
+    const auto length = [&] { return bytes.once(2) ? bytes.hostile<Int>() : Int(bytes.length()); };
+    const Int width = length(), height = length();
+    const size_t pixel = sampleBytes(e.types) * size_t(e.toAC4 ? 4 : e.to);
+    const __int128 wanted = (__int128(width) * __int128(pixel) + 63) / 64 * 64 * height;
+    // Between them memory might be had, which is nobody's fault.
+    constexpr __int128 kModest = 16 << 20, kAbsurd = __int128(1) << 50;
+    if (wanted > kModest && wanted < kAbsurd) return;
+    Int step = 0;
+    void* const image = reinterpret_cast<void* (*)(Int, Int, Int*)>(e.function)(width, height, &step);
+    require(
+        image ? width > 0 && height > 0 && wanted <= kModest : width <= 0 || height <= 0 || wanted >= kAbsurd,
+        e, "what can be had is given, and nothing else");
+    if (!image) return;
+    require(step >= width * Int(pixel) && step % 64 == 0 && uintptr_t(image) % 64 == 0, e, "rows are told");
+    std::memset(image, 0xAA, size_t(step) * size_t(height));
+    tpxiFree(image);
+}
+
 } // namespace
 
 void run(Bytes& bytes) {
-    const Export& e = *callableExports()[size_t(bytes.below(int(callableExports().size())))];
-    Pointwise(e, bytes).run();
+    const Export& e = *fuzzedExports()[size_t(bytes.below(int(fuzzedExports().size())))];
+    if (!isMalloc(e))
+        Pointwise(e, bytes).run();
+    else if (e.isLong)
+        allocate<TpxSizeL>(e, bytes);
+    else
+        allocate<int>(e, bytes);
 }
 
 } // namespace tpx::fuzz
