@@ -2,6 +2,7 @@
 // Every export that works on whole images, decided by its parameters: sizes, steps and modes of any value,
 // images that end at unreadable pages; and image memory of any size.
 #include <algorithm>
+#include <cmath>
 #include <memory>
 
 #include "fuzz/call.h"
@@ -193,15 +194,15 @@ void allocate(const Export& e, Bytes& bytes) {
     const auto length = [&] { return bytes.once(2) ? bytes.hostile<Int>() : Int(bytes.length()); };
     const Int width = length(), height = length();
     const size_t pixel = sampleBytes(e.types) * size_t(e.toAC4 ? 4 : e.to);
-    const __int128 wanted = (__int128(width) * __int128(pixel) + 63) / 64 * 64 * height;
     // Between them memory might be had, which is nobody's fault.
-    constexpr __int128 kModest = 16 << 20, kAbsurd = __int128(1) << 50;
-    if (wanted > kModest && wanted < kAbsurd) return;
+    constexpr double kModest = 16 << 20, kAbsurd = 0x1p50;
+    const double wanted = std::ceil(double(width) * double(pixel) / 64) * 64 * double(height);
+    const bool isEmpty = width <= 0 || height <= 0;
+    if (!isEmpty && wanted > kModest && wanted < kAbsurd) return;
     Int step = 0;
     void* const image = reinterpret_cast<void* (*)(Int, Int, Int*)>(e.function)(width, height, &step);
-    require(
-        image ? width > 0 && height > 0 && wanted <= kModest : width <= 0 || height <= 0 || wanted >= kAbsurd,
-        e, "what can be had is given, and nothing else");
+    require(image ? !isEmpty && wanted <= kModest : isEmpty || wanted >= kAbsurd, e,
+            "what can be had is given, and nothing else");
     if (!image) return;
     require(step >= width * Int(pixel) && step % 64 == 0 && uintptr_t(image) % 64 == 0, e, "rows are told");
     std::memset(image, 0xAA, size_t(step) * size_t(height));
