@@ -48,6 +48,7 @@ set(CPACK_DEBIAN_PYTHON_PACKAGE_ARCHITECTURE all)
 # The package reads its functions from the headers.
 set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
     "libtpxie9-dev (= ${PROJECT_VERSION}), python3 (>= 3.9), python3-numpy, python3-cffi")
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS "python3-pil, python3-tifffile, python3-distributed")
 set(CPACK_COMPONENT_PYTHON_DESCRIPTION "${about}
 .
 This package has every function for Python by its name, and a plain layer on
