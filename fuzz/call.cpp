@@ -82,21 +82,6 @@ bool Image::paddingIntact() {
     return true;
 }
 
-Arguments& Arguments::integer(const char* name, int64_t v) {
-    const Param* const p = e_.param(name);
-    return p && p->type == "TpxSizeL" ? set(name, TpxSizeL(v)) : set(name, int(v));
-}
-
-Arguments& Arguments::real(const char* name, double v) {
-    const Param* const p = e_.param(name);
-    return p && p->type == "Tpx32f" ? set(name, Tpx32f(v)) : set(name, v);
-}
-
-Arguments& Arguments::pair(const char* name, int64_t a, int64_t b) {
-    const Param* const p = e_.param(name);
-    return p && p->type.ends_with("L") ? set(name, TpxiSizeL{a, b}) : set(name, TpxiSize{int(a), int(b)});
-}
-
 void show(const Export& e, Value* values) {
     static const bool isWanted = std::getenv("TPX_FUZZ_SHOW");
     if (!isWanted) return;
@@ -126,22 +111,12 @@ void show(const Export& e, Value* values) {
 }
 
 TpxStatus Arguments::operator()() {
-    show(e_, values_);
+    show(*e_, values_);
     const unsigned control = _mm_getcsr() & kControlMask;
-    const TpxStatus status = e_.invoke(e_.function, values_);
-    const bool mayStayChanged = e_.operation.starts_with("ResizeLanczosInit") && status < 0;
-    require(mayStayChanged || (_mm_getcsr() & kControlMask) == control, e_, "the control register stays");
+    const TpxStatus status = e_->invoke(e_->function, values_);
+    const bool mayStayChanged = e_->operation.starts_with("ResizeLanczosInit") && status < 0;
+    require(mayStayChanged || (_mm_getcsr() & kControlMask) == control, *e_, "the control register stays");
     return status;
-}
-
-TpxDataType dataTypeOf(const std::string& type) {
-    static const std::map<std::string, TpxDataType> types = {{"8u", tpxDataType8u},
-                                                             {"16u", tpxDataType16u},
-                                                             {"16s", tpxDataType16s},
-                                                             {"32f", tpxDataType32f},
-                                                             {"64f", tpxDataType64f}};
-    const auto found = types.find(type);
-    return found == types.end() ? 0 : found->second;
 }
 
 } // namespace tpx::fuzz

@@ -11,11 +11,12 @@
 #include <vector>
 
 #include "fuzz/bytes.h"
-#include "tests/exports/export.h"
+#include "tests/exports/arguments.h"
 #include "tests/support/guarded.h"
 
 namespace tpx::fuzz {
 
+using test::dataTypeOf;
 using test::Export;
 using test::findExport;
 using test::Param;
@@ -89,46 +90,17 @@ class Image {
     std::vector<uint8_t> before_;
 };
 
-// The arguments of an export. A name that it does not have is passed over; all others are 0 at first.
-class Arguments {
+class Arguments : public test::NamedArguments<Arguments> {
  public:
-    explicit Arguments(const Export& e) : e_(e) {}
-
-    Arguments& pointer(const char* name, const void* p) { return set(name, p); }
-    Arguments& integer(const char* name, int64_t v);
-    // A sample by value or a real number.
-    Arguments& real(const char* name, double v);
-    Arguments& bits(const char* name, uint64_t v) { return set(name, v); }
-    Arguments& size(const char* name, int64_t width, int64_t height) { return pair(name, width, height); }
-    Arguments& point(const char* name, int64_t x, int64_t y) { return pair(name, x, y); }
-    Arguments& rect(const char* name, TpxiRect r) { return set(name, r); }
-    Arguments& image(const char* pointer, const char* step, const void* first, ptrdiff_t bytes) {
-        return this->pointer(pointer, first).integer(step, bytes);
-    }
+    using NamedArguments::NamedArguments;
 
     // Calls it; the floating-point control has to be the same afterwards.
     TpxStatus operator()();
-    const Export& function() const { return e_; }
-
- private:
-    template <class T>
-    Arguments& set(const char* name, const T& v) {
-        for (size_t i = 0; i < e_.params.size(); i++)
-            if (e_.params[i].name == name) values_[i] = v;
-        return *this;
-    }
-    Arguments& pair(const char* name, int64_t a, int64_t b);
-
-    const Export& e_;
-    Value values_[16];
 };
 
 // Prints the call before it happens, if the environment has TPX_FUZZ_SHOW.
 void show(const Export& e, Value* values);
 
-// ---- What names say --------------------------------------------------------------------------------------
-
-TpxDataType dataTypeOf(const std::string& type); // of "8u", 0 if it has none
 inline size_t sampleBytes(const std::string& type) { return test::sizeOf("Tpx" + type); }
 
 } // namespace tpx::fuzz

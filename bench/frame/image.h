@@ -4,6 +4,7 @@
 
 #include <tpxi.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -16,6 +17,20 @@ namespace bench {
 
 inline std::string text(TpxiSize size) {
     return std::to_string(size.width) + "x" + std::to_string(size.height);
+}
+
+// A period of noise in low..high, a prime number of samples.
+template <typename T>
+std::vector<T> noise(double low, double high) {
+    std::vector<T> samples(65521);
+    uint64_t state = 0x9E3779B97F4A7C15u;
+    for (T& sample : samples) {
+        state = state * 6364136223846793005u + 1442695040888963407u;
+        const double unit = static_cast<double>(state >> 11) * 0x1p-53;
+        // Integers: high is reached as often as any other value.
+        sample = static_cast<T>(low + unit * (high - low + std::is_integral_v<T>));
+    }
+    return samples;
 }
 
 template <typename T>
@@ -41,24 +56,16 @@ class Image {
     double samples() const { return static_cast<double>(rowSamples()) * size_.height; }
     double bytes() const { return samples() * sizeof(T); }
 
-    // Noise in low..high. Its period has no common factor with a row, so that rows differ.
+    // Rows differ, since the period of noise has no common factor with them.
     void fill(double low, double high) const {
-        constexpr size_t kPeriod = 65521;
-        std::vector<T> noise(kPeriod);
-        uint64_t state = 0x9E3779B97F4A7C15u;
-        for (T& sample : noise) {
-            state = state * 6364136223846793005u + 1442695040888963407u;
-            const double unit = static_cast<double>(state >> 11) * 0x1p-53;
-            // Integers: high is reached as often as any other value.
-            sample = static_cast<T>(low + unit * (high - low + std::is_integral_v<T>));
-        }
+        const std::vector<T> samples = noise<T>(low, high);
         size_t at = 0;
         for (int y = 0; y < size_.height; ++y)
             for (size_t x = 0; x < rowSamples();) {
-                const size_t run = std::min(kPeriod - at, rowSamples() - x);
-                std::memcpy(row(y) + x, noise.data() + at, run * sizeof(T));
+                const size_t run = std::min(samples.size() - at, rowSamples() - x);
+                std::memcpy(row(y) + x, samples.data() + at, run * sizeof(T));
                 x += run;
-                at = (at + run) % kPeriod;
+                at = (at + run) % samples.size();
             }
     }
 

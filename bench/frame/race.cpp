@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "race.h"
 
+#include "clock.h"
+
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <chrono>
-#include <ctime>
 #include <exception>
 
 namespace bench {
@@ -13,30 +14,13 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr double kBatchSeconds = 100e-6; // far above the clock's resolution
-constexpr double kWarmSeconds = 20e-3;   // shorter calls find their images in the cache they fit in
+constexpr double kWarmSeconds = 20e-3; // shorter calls find their images in the cache they fit in
 constexpr auto kBudget = std::chrono::milliseconds(150); // of a job, once it has had the rounds it needs
 constexpr size_t kMinRounds = 3;
 constexpr double kSlow = 8; // times as long as ours: such contenders have no more rounds than needed
 constexpr size_t kMaxRounds = 201;
 
 std::vector<Row> done;
-
-// Time that this thread had the processor: what other processes take away is not counted.
-double threadSeconds() {
-    timespec time;
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
-
-double timeBatch(const Contender& contender, int calls) {
-    const double start = threadSeconds();
-    for (int i = 0; i < calls; ++i) {
-        contender.run();
-        benchmark::ClobberMemory();
-    }
-    return (threadSeconds() - start) / calls;
-}
 
 struct Lane {
     const Contender* contender;
@@ -51,10 +35,8 @@ std::vector<Time> race(const std::vector<Contender>& contenders) {
     std::vector<Lane> lanes;
     for (const Contender& contender : contenders) {
         contender.run();
-        int calls = 1;
-        double once = timeBatch(contender, calls);
-        while (once * calls < kBatchSeconds) once = timeBatch(contender, calls *= 2);
-        lanes.push_back({&contender, calls, once < kWarmSeconds, {}});
+        const Batch batch = fillBatch(contender.run);
+        lanes.push_back({&contender, batch.calls, batch.once < kWarmSeconds, {}});
     }
     auto start = Clock::now();
     for (size_t round = 0; round <= kMinRounds || (round < kMaxRounds && Clock::now() - start < kBudget);
@@ -64,7 +46,7 @@ std::vector<Time> race(const std::vector<Contender>& contenders) {
             Lane& lane = lanes[(round + i) % lanes.size()];
             if (round >= kMinRounds && lane.times.front() > kSlow * lanes.front().times.front()) continue;
             if (lane.warm) lane.contender->run();
-            lane.times.push_back(timeBatch(*lane.contender, lane.calls));
+            lane.times.push_back(timeBatch(lane.contender->run, lane.calls));
         }
     }
     std::vector<Time> result;

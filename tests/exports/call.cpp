@@ -103,10 +103,8 @@ TpxiLUT_Spec* lookupSpec(const Export& e, int channel) {
     const int nLevels[] = {4, 4, 4, 4};
     const TpxChannelCode layout = e.fromAC4 ? tpxChannelAC4 : e.from;
     const Export* const init = findExport("tpxiLUT_Init_" + e.types);
-    const std::map<std::string, TpxDataType> types = {
-        {"8u", tpxDataType8u}, {"16u", tpxDataType16u}, {"16s", tpxDataType16s}, {"32f", tpxDataType32f}};
     int bytes = 0;
-    if (tpxiLUT_GetSize(tpxInterpolationLinear, types.at(e.types), layout, {1, 1}, nLevels, &bytes) != tpxOk)
+    if (tpxiLUT_GetSize(tpxInterpolationLinear, dataTypeOf(e.types), layout, {1, 1}, nLevels, &bytes) != tpxOk)
         return nullptr;
     memory.resize(size_t(bytes));
     Value values[7];
@@ -204,71 +202,6 @@ void setSize(Value& value, const std::string& type, int width, int height) {
         value = TpxiSize{width, height};
 }
 
-// What pointers among the arguments point at.
-struct Memory {
-    Tpx8u* planes[kSides][4];
-    const void* tables[4];
-    int order[4];
-    alignas(8) Tpx8u constants[4][4 * 8];
-};
-
-void makeArguments(const Export& e, const Places& places, int width, int height, int variant, Outs* outs,
-                   int channel, int bit, Memory& memory, Value* values) {
-    int nOuts = 0, nConstants = 0;
-    for (const Source& s : sourcesOf(e)) {
-        Value& value = *values++;
-        const Param& p = *s.param;
-        switch (s.kind) {
-            case Source::Image: {
-                const Place& place = places[s.side];
-                for (int k = 0; k < 4; k++) memory.planes[s.side][k] = place.data + k * place.plane;
-                value = planesOf(e, s.side) > 1 ? static_cast<void*>(memory.planes[s.side]) : place.data;
-                break;
-            }
-            case Source::Step:
-                setInteger(value, p.type, places[s.side].step);
-                break;
-            case Source::Offset:
-                value = bit < 0 ? bitOffset(variant) : bit;
-                break;
-            case Source::Size:
-                setSize(value, p.type, width, height);
-                break;
-            case Source::BorderSize:
-                setSize(value, p.type, width + kMoreColumns, height + kMoreRows);
-                break;
-            case Source::Mode:
-                setInteger(value, p.type, s.modes[variant]);
-                break;
-            case Source::Order:
-                makeOrder(e, variant, memory.order);
-                value = static_cast<int*>(memory.order);
-                break;
-            case Source::Table:
-                for (int c = 0; c < 4; c++) memory.tables[c] = palette(c);
-                value = p.count ? static_cast<const void*>(memory.tables) : palette(channel);
-                break;
-            case Source::Lookup:
-                value = lookupSpec(e, channel);
-                break;
-            case Source::Constant: {
-                Tpx8u* const array = memory.constants[nConstants++];
-                for (int c = 0; c < 4; c++) storeSample(p.type, s.constants[c], array + c * sizeOf(p.type));
-                if (p.count)
-                    value = static_cast<void*>(array);
-                else
-                    storeSample(p.type, s.constants[channel], value.bytes());
-                break;
-            }
-            case Source::Out:
-                if (outs) value = static_cast<void*>(outs->bytes[nOuts++]);
-                break;
-            case Source::Unknown:
-                break;
-        }
-    }
-}
-
 } // namespace
 
 int bitOffset(int variant) { return (const int[]){0, 3, 15, 8}[variant]; }
@@ -289,13 +222,69 @@ bool isCallable(const Export& e) {
     return e.invoke && e.from && hasImage;
 }
 
+Call::Call(const Export& e, const Places& places, int width, int height, int variant, Outs* outs, int channel,
+           int bit) {
+    Value* next = values;
+    int nOuts = 0, nConstants = 0;
+    for (const Source& s : sourcesOf(e)) {
+        Value& value = *next++;
+        const Param& p = *s.param;
+        switch (s.kind) {
+            case Source::Image: {
+                const Place& place = places[s.side];
+                for (int k = 0; k < 4; k++) planes_[s.side][k] = place.data + k * place.plane;
+                value = planesOf(e, s.side) > 1 ? static_cast<void*>(planes_[s.side]) : place.data;
+                break;
+            }
+            case Source::Step:
+                setInteger(value, p.type, places[s.side].step);
+                break;
+            case Source::Offset:
+                value = bit < 0 ? bitOffset(variant) : bit;
+                break;
+            case Source::Size:
+                setSize(value, p.type, width, height);
+                break;
+            case Source::BorderSize:
+                setSize(value, p.type, width + kMoreColumns, height + kMoreRows);
+                break;
+            case Source::Mode:
+                setInteger(value, p.type, s.modes[variant]);
+                break;
+            case Source::Order:
+                makeOrder(e, variant, order_);
+                value = static_cast<int*>(order_);
+                break;
+            case Source::Table:
+                for (int c = 0; c < 4; c++) tables_[c] = palette(c);
+                value = p.count ? static_cast<const void*>(tables_) : palette(channel);
+                break;
+            case Source::Lookup:
+                value = lookupSpec(e, channel);
+                break;
+            case Source::Constant: {
+                Tpx8u* const array = constants_[nConstants++];
+                for (int c = 0; c < 4; c++) storeSample(p.type, s.constants[c], array + c * sizeOf(p.type));
+                if (p.count)
+                    value = static_cast<void*>(array);
+                else
+                    storeSample(p.type, s.constants[channel], value.bytes());
+                break;
+            }
+            case Source::Out:
+                if (outs) value = static_cast<void*>(outs->bytes[nOuts++]);
+                break;
+            case Source::Unknown:
+                break;
+        }
+    }
+}
+
 TpxStatus call(const Export& e, const Places& places, int width, int height, int variant, Outs* outs,
                int channel, int bit, const std::function<void(Value*)>& spoil) {
-    Memory memory;
-    Value values[16];
-    makeArguments(e, places, width, height, variant, outs, channel, bit, memory, values);
-    if (spoil) spoil(values);
-    return e.invoke(e.function, values);
+    Call made(e, places, width, height, variant, outs, channel, bit);
+    if (spoil) spoil(made.values);
+    return e.invoke(e.function, made.values);
 }
 
 const Param* imageParam(const Export& e, Side wanted) {

@@ -34,8 +34,25 @@ int variantsOf(const Export& e);
 // Whether the parameters are all of a kind that call() knows.
 bool isCallable(const Export& e);
 
-// The arguments may be spoiled before the call. A function of one channel is given the constants of `channel`;
-// a row of bits begins at `bit`, if that is given.
+// The arguments of a call, and what pointers among them point at. A function of one channel is given the
+// constants of `channel`; a row of bits begins at `bit`, if that is given.
+class Call {
+ public:
+    Call(const Export& e, const Places& places, int width, int height, int variant, Outs* outs = nullptr,
+         int channel = 0, int bit = -1);
+    Call(const Call&) = delete;
+    Call& operator=(const Call&) = delete;
+
+    Value values[16];
+
+ private:
+    Tpx8u* planes_[kSides][4];
+    const void* tables_[4];
+    int order_[4];
+    alignas(8) Tpx8u constants_[4][4 * 8];
+};
+
+// Makes the arguments, which may be spoiled then, and calls.
 TpxStatus call(const Export& e, const Places& places, int width, int height, int variant, Outs* outs = nullptr,
                int channel = 0, int bit = -1, const std::function<void(Value*)>& spoil = nullptr);
 // Where a row of bits begins.

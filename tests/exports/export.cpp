@@ -138,4 +138,14 @@ size_t sizeOf(const std::string& type) {
     return bits ? size_t(bits / 8) << type.ends_with('c') : type == "TpxSizeL" ? 8 : 4;
 }
 
+TpxDataType dataTypeOf(const std::string& type) {
+    static const std::map<std::string, TpxDataType> types = {{"8u", tpxDataType8u},
+                                                             {"16u", tpxDataType16u},
+                                                             {"16s", tpxDataType16s},
+                                                             {"32f", tpxDataType32f},
+                                                             {"64f", tpxDataType64f}};
+    const auto found = types.find(type);
+    return found == types.end() ? 0 : found->second;
+}
+
 } // namespace tpx::test

@@ -64,5 +64,6 @@ const Export* findExport(const std::string& name);
 
 // Bytes of a sample of a type; of records and integers too.
 size_t sizeOf(const std::string& type);
+TpxDataType dataTypeOf(const std::string& type); // of "8u", 0 if it has none
 
 } // namespace tpx::test
