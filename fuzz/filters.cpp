@@ -95,8 +95,6 @@ class Filter {
         };
         mask_ = {side(), side()};
         if (e_.operation.starts_with("FilterMedian") && !bytes_.once(8)) mask_.width |= 1, mask_.height |= 1;
-        if (e_.operation.starts_with("SumWindow"))
-            (e_.operation.ends_with("Row") ? mask_.height : mask_.width) = 1;
         if (e_.param("mask")) {
             const bool isFive = bytes_.once(2);
             mask_ = {isFive ? 5 : 3, isFive ? 5 : 3};
@@ -108,6 +106,11 @@ class Filter {
         if (e_.param("anchor")) anchor_ = {bytes_.below(mask_.width), bytes_.below(mask_.height)};
         if (!e_.param("mask") && !e_.param("weight")) spoil(mask_.width), spoil(mask_.height);
         if (e_.param("anchor")) spoil(anchor_.x), spoil(anchor_.y);
+        if (e_.operation.starts_with("SumWindow")) { // which know one direction
+            const bool isRow = e_.operation.ends_with("Row");
+            (isRow ? mask_.height : mask_.width) = 1;
+            (isRow ? anchor_.y : anchor_.x) = 0;
+        }
         // What is refused needs no memory around it.
         isRefused_ = mask_.width < 1 || mask_.height < 1 || anchor_.x < 0 || anchor_.y < 0 ||
                      anchor_.x >= mask_.width || anchor_.y >= mask_.height;
