@@ -72,23 +72,24 @@ bool compare(const Options& options) {
     const Library before(options.before), now(options.now);
     std::vector<Result> results;
     std::printf(" ratio  quartiles             before            now\n");
-    const bool ok = eachTrial(options, [&](const Export& e, Trial& trial, const std::string& name) {
-        if (!before.find(e.name)) {
-            std::printf("new: %s\n", name.c_str());
-            return;
-        }
-        const Call old = trial.bind(before), current = trial.bind(now);
-        old.make();
-        current.make();
-        const auto run = [&](double seconds) {
-            return Ratio(race([&] { old(); }, [&] { current(); }, seconds));
-        };
-        Result result{name, e.operation, run(options.seconds)};
-        // What stands out has to do so again.
-        if (result.ratio.faster() || result.ratio.slower()) result.ratio = run(options.seconds * 3);
-        print(result);
-        results.push_back(result);
-    });
+    const bool ok =
+        eachTrial(options, [&](const Export& e, std::unique_ptr<Trial> trial, const std::string& name) {
+            if (!before.find(e.name)) {
+                std::printf("new: %s\n", name.c_str());
+                return;
+            }
+            const Call old = trial->bind(before), current = trial->bind(now);
+            old.make();
+            current.make();
+            const auto run = [&](double seconds) {
+                return Ratio(race([&] { old(); }, [&] { current(); }, seconds));
+            };
+            Result result{name, e.operation, run(options.seconds)};
+            // What stands out has to do so again.
+            if (result.ratio.faster() || result.ratio.slower()) result.ratio = run(options.seconds * 3);
+            print(result);
+            results.push_back(result);
+        });
     if (results.empty()) return ok;
     printFamilies(results);
     std::printf("\nbeyond the spread:\n");

@@ -46,6 +46,8 @@ Range rangeOf(const Export& e, Side side, const std::string& type) {
     if (e.operation == "Exp") range = {range.low < 0 ? isReal ? -10. : -1. : 0, type == "8u" ? 5. : 10.};
     // Products and squares in place neither vanish nor become infinite.
     if (isReal && e.isInPlace() && (e.operation == "Sqr" || e.operation == "Mul")) range = {1, 1};
+    // Extremes are looked for until the largest or smallest that there is.
+    if (e.operation.ends_with("Indx")) range = {range.low + 1, range.high - 1};
     if (side == kMask) range = {0, 1};
     return range;
 }

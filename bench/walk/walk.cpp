@@ -14,7 +14,7 @@
 namespace bench::walk {
 
 bool eachTrial(const Options& options,
-               const std::function<void(const Export&, Trial&, const std::string&)>& visit) {
+               const std::function<void(const Export&, std::unique_ptr<Trial>, const std::string&)>& visit) {
     const std::regex wanted(options.filter);
     bool ok = true;
     std::map<std::string, int> left;
@@ -25,9 +25,9 @@ bool eachTrial(const Options& options,
             for (int number = 0; number < trials; ++number) try {
                     // The name alone decides before images are made.
                     if (!options.filter.empty() && !std::regex_search(e.name, wanted)) continue;
-                    const std::unique_ptr<Trial> trial = makeTrial(e, number, size);
+                    std::unique_ptr<Trial> trial = makeTrial(e, number, size);
                     const std::string how = trial->text.empty() ? "" : ", " + trial->text;
-                    visit(e, *trial, e.name + how + " of " + text(size));
+                    visit(e, std::move(trial), e.name + how + " of " + text(size));
                 } catch (const std::exception& error) {
                     std::cout << error.what() << "\n";
                     ok = false;
@@ -66,8 +66,8 @@ double quantile(std::vector<double> values, double part) {
 bool tryAll(const Options& options) {
     const Library library(options.now);
     int count = 0;
-    const bool ok = eachTrial(options, [&](const Export&, Trial& trial, const std::string&) {
-        trial.bind(library).make();
+    const bool ok = eachTrial(options, [&](const Export&, std::unique_ptr<Trial> trial, const std::string&) {
+        trial->bind(library).make();
         ++count;
     });
     std::cout << count << " trials\n";

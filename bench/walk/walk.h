@@ -20,7 +20,7 @@ struct Options {
 // Calls visit(export, trial, name with size) for each. Prints what fails, and at the end what is not walked;
 // tells whether nothing failed.
 bool eachTrial(const Options& options,
-               const std::function<void(const Export&, Trial&, const std::string&)>& visit);
+               const std::function<void(const Export&, std::unique_ptr<Trial>, const std::string&)>& visit);
 
 // Seconds of a call in each round of two runs that take turns.
 struct Rounds {
