@@ -45,6 +45,16 @@ struct Window {
     Table16<T> table;
 };
 
+// An image that has decayed is full of results that are denormal or 0, which are not ordinary.
+struct FloatExponential {
+    template <class... V>
+    static bool ordinary(V... x) {
+        return isOrdinaryForExponential(x...);
+    }
+    static V32f brief(V32f x) { return ordinaryExponential(x); }
+    static V32f full(V32f x, ptrdiff_t) { return exponential(x); }
+};
+
 } // namespace
 
 struct Exp {
@@ -53,7 +63,7 @@ struct Exp {
     template <Layout L, class T>
     static TpxStatus run(const UnaryCall<L, T>& call) {
         if constexpr (std::is_same_v<T, float>)
-            return call.map([](V32f x) { return exponential(x); });
+            return call.mapMostlyOrdinary(FloatExponential{});
         else
             return call.map(Window<T>(call.scaleFactor));
     }

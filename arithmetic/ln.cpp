@@ -9,14 +9,18 @@ namespace {
 
 // ---- Rules ------------------------------------------------------------------------------------------------
 
+inline V32f logarithmFromOneOn(V32f x) { return ordinaryLogarithm(x); }
+inline V64f logarithmFromOneOn(V64f x) { return logarithm(x); }
+
 template <class F, class T>
 struct IntegerLogarithm {
     explicit IntegerLogarithm(int n) : scale(powerOfTwo<F>(-n)) {}
 
     // Zero goes the way of 1 and so gives 0; signed samples without a logarithm give the smallest value.
     Vec<T> operator()(Vec<T> x) const {
-        const Vec<T> y = throughReal<F>(maxOf(x, splat<Vec<T>>(1)),
-                                        [this](auto r) { return logarithm(r) * splat<decltype(r)>(scale); });
+        const Vec<T> y = throughReal<F>(maxOf(x, splat<Vec<T>>(1)), [this](auto r) {
+            return logarithmFromOneOn(r) * splat<decltype(r)>(scale);
+        });
         if constexpr (std::is_signed_v<T>)
             return x <= Vec<T>{} ? splat<Vec<T>>(kMin<T>) : y;
         else
@@ -24,6 +28,33 @@ struct IntegerLogarithm {
     }
 
     F scale;
+};
+
+template <class T>
+TpxStatus warningOf(T sample) {
+    return sample == 0 ? tpxWarnLnZeroArg : tpxWarnLnNegArg;
+}
+
+// Warns of the first sample, in row-major order, that has no logarithm.
+struct FloatLogarithm {
+    TpxStatus status = tpxOk;
+    ptrdiff_t first = 0; // if there is one
+
+    template <class... V>
+    static bool ordinary(V... x) {
+        return isOrdinaryForLogarithm(x...);
+    }
+    static V32f brief(V32f x) { return ordinaryLogarithm(x); }
+    V32f full(V32f x, ptrdiff_t i) {
+        if (const Tpx32u lanes = laneBits(x <= V32f{})) {
+            const int lane = __builtin_ctz(lanes);
+            if (!status || i + lane < first) {
+                status = warningOf(x[lane]);
+                first = i + lane;
+            }
+        }
+        return logarithm(x);
+    }
 };
 
 // What a rule makes of every byte.
@@ -51,7 +82,7 @@ struct LogarithmWarning {
     void inspect(const T* row, ptrdiff_t len) {
         if (status) return;
         const ptrdiff_t at = findRun(row, len, [](Vec<T> x) { return x <= Vec<T>{}; });
-        if (at >= 0) status = peek(row + at) == 0 ? tpxWarnLnZeroArg : tpxWarnLnNegArg;
+        if (at >= 0) status = warningOf(peek(row + at));
     }
 };
 
@@ -94,7 +125,9 @@ struct Ln {
     template <Layout L, class T>
     static TpxStatus run(const UnaryCall<L, T>& call) {
         if constexpr (std::is_same_v<T, float>) {
-            return mapInspected(call, [](V32f x) { return logarithm(x); });
+            FloatLogarithm logarithm;
+            call.mapMostlyOrdinary(logarithm);
+            return logarithm.status;
         } else {
             // Past these factors every logarithm but 0 saturates, or rounds to 0.
             const int n = clampTo(call.scaleFactor, -20, 20);

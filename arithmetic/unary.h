@@ -8,6 +8,7 @@
 
 #include "frame/entry/entry.h"
 #include "frame/images/pointwise.h"
+#include "frame/runs/ordinary_runs.h"
 
 namespace tpx {
 
@@ -23,6 +24,25 @@ struct UnaryCall {
     template <class Rule>
     TpxStatus map(Rule rule) const {
         mapImage<L>(extent, rule, dst, src);
+        return tpxOk;
+    }
+
+    // The same by a rule of frame/runs/ordinary_runs.h, which counts the samples of the region in row-major
+    // order.
+    template <class Rule>
+    TpxStatus mapMostlyOrdinary(Rule&& rule) const requires(L == Layout::C1) {
+        ptrdiff_t done = 0;
+        walkPointwise<Streaming::Maybe>(
+            extent,
+            [&](ptrdiff_t len, T* d, const T* s) {
+                applyMostlyOrdinary(d, len, rule, s, done);
+                done += len;
+            },
+            [&](ptrdiff_t len, T* d, const T* s) {
+                streamMostlyOrdinary(d, len, rule, s, done);
+                done += len;
+            },
+            dst, src);
         return tpxOk;
     }
 };

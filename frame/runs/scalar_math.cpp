@@ -211,7 +211,7 @@ inline double power(double x, double y) {
     if (magnitudeOf(y * log.high) > 800) return extreme(y * log.high > 0);
     Twofold exponent = exactProduct(y, log.high);
     exponent = exactSum(exponent.high, exponent.low + y * log.low);
-    const double result = exponentialOf(splat<V64f>(exponent.high), splat<V64f>(exponent.low))[0];
+    const double result = exponential(splat<V64f>(exponent.high), splat<V64f>(exponent.low))[0];
     return fromBits(sign | bitsOf(result));
 }
 

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "models/models.h"
+#include "tests/support/cache.h"
 #include "tests/support/guarded.h"
 #include "tests/support/ulps.h"
 
@@ -184,6 +185,38 @@ TEST(UnaryFloats, StrideOfAllBitPatterns) {
     EXPECT_FALSE(std::signbit(y));
 }
 
+// Most samples of an image take a short way, and registers or blocks with others among them a long one. Every
+// sample's result is the one that it has alone, in runs of all lengths, from every place in a register.
+TEST(UnaryFloats, ResultsDoNotDependOnNeighbours) {
+    const float others[] = {0,       -0.0f,   -3,    INFINITY, -INFINITY, NAN,    1e-40f,  FLT_MIN,
+                            FLT_MAX, 2e38f,   1e38f, 200,      -200,      -87.2f, -87.33f, -87.34f,
+                            -95,     -103.9f, -104,  87.2f,    88.7f,     88.73f, -1e-40f, FLT_MIN * 1.5f};
+    for (const auto& f : functions<Tpx32f>()) {
+        const std::string operation = operationOf(f.name);
+        if (f.channels != 1 || (operation != "Ln" && operation != "Exp")) continue;
+        for (const int rarity : {1, 3, 40, 400}) {
+            std::vector<float> src(300), alone(src.size()), dst(src.size() + 1);
+            for (size_t i = 0; i < src.size(); i++) {
+                const unsigned random = unsigned(i + 1) * 2654435761u >> 8;
+                src[i] = random / 7 % rarity ? float(random % 8000) * 0.01f + 0.3f
+                                             : others[random % std::size(others)];
+                f.run(&src[i], 4, &alone[i], 4, {1, 1}, 0);
+            }
+            for (int begin = 0; begin < 9; begin++)
+                for (int len = 1; begin + len <= int(src.size()); len += len < 150 ? 1 : 37)
+                    for (const bool inPlace : {false, true}) {
+                        std::fill(dst.begin(), dst.end(), 5.0f);
+                        float* to = dst.data() + begin;
+                        if (inPlace) std::copy_n(src.data() + begin, len, to);
+                        f.run(inPlace ? to : src.data() + begin, 4 * len, to, 4 * len, {len, 1}, 0);
+                        ASSERT_EQ(std::memcmp(to, alone.data() + begin, 4 * size_t(len)), 0)
+                            << f.name << " of " << len << " from " << begin << ", one in " << rarity;
+                        ASSERT_EQ(to[len], 5.0f);
+                    }
+        }
+    }
+}
+
 // ---- Steps ----------------------------------------------------------------------------------------------
 
 TEST(UnarySteps, OddStepIsRoundedDownInAbsSqrSqrtAndUsedAsItIsInLnExp) {
@@ -261,6 +294,26 @@ TEST(UnaryStatus, Warnings) {
     warnings<Tpx16u>();
     warnings<Tpx16s>();
     warnings<Tpx32f>();
+}
+
+// What goes past the caches is worked on at several places at a time.
+TEST(UnaryStatus, FirstOfManyDecidesInLargeImages) {
+    const int len = 600000;
+    std::vector<float> src(len, 2.0f), dst(len);
+    const SmallCache small;
+    for (const int zero : {0, 17, 130000, 310000, 599999})
+        for (const int negative : {1, 24, 129999, 460000, 599998}) {
+            src[zero] = 0;
+            src[negative] = -1;
+            const int step = len * 4;
+            EXPECT_EQ(tpxiLn_32f_C1R(src.data(), step, dst.data(), step, {len, 1}),
+                      zero < negative ? tpxWarnLnZeroArg : tpxWarnLnNegArg)
+                << zero << ' ' << negative;
+            EXPECT_EQ(tpxiLn_32f_C1R(src.data(), step / 2, dst.data(), step / 2, {len / 2, 2}),
+                      zero < negative ? tpxWarnLnZeroArg : tpxWarnLnNegArg);
+            src[zero] = src[negative] = 2;
+        }
+    EXPECT_GT(small.queries(), 0);
 }
 
 TEST(UnaryStatus, FloatWarningsDoNotCountNanNorNegativeZeroInARoot) {
