@@ -4,7 +4,8 @@
 //
 // The registers of a step hold whole pixels, so each of their lanes belongs to one channel throughout. What
 // they are added to, or compared with, is a class of lanes:
-//   Sample, kRegisters   what a step takes from each source
+//   Sample, kRegisters   what a step takes from each source, in registers of
+//   Register             Vec<Sample>, or half of it where a load of half a register is widened by the way
 //   kChannels            of a pixel
 //   take(x...)           a step, from one source or two
 //   kNeutral             what fills up the last step of a run: zeros, or samples that the run has anyway
@@ -27,12 +28,22 @@ inline constexpr ptrdiff_t kEndless = PTRDIFF_MAX; // steps of lanes that cannot
 template <class T, int N>
 using Registers = Several<Vec<T>, N>;
 
+template <class Lanes>
+inline constexpr int kRegisterLanes = int(sizeof(typename Lanes::Register) / sizeof(typename Lanes::Sample));
+
+// What a step of these lanes takes from a source.
+template <class Lanes>
+using StepOf = Several<typename Lanes::Register, Lanes::kRegisters>;
+template <class Lanes>
+inline constexpr ptrdiff_t kStepSamples = Lanes::kRegisters* kRegisterLanes<Lanes>;
+
 // ---- Steps of a run --------------------------------------------------------------------------------------
 
-template <int N, class T>
-inline Registers<T, N> loadStep(const T* src) {
-    Registers<T, N> x;
-    for (int k = 0; k < N; k++) x.at[k] = load(src + k * kLanes<T>);
+template <class Lanes, class T>
+inline StepOf<Lanes> loadStep(const T* src) {
+    StepOf<Lanes> x;
+    for (int k = 0; k < Lanes::kRegisters; k++)
+        __builtin_memcpy(x.at + k, src + k * kRegisterLanes<Lanes>, sizeof x.at[k]);
     return x;
 }
 
@@ -48,53 +59,55 @@ struct CutMask {
 inline constexpr CutMask kCutMask;
 
 // The step of the last samples of a run, those from `taken` on.
-template <int N, Neutral neutral, class T>
-inline Registers<T, N> loadLastStep(const T* src, ptrdiff_t len, ptrdiff_t taken) {
-    constexpr ptrdiff_t kStep = N * kLanes<T>;
+template <class Lanes, class T>
+inline StepOf<Lanes> loadLastStep(const T* src, ptrdiff_t len, ptrdiff_t taken) {
+    constexpr ptrdiff_t kStep = kStepSamples<Lanes>;
     static_assert(kStep * sizeof(T) <= kMostStepBytes);
     if (len >= kStep) {
         const ptrdiff_t first = len - kStep;
-        Registers<T, N> x = loadStep<N>(src + first);
-        if constexpr (neutral == Neutral::zeros) {
+        StepOf<Lanes> x = loadStep<Lanes>(src + first);
+        if constexpr (Lanes::kNeutral == Neutral::zeros) {
             const Tpx8u* mask = kCutMask.bytes + kMostStepBytes - (taken - first) * ptrdiff_t(sizeof(T));
-            for (int k = 0; k < N; k++) {
-                VecBits<T> bits;
-                __builtin_memcpy(&bits, mask + k * sizeof bits, sizeof bits);
-                x.at[k] = Vec<T>(VecBits<T>(x.at[k]) & bits);
+            for (auto& v : x.at) {
+                using Bits = std::conditional_t<sizeof v == 32, B32f, V8u>;
+                v = bitsAs<typename Lanes::Register>(
+                    bitsAs<Bits>(v) & peek(reinterpret_cast<const Bits*>(mask + (&v - x.at) * sizeof v)));
             }
         }
         return x;
     }
     T block[kStep] = {};
     copyBlock(block, src, len * ptrdiff_t(sizeof(T)));
-    if constexpr (neutral == Neutral::repeats)
+    if constexpr (Lanes::kNeutral == Neutral::repeats)
         for (ptrdiff_t i = len; i < kStep; i++) block[i] = block[i - len];
-    return loadStep<N>(block);
+    return loadStep<Lanes>(block);
 }
 
-// Takes the samples of a run from each source. `room` counts the steps that are left until full(lanes) has to
-// make room for kSteps more.
+// Takes the samples of a run from each source. `room` counts the steps that are left until full() has to make
+// room in the lanes for kSteps more. The loop is a function by itself, and works on a copy of the lanes whose
+// address goes nowhere: so they stay in registers whatever is called around it.
 template <class Lanes, class Full, class... Src>
-inline void takeRun(Lanes& lanes, ptrdiff_t& room, Full full, ptrdiff_t len, const Src*... src) {
-    constexpr int N = Lanes::kRegisters;
-    constexpr ptrdiff_t kStep = N * kLanes<typename Lanes::Sample>;
-    Lanes l = lanes; // in registers
+[[gnu::noinline]] void takeRun(Lanes& lanes, ptrdiff_t& room, const Full& full, ptrdiff_t len,
+                               const Src*... src) {
+    constexpr ptrdiff_t kStep = kStepSamples<Lanes>;
+    Lanes l = lanes;
     const auto spend = [&](ptrdiff_t steps) {
         room -= steps;
-        if (room == 0) {
-            full(l);
-            room = Lanes::kSteps;
-        }
+        if (room > 0) return;
+        lanes = l;
+        full();
+        l = lanes;
+        room = Lanes::kSteps;
     };
     ptrdiff_t i = 0;
     for (ptrdiff_t steps = len / kStep; steps > 0;) {
         const ptrdiff_t some = steps < room ? steps : room;
-        for (const ptrdiff_t end = i + some * kStep; i < end; i += kStep) l.take(loadStep<N>(src + i)...);
+        for (const ptrdiff_t end = i + some * kStep; i < end; i += kStep) l.take(loadStep<Lanes>(src + i)...);
         steps -= some;
         spend(some);
     }
     if (i < len) {
-        l.take(loadLastStep<N, Lanes::kNeutral>(src, len, i)...);
+        l.take(loadLastStep<Lanes>(src, len, i)...);
         spend(1);
     }
     lanes = l;
@@ -112,22 +125,33 @@ inline void accumulate(Accumulator& into, Extent samples, const ImageView<Src>&.
 template <class Lanes>
 class SumAccumulator {
     Lanes lanes;
-    typename Lanes::Total totals[Lanes::kPeriod] = {};
+    typename Lanes::Total totals[Lanes::kPeriod];
     ptrdiff_t room = Lanes::kSteps;
 
+    [[gnu::noinline]] void carry() { lanes.carry(totals); }
+
  public:
+    // The totals as registers of zeros that g++ does not know to be zeros: it would clear them by `rep stos`,
+    // which takes longer than an image of a few rows.
+    SumAccumulator() {
+        const V32f zeros = inRegister(V32f{});
+        static_assert(sizeof totals % sizeof zeros == 0);
+        for (size_t i = 0; i < sizeof totals; i += sizeof zeros)
+            __builtin_memcpy(reinterpret_cast<char*>(totals) + i, &zeros, sizeof zeros);
+    }
+
     template <class... Src>
     void run(ptrdiff_t len, const Src*... src) {
         takeRun(
-            lanes, room, [&](Lanes& l) { l.carry(totals); }, len, src...);
+            lanes, room, [this] { carry(); }, len, src...);
     }
+    // After the last run.
+    void finish() { carry(); }
 
     // The sum of a channel. Totals of integers are exact, and rounded once: the sums of their upper and of
     // their lower halves are not rounded.
-    Tpx64f value(int channel) {
+    Tpx64f value(int channel) const {
         constexpr int C = Lanes::kChannels;
-        lanes.carry(totals);
-        room = Lanes::kSteps;
         if constexpr (std::is_same_v<typename Lanes::Total, Tpx64f>) {
             Tpx64f sum = 0;
             for (int i = channel; i < Lanes::kPeriod; i += C) sum += totals[i];
@@ -155,8 +179,9 @@ class ExtremeAccumulator {
     template <class... Src>
     void run(ptrdiff_t len, const Src*... src) {
         takeRun(
-            lanes, room, [](Lanes&) {}, len, src...);
+            lanes, room, [] {}, len, src...);
     }
+    void finish() {}
 };
 
 } // namespace tpx

@@ -13,6 +13,7 @@ TpxStatus sumProducts(ImageView<const T> src1, ImageView<const T> src2, TpxiSize
 
     SumAccumulator<Lanes> total;
     accumulate(total, samplesOf(size, channelsOf(L)), src1, src2);
+    total.finish();
     for (int c = 0; c < coloursOf(L); c++) products[c] = total.value(c);
     return tpxOk;
 }

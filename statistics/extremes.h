@@ -52,6 +52,7 @@ struct Most {
 template <class T, int C, class Side>
 struct ExtremeLanes {
     using Sample = T;
+    using Register = Vec<T>;
     static constexpr int kRegisters = C == 3 ? 3 : 4, kChannels = C;
     static constexpr Neutral kNeutral = Neutral::repeats;
     static constexpr ptrdiff_t kSteps = kEndless;
@@ -78,6 +79,7 @@ struct ExtremeLanes {
 template <class T, int C>
 struct LeastAndMostLanes {
     using Sample = T;
+    using Register = Vec<T>;
     using LeastLanes = ExtremeLanes<T, C, Least>;
     static constexpr int kRegisters = LeastLanes::kRegisters;
     static constexpr Neutral kNeutral = LeastLanes::kNeutral;

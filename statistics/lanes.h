@@ -2,6 +2,7 @@
 // Sums as lanes of an accumulator: of samples, of products, of squares, and of what a term makes of samples.
 #pragma once
 
+#include "frame/simd/doubles.h"
 #include "frame/simd/through_real.h"
 #include "statistics/accumulate.h"
 
@@ -15,6 +16,7 @@ inline constexpr int kStepRegisters = C == 3 ? 3 : 4;
 template <class T, int C, class Sum, int N>
 struct SumsOf {
     using Sample = T;
+    using Register = Vec<T>;
     using Total = Sum;
     static constexpr int kRegisters = N, kChannels = C;
     static constexpr Neutral kNeutral = Neutral::zeros;
@@ -48,8 +50,27 @@ struct HalfSums {
     V lower() const { return all - (upper << kHalf); }
 };
 
+// Unsigned samples of any channels, two of which share a lane of twice their width.
 template <class T, int C, int N = kStepRegisters<C>>
-struct SumLanes;
+struct HalfLanes : SumsOf<T, C, Tpx64s, N> {
+    using Half = HalfSums<std::conditional_t<sizeof(T) == 1, V16u, V32u>>;
+    static constexpr ptrdiff_t kSteps = Half::kSteps;
+    Half sums[N];
+
+    void add(int k, Vec<T> x) { sums[k].add(decltype(Half::all)(x)); }
+    void take(const Registers<T, N>& x) {
+        for (int k = 0; k < N; k++) add(k, x.at[k]);
+    }
+    void carry(Tpx64s* totals) {
+        for (int k = 0; k < N; k++) {
+            this->addLanes(totals, sums[k].lower(), k * kLanes<T>, 2);
+            this->addLanes(totals, sums[k].upper, k * kLanes<T> + 1, 2);
+            sums[k] = {};
+        }
+    }
+};
+template <class T, int C, int N = kStepRegisters<C>>
+struct SumLanes : HalfLanes<T, C, N> {};
 
 // Neighbours share a lane where all samples are of one channel.
 template <int N>
@@ -83,21 +104,24 @@ struct SumLanes<Tpx16s, 1, N> : SumsOf<Tpx16s, 1, Tpx64s, N> {
     }
 };
 
-template <class T, int C, int N>
-requires(std::is_unsigned_v<T>) struct SumLanes<T, C, N> : SumsOf<T, C, Tpx64s, N> {
-    using Half = HalfSums<std::conditional_t<sizeof(T) == 1, V16u, V32u>>;
-    static constexpr ptrdiff_t kSteps = Half::kSteps;
-    Half sums[N];
+// Half of their range lower, unsigned samples are signed ones.
+inline V16s lowered(V16u x) { return V16s(x ^ splat<V16u>(0x8000)); }
+template <int N>
+struct SumLanes<Tpx16u, 1, N> : SumsOf<Tpx16u, 1, Tpx64s, N> {
+    static constexpr ptrdiff_t kSteps = SumLanes<Tpx16s, 1, N>::kSteps;
+    SumLanes<Tpx16s, 1, N> low;
+    Tpx64s steps = 0;
 
-    void take(const Registers<T, N>& x) {
-        for (int k = 0; k < N; k++) sums[k].add(decltype(Half::all)(x.at[k]));
+    void take(const Registers<Tpx16u, N>& x) {
+        Registers<Tpx16s, N> signedSamples;
+        for (int k = 0; k < N; k++) signedSamples.at[k] = lowered(x.at[k]);
+        low.take(signedSamples);
+        steps++;
     }
     void carry(Tpx64s* totals) {
-        for (int k = 0; k < N; k++) {
-            this->addLanes(totals, sums[k].lower(), k * kLanes<T>, 2);
-            this->addLanes(totals, sums[k].upper, k * kLanes<T> + 1, 2);
-            sums[k] = {};
-        }
+        low.carry(totals);
+        totals[0] += steps * N * kLanes<Tpx16u> << 15;
+        steps = 0;
     }
 };
 template <int C, int N>
@@ -127,21 +151,15 @@ struct SumLanes<Tpx16s, C, N> : SumsOf<Tpx16s, C, Tpx64s, N> {
 template <class T, int C>
 struct ProductLanes : SumsOf<T, C, Tpx64s, C == 3 ? 3 : 2> {
     static constexpr int N = ProductLanes::kRegisters;
-    using Lower = SumLanes<Tpx16u, C, N>;
-    using Upper = SumLanes<T, C, N>;
-    static constexpr ptrdiff_t kSteps = Lower::kSteps < Upper::kSteps ? Lower::kSteps : Upper::kSteps;
-    Lower lower;
-    Upper upper;
+    using Halves = HalfLanes<T, C, N>;
+    static constexpr ptrdiff_t kSteps = Halves::kSteps;
+    Halves lower, upper;
 
     void take(const Registers<T, N>& x, const Registers<T, N>& y) {
-        Registers<Tpx16u, N> low;
-        Registers<T, N> high;
         for (int k = 0; k < N; k++) {
-            low.at[k] = V16u(x.at[k]) * V16u(y.at[k]);
-            high.at[k] = multiplyHigh(x.at[k], y.at[k]);
+            lower.add(k, x.at[k] * y.at[k]);
+            upper.add(k, multiplyHigh(x.at[k], y.at[k]));
         }
-        lower.take(low);
-        upper.take(high);
     }
     void carry(Tpx64s* totals) {
         lower.carry(totals);
@@ -151,49 +169,96 @@ struct ProductLanes : SumsOf<T, C, Tpx64s, C == 3 ? 3 : 2> {
     }
 };
 
-// Bytes: products of every other sample, in 16 bits.
+// Products of neighbouring 16-bit lanes are added by the instruction that makes them. In pixels of several
+// samples the neighbours are brought together first: the registers of a step's second half come between the
+// lanes of those of its first, where the same channels are.
 template <int C>
-struct ProductLanes<Tpx8u, C> : SumsOf<Tpx8u, C, Tpx64s, C == 3 ? 3 : 1> {
-    static constexpr int N = ProductLanes::kRegisters;
-    using Half = HalfSums<V32u>;
-    static constexpr ptrdiff_t kSteps = Half::kSteps;
-    Half even[N], odd[N];
+inline constexpr int kPairRegisters = C == 3 ? 6 : 4;
 
-    void take(const Registers<Tpx8u, N>& x, const Registers<Tpx8u, N>& y) {
-        for (int k = 0; k < N; k++) {
-            const V16u a = V16u(x.at[k]), b = V16u(y.at[k]);
-            even[k].add(V32u((a & 0xFF) * (b & 0xFF)));
-            odd[k].add(V32u((a >> 8) * (b >> 8)));
+template <int C, class V>
+inline Pair<V> neighbours(V a, V b) {
+    if constexpr (C == 1) return {a, b};
+    const V8u x = bitsAs<V8u>(a), y = bitsAs<V8u>(b);
+    return {bitsAs<V>(interleaveUnits<2, false>(x, y)), bitsAs<V>(interleaveUnits<2, true>(x, y))};
+}
+
+// Sums of products of pairs of signed 16-bit lanes, from five operations a register. Pairs lie above -2^31 and
+// reach 2^31, which wraps around in the register; less 1, none does.
+struct SignedPairs {
+    static constexpr ptrdiff_t kSteps = 1 << 15;
+    V32u all{};
+    V32s uppers{};
+
+    void add(V32s pairs) {
+        all += V32u(pairs);
+        uppers += V32s(V32u(pairs) - 1) >> 16;
+    }
+    V32u lower() const { return all - (V32u(uppers) << 16); } // at most 2^16 a pair
+    V32s upper() const { return uppers; }
+};
+// Of squares, which lie from 0 to 2^31.
+struct SquaredPairs {
+    using Half = HalfSums<V32u>;
+    static constexpr ptrdiff_t kSteps = Half::kSteps / 2;
+    Half half;
+
+    void add(V32s pairs) { half.add(V32u(pairs)); }
+    V32u lower() const { return half.lower(); }
+    V32u upper() const { return half.upper; }
+};
+
+template <int C, class Pairs>
+struct PairLanes : SumsOf<Tpx16s, C, Tpx64s, kPairRegisters<C>> {
+    static constexpr int N = kPairRegisters<C>, kSums = N / 2; // each gets two registers of pairs a step
+    static constexpr ptrdiff_t kSteps = Pairs::kSteps / 2;
+    Pairs sums[kSums];
+
+    void take(const Registers<Tpx16s, N>& x, const Registers<Tpx16s, N>& y) {
+        for (int k = 0; k < N / 2; k++) {
+            const Pair<V16s> a = neighbours<C>(x.at[k], x.at[k + N / 2]),
+                             b = neighbours<C>(y.at[k], y.at[k + N / 2]);
+            sums[2 * k % kSums].add(multiplyAddPairs(a.low, b.low));
+            sums[(2 * k + 1) % kSums].add(multiplyAddPairs(a.high, b.high));
         }
     }
     void carry(Tpx64s* totals) {
-        for (int k = 0; k < N; k++) {
-            const int first = k * kLanes<Tpx8u>;
-            this->addLanes(totals, even[k].lower(), first, 4);
-            this->addLanes(totals, odd[k].lower(), first + 1, 4);
-            this->addLanes(totals, even[k].upper, first + 2, 4);
-            this->addLanes(totals, odd[k].upper, first + 3, 4);
-            even[k] = odd[k] = {};
+        for (int m = 0; m < kSums; m++) {
+            this->addLanes(totals, sums[m].lower(), C == 1 ? 0 : 4 * m, 1);
+            this->addLanes(totals, sums[m].upper(), C == 1 ? 0 : 4 * m, 1, 65536);
+            sums[m] = {};
         }
     }
 };
-template <>
-struct ProductLanes<Tpx8u, 1> : SumsOf<Tpx8u, 1, Tpx64s, 4> {
-    static constexpr ptrdiff_t kSteps = 1 << 13; // a lane gets at most 4 * 255^2
-    V32s sums[4] = {};
+template <int C>
+struct ProductLanes<Tpx16s, C> : PairLanes<C, SignedPairs> {};
 
-    void take(const Registers<Tpx8u, 4>& x, const Registers<Tpx8u, 4>& y) {
-        for (int k = 0; k < 4; k++) {
-            const V16u a = V16u(x.at[k]), b = V16u(y.at[k]);
-            sums[k] +=
-                multiplyAddPairs(V16s(a & 0xFF), V16s(b & 0xFF)) + multiplyAddPairs(V16s(a >> 8), V16s(b >> 8));
+// Bytes: pairs of every other sample.
+template <int C>
+struct ProductLanes<Tpx8u, C> : SumsOf<Tpx8u, C, Tpx64s, kPairRegisters<C>> {
+    static constexpr int N = kPairRegisters<C>, kSums = N / 2;
+    static constexpr ptrdiff_t kSteps = 1 << 13; // a lane gets at most 2 * 2 * 255^2
+    V32s even[kSums] = {}, odd[kSums] = {};
+
+    void take(const Registers<Tpx8u, N>& x, const Registers<Tpx8u, N>& y) {
+        for (int k = 0; k < N / 2; k++) {
+            const Pair<V8u> a = neighbours<C>(x.at[k], x.at[k + N / 2]),
+                            b = neighbours<C>(y.at[k], y.at[k + N / 2]);
+            add(2 * k % kSums, V16u(a.low), V16u(b.low));
+            add((2 * k + 1) % kSums, V16u(a.high), V16u(b.high));
         }
     }
     void carry(Tpx64s* totals) {
-        for (V32s& sum : sums) {
-            addLanes(totals, sum, 0, 1);
-            sum = V32s{};
+        for (int m = 0; m < kSums; m++) {
+            this->addLanes(totals, even[m], C == 1 ? 0 : 8 * m, C == 1 ? 1 : 2);
+            this->addLanes(totals, odd[m], C == 1 ? 0 : 8 * m + 1, C == 1 ? 1 : 2);
+            even[m] = odd[m] = V32s{};
         }
+    }
+
+ private:
+    void add(int m, V16u a, V16u b) {
+        even[m] += multiplyAddPairs(V16s(a & 0xFF), V16s(b & 0xFF));
+        odd[m] += multiplyAddPairs(V16s(a >> 8), V16s(b >> 8));
     }
 };
 
@@ -204,65 +269,80 @@ struct SquareLanes : ProductLanes<T, C> {
         ProductLanes<T, C>::take(x, x);
     }
 };
-// Sums of two squares, up to 2^31, by halves.
-template <>
-struct SquareLanes<Tpx16s, 1> : SumsOf<Tpx16s, 1, Tpx64s, 4> {
-    using Half = HalfSums<V32u>;
-    static constexpr ptrdiff_t kSteps = Half::kSteps;
-    Half sums[4];
+template <int C>
+struct SquareLanes<Tpx16s, C> : PairLanes<C, SquaredPairs> {
+    template <class X>
+    void take(const X& x) {
+        PairLanes<C, SquaredPairs>::take(x, x);
+    }
+};
 
-    void take(const Registers<Tpx16s, 4>& x) {
-        for (int k = 0; k < 4; k++) sums[k].add(V32u(multiplyAddPairs(x.at[k], x.at[k])));
+// x^2 is y^2 + 2^16 y + 2^30 for y = x - 2^15. Pairs of y^2 and of y take seven operations a register, the
+// halves of x^2 eight.
+template <>
+struct SquareLanes<Tpx16u, 1> : SumsOf<Tpx16u, 1, Tpx64s, 4> {
+    using Squares = SquareLanes<Tpx16s, 1>;
+    static constexpr ptrdiff_t kSteps = Squares::kSteps; // a linear sum gets at most 2 * 2^16
+    Squares squares;
+    V32s linear[2] = {};
+    Tpx64s steps = 0;
+
+    void take(const Registers<Tpx16u, 4>& x) {
+        Registers<Tpx16s, 4> y;
+        for (int k = 0; k < 4; k++) y.at[k] = lowered(x.at[k]);
+        squares.take(y);
+        for (int k = 0; k < 4; k++) linear[k % 2] += addPairs(y.at[k]);
+        steps++;
     }
     void carry(Tpx64s* totals) {
-        for (Half& sum : sums) {
-            addLanes(totals, sum.lower(), 0, 1);
-            addLanes(totals, sum.upper, 0, 1, 65536);
-            sum = {};
+        squares.carry(totals);
+        for (V32s& sum : linear) {
+            addLanes(totals, sum, 0, 1, 65536);
+            sum = V32s{};
         }
+        totals[0] += steps * 4 * kLanes<Tpx16u> << 30;
+        steps = 0;
     }
 };
 
 // ---- Real numbers ----------------------------------------------------------------------------------------
 
 // Sums, of type Sum, of terms that are made in type Real from samples of T: Term::of(x...) on registers of
-// Real.
+// Real. Floats that become doubles are loaded four at a time: widened on their way from memory they cost an
+// operation, and a shuffle more where a whole register has to be taken apart. Conversions and sums share two
+// units, so four samples of either source take a cycle and a half at best.
+template <class T, class Sum>
+inline constexpr bool kWidened = std::is_same_v<T, Tpx32f> && sizeof(Sum) == 8;
+
 template <class T, int C, class Real, class Sum, class Term>
-struct RealLanes : SumsOf<T, C, Tpx64f, kStepRegisters<C>> {
-    static constexpr int N = RealLanes::kRegisters;
-    static constexpr int kParts = kLanes<T> / kLanes<Sum>; // registers of sums for one of samples
+struct RealLanes : SumsOf<T, C, Tpx64f, kStepRegisters<C>*(kWidened<T, Sum> ? 2 : 1)> {
+    static constexpr int N = RealLanes::kRegisters, kSumLanes = kLanes<Sum>;
+    using Register = std::conditional_t<kWidened<T, Sum>, Four<float>, Vec<T>>;
+    static_assert(kRegisterLanes<RealLanes> == kSumLanes);
     // Single precision keeps its digits in short sums.
     static constexpr ptrdiff_t kSteps = sizeof(Sum) == 4 ? 256 : kEndless;
-    Vec<Sum> sums[N][kParts] = {};
+    Vec<Sum> sums[N] = {};
 
     template <class... X>
     void take(const X&... x) {
-        for (int k = 0; k < N; k++) {
-            const auto terms = termsOf(x.at[k]...);
-            for (int i = 0; i < kParts; i++) sums[k][i] += terms.at[i];
-        }
+        for (int k = 0; k < N; k++) sums[k] += termOf(x.at[k]...);
     }
     void carry(Tpx64f* totals) {
-        for (int k = 0; k < N; k++)
-            for (int i = 0; i < kParts; i++) {
-                this->addLanes(totals, sums[k][i], k * kLanes<T> + i * kLanes<Sum>, 1);
-                sums[k][i] = Vec<Sum>{};
-            }
+        for (int k = 0; k < N; k++) {
+            this->addLanes(totals, sums[k], k * kSumLanes, 1);
+            sums[k] = Vec<Sum>{};
+        }
     }
 
  private:
     template <class... V>
-    static Several<Vec<Sum>, kParts> termsOf(V... x) {
-        if constexpr (std::is_same_v<Real, Sum> && std::is_same_v<Real, T>) {
-            return {{Term::of(x...)}};
-        } else if constexpr (std::is_same_v<Real, T>) {
-            const Pair<V64f> wide = widen(Term::of(x...));
-            return {{wide.low, wide.high}};
-        } else if constexpr (std::is_same_v<T, Tpx32f>) {
-            return {{Term::of(widen(x).low...), Term::of(widen(x).high...)}};
-        } else {
-            return {{Term::of(toDouble(x)...)}};
-        }
+    static Vec<Sum> termOf(V... x) {
+        if constexpr (std::is_same_v<Real, Sum> && std::is_same_v<Real, T>)
+            return Term::of(x...);
+        else if constexpr (std::is_same_v<Real, T>)
+            return toDouble(Term::of(x...));
+        else
+            return Term::of(toDouble(x)...);
     }
 };
 
@@ -285,6 +365,7 @@ struct Product {
 template <class T, class Term, class Lanes>
 struct TermLanes : Lanes {
     using Sample = T;
+    using Register = Vec<T>;
 
     template <class... X>
     void take(const X&... x) {

@@ -79,7 +79,9 @@ struct Inf : NormOf<T, C> {
 
 template <class T, int C, class Real = T>
 struct L1 : NormOf<T, C> {
-    using OfImage = SumAccumulator<TermLanes<T, Magnitude, SumLanes<Magnitudes<T>, C>>>;
+    using Lanes =
+        std::conditional_t<std::is_signed_v<T>, HalfLanes<Magnitudes<T>, C>, SumLanes<Magnitudes<T>, C>>;
+    using OfImage = SumAccumulator<TermLanes<T, Magnitude, Lanes>>;
     using OfDifference = OfImage;
     static Tpx64f norm(Tpx64f sum) { return sum; }
 };
@@ -118,6 +120,7 @@ TpxStatus norm(Source<Norm> src, TpxiSizeL size, Tpx64f* values) {
 
     typename Norm::OfImage terms;
     accumulate(terms, samplesOf(size, Norm::C), src);
+    terms.finish();
     for (int c = 0; c < Norm::C; c++) values[c] = Norm::norm(terms.value(c));
     return tpxOk;
 }
@@ -136,6 +139,7 @@ TpxStatus normOfDifference(Source<Norm> src1, Source<Norm> src2, TpxiSizeL size,
 
     typename Norm::OfDifference terms;
     accumulate(terms, samplesOf(size, Norm::C), src1, src2);
+    terms.finish();
     for (int c = 0; c < Norm::C; c++) values[c] = Norm::norm(terms.value(c));
     return tpxOk;
 }
@@ -164,6 +168,8 @@ TpxStatus relativeNorm(Source<Norm> src, Source<Norm> ref, TpxiSizeL size, Tpx64
         }
     };
     walkJoined(samplesOf(size, Norm::C), run, src, ref);
+    difference.finish();
+    reference.finish();
     TpxStatus status = tpxOk;
     for (int c = 0; c < Norm::C; c++) {
         const Tpx64f over = difference.value(c), under = reference.value(c);

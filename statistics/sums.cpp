@@ -22,6 +22,7 @@ TpxStatus sum(ImageView<const T> src, TpxiSizeL size, Tpx64f* sums) {
 
     SumAccumulator<typename LanesOf<T, C>::type> total;
     accumulate(total, samplesOf(size, C), src);
+    total.finish();
     for (int c = 0; c < C; c++) sums[c] = total.value(c);
     return tpxOk;
 }

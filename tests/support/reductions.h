@@ -42,6 +42,19 @@ void checkManyRows(int channels, T p, T q, Check check) {
     check(View<T>(a.data(), pixel), View<T>(b.data(), pixel), size);
 }
 
+// More samples than any lane has room for, most of which lie at the ends of the type's range: sums of pairs
+// wrap around now and then.
+template <class T>
+void fillWithExtremes(GuardedImage<T>& image, unsigned seed) {
+    const T low = std::numeric_limits<T>::lowest(), high = std::numeric_limits<T>::max();
+    const T choices[] = {low, low, low, T(low + 1), high, high, T(high - 1), T(0)};
+    image.fill([&](int, int, int) {
+        seed = seed * 1664525 + 1013904223;
+        return choices[seed >> 29];
+    });
+}
+inline constexpr TpxiSize kBeyondLanes = {1031, 600};
+
 // Results have more room than a call has values for; the rest has to keep this.
 inline constexpr int kRoom = 5, kUnwritten = 77;
 
