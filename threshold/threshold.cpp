@@ -8,12 +8,8 @@ namespace {
 
 // ---- Rules: what happens on either side of a threshold. Operand order decides what NaN gives ------------
 
-// Integers: where clamping changed a sample it left the threshold, which is exchanged for the value.
-template <class V>
-V exchange(V x, V clamped, V threshold, V value) {
-    return clamped ^ without(clamped == x, threshold ^ value);
-}
-
+// Whether samples lie beyond a threshold; unsigned integers have no such instruction, but leave the threshold
+// when they are limited to it.
 struct Above {
     template <class V>
     static V clamp(V x, V threshold) {
@@ -21,7 +17,10 @@ struct Above {
     }
     template <class V>
     static V replace(V x, V threshold, V value) {
-        return exchange(x, clamp(x, threshold), threshold, value);
+        if constexpr (std::is_signed_v<LaneOf<V>>)
+            return select(x > threshold, value, x);
+        else
+            return select(clamp(x, threshold) == x, x, value);
     }
     static V32f replace(V32f x, V32f threshold, V32f value) {
         return threshold < x ? value : x; // NaN stays
@@ -35,23 +34,26 @@ struct Below {
     }
     template <class V>
     static V replace(V x, V threshold, V value) {
-        return exchange(x, clamp(x, threshold), threshold, value);
+        if constexpr (std::is_signed_v<LaneOf<V>>)
+            return select(x < threshold, value, x);
+        else
+            return select(clamp(x, threshold) == x, x, value);
     }
     static V32f replace(V32f x, V32f threshold, V32f value) {
         return threshold <= x ? x : value; // NaN gives the value
     }
 };
 
-// A replaced sample is not compared again: clamping to the lower threshold, which is not above the upper one,
-// keeps it from the upper one.
+// The lower threshold has the last word: NaN gives its value.
 template <class V>
 V replaceOutside(V x, V low, V lowValue, V high, V highValue) {
-    const V raised = Below::clamp(x, low), clamped = Above::clamp(raised, high);
-    return exchange(raised, clamped, high, highValue) ^ without(raised == x, low ^ lowValue);
-}
-inline V32f replaceOutside(V32f x, V32f low, V32f lowValue, V32f high, V32f highValue) {
-    const V32f upper = Above::replace(x, high, highValue);
-    return low <= x ? upper : lowValue; // the lower threshold has the last word: NaN gives its value
+    const V upper = Above::replace(x, high, highValue);
+    if constexpr (std::is_same_v<V, V32f>)
+        return low <= x ? upper : lowValue;
+    else if constexpr (std::is_signed_v<LaneOf<V>>)
+        return select(x < low, lowValue, upper);
+    else
+        return select(Below::clamp(x, low) == x, upper, lowValue);
 }
 
 // ---- Constants and checks ---------------------------------------------------------------------------------
@@ -90,9 +92,13 @@ TpxStatus check(const Images<T>& images, const Arrays*... arrays) {
 
 // ---- Operations ------------------------------------------------------------------------------------------
 
+// A sample that is compared and kept is loaded once: g++ loads it for either, and these rules are short enough
+// to wait for loads.
 template <Layout L, class T, class Rule>
 TpxStatus map(const Images<T>& images, Rule rule) {
-    mapImageByChannel<L>(samplesOf(images.roi, channelsOf(L)), rule, images.dst, images.src);
+    mapImageByChannel<L>(
+        samplesOf(images.roi, channelsOf(L)), [rule](auto x, int k) { return rule(inRegister(x), k); },
+        images.dst, images.src);
     return tpxOk;
 }
 
