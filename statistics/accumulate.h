@@ -43,7 +43,7 @@ template <class Lanes, class T>
 inline StepOf<Lanes> loadStep(const T* src) {
     StepOf<Lanes> x;
     for (int k = 0; k < Lanes::kRegisters; k++)
-        __builtin_memcpy(x.at + k, src + k * kRegisterLanes<Lanes>, sizeof x.at[k]);
+        x.at[k] = peek(reinterpret_cast<const typename Lanes::Register*>(src + k * kRegisterLanes<Lanes>));
     return x;
 }
 
