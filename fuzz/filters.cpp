@@ -104,9 +104,10 @@ class Filter {
         if (e_.param("weight")) mask_ = {3, 3};
         if (e_.param("anchor")) anchor_ = {bytes_.below(mask_.width), bytes_.below(mask_.height)};
         if (!e_.param("mask") && !e_.param("weight")) spoil(mask_.width), spoil(mask_.height);
-        if (e_.param("anchor"))
+        // FilterBox goes wherever its anchor leads.
+        if (e_.param("anchor") && e_.operation != "FilterBox")
             spoil(anchor_.x), spoil(anchor_.y);
-        else
+        else if (!e_.param("anchor"))
             anchor_ = {(mask_.width - 1) / 2, (mask_.height - 1) / 2};
         if (e_.operation.starts_with("SumWindow")) { // which know one direction
             const bool isRow = e_.operation.ends_with("Row");
