@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "table.h"
 
+#include "bounds.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <ostream>
@@ -8,7 +10,7 @@
 namespace bench {
 namespace {
 
-using Cells = std::vector<std::string>;
+using Cells = Lines::value_type;
 
 // Three significant digits, never an exponent.
 std::string number(double value) {
@@ -24,15 +26,25 @@ std::string duration(double seconds) {
     return number(seconds * 1e3) + " ms";
 }
 
+// The letter tells which bound it is.
+std::string boundCell(const Row& row) {
+    const Bound bound = boundOf(row);
+    return bound.name.empty() ? "" : number(ofBound(row)) + " " + bound.name[0];
+}
+
 std::vector<Cells> cells(const std::vector<Row>& rows) {
     const std::vector<std::string> yardsticks = yardsticksOf(rows);
-    Cells head = {"Function", "Size", "Call", "ns/sample", "GB/s"};
+    Cells head = {"Function", "Size", "Call", "ns/sample", "GB/s", "Of bound"};
     for (const std::string& name : yardsticks) head.push_back("x " + name);
     std::vector<Cells> result = {head};
     for (const Row& row : rows) {
         const double best = row.ours().best;
-        Cells line = {row.job.function, row.job.size, duration(best), number(best * 1e9 / row.job.samples),
-                      number(row.job.bytes / best * 1e-9)};
+        Cells line = {row.job.function,
+                      row.job.size,
+                      duration(best),
+                      number(best * 1e9 / row.job.samples),
+                      number(row.job.bytes / best * 1e-9),
+                      boundCell(row)};
         for (const std::string& name : yardsticks) {
             const Time* other = row.find(name);
             line.push_back(other ? number(row.ratio(*other)) : "");
@@ -134,6 +146,12 @@ void writeTable(std::ostream& out, Style style, const Facts& facts, const std::v
     for (const std::string& fact : facts) out << (markdown ? "- " : "") << fact << "\n";
     out << (markdown ? "- " : "") << "unrest of the machine: the typical round took " << number(unrest(rows))
         << " times the best one\n";
+    const Lines bounds = boundsByGroup(rows);
+    if (bounds.size() > 1) {
+        out << "\nWhat is left to gain: the bound's time over ours (1 is the bound), the mean of a family's "
+               "jobs.\n\n";
+        writeCells(out, style, bounds);
+    }
     for (const std::string& group : groups(rows)) {
         out << "\n" << (markdown ? "## " : "") << group << "\n\n";
         writeCells(out, style, cells(inGroup(rows, group)));

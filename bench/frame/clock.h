@@ -38,4 +38,14 @@ Batch fillBatch(const Run& run) {
     return batch;
 }
 
+// Of the processor's clock, which changes with its load: sums that wait for each other take a cycle each.
+inline double secondsOfCycle() {
+    constexpr int kSums = 64, kTimes = 256;
+    long sum = 0;
+    const double start = threadSeconds();
+    for (int i = 0; i < kTimes; ++i)
+        asm volatile(".rept %c2\n\tadd %1, %0\n\t.endr" : "+r"(sum) : "r"(start > 0 ? 1L : 0L), "i"(kSums));
+    return (threadSeconds() - start) / (kSums * kTimes);
+}
+
 } // namespace bench

@@ -31,8 +31,9 @@ struct Lane {
 
 // Rounds of A B C, B C A, C A B...: a slow moment of the machine falls on all alike, and no one always
 // follows the same other.
-std::vector<Time> race(const std::vector<Contender>& contenders) {
+Row race(Job job, const std::vector<Contender>& contenders) {
     std::vector<Lane> lanes;
+    double cycle = secondsOfCycle();
     for (const Contender& contender : contenders) {
         contender.run();
         const Batch batch = fillBatch(contender.run);
@@ -42,6 +43,7 @@ std::vector<Time> race(const std::vector<Contender>& contenders) {
     for (size_t round = 0; round <= kMinRounds || (round < kMaxRounds && Clock::now() - start < kBudget);
          ++round) {
         if (round == kMinRounds) start = Clock::now();
+        cycle = std::min(cycle, secondsOfCycle());
         for (size_t i = 0; i < lanes.size(); ++i) {
             Lane& lane = lanes[(round + i) % lanes.size()];
             if (round >= kMinRounds && lane.times.front() > kSlow * lanes.front().times.front()) continue;
@@ -49,12 +51,12 @@ std::vector<Time> race(const std::vector<Contender>& contenders) {
             lane.times.push_back(timeBatch(lane.contender->run, lane.calls));
         }
     }
-    std::vector<Time> result;
+    Row row{std::move(job), {}, cycle};
     for (Lane& lane : lanes) {
         std::sort(lane.times.begin(), lane.times.end());
-        result.push_back({lane.contender->name, lane.times.front(), lane.times[lane.times.size() / 2]});
+        row.times.push_back({lane.contender->name, lane.times.front(), lane.times[lane.times.size() / 2]});
     }
-    return result;
+    return row;
 }
 
 } // namespace
@@ -70,7 +72,7 @@ void addJob(Job job, std::function<std::vector<Contender>()> prepare) {
     benchmark::RegisterBenchmark(name.c_str(),
                                  [job = std::move(job), prepare = std::move(prepare)](benchmark::State& state) {
                                      for (auto _ : state) try {
-                                             const Row row{job, race(prepare())};
+                                             const Row row = race(job, prepare());
                                              state.SetIterationTime(row.ours().best);
                                              for (const Time& other : row.times)
                                                  if (&other != &row.ours())

@@ -39,6 +39,7 @@ struct Time {
 struct Row {
     Job job;
     std::vector<Time> times; // in the order of the contenders
+    double cycle;            // seconds of a cycle of the processor, meanwhile
     const Time* find(const std::string& name) const;
     const Time& ours() const { return times.front(); }
     double ratio(const Time& other) const { return other.best / ours().best; }

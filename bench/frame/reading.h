@@ -9,7 +9,7 @@
 namespace bench {
 
 // Loads of 32 bytes, each of which is used.
-[[gnu::noinline]] inline void readRun(const void* memory, size_t bytes) {
+[[gnu::noinline, gnu::target("avx")]] inline void readRun(const void* memory, size_t bytes) {
     typedef long long Register __attribute__((vector_size(32)));
     Register seen[4] = {};
     const auto* at = static_cast<const char*>(memory);

@@ -16,10 +16,16 @@ void addCopy(const char* name, Process<T> ours, int channels, ScalarRow<T> scala
         scalar);
 }
 
-// The copy beside it reads as well as writes; std::memset is shown where it can do the job.
+// The copy beside it reads as well as writes; std::memset fills as many bytes, though with one value.
 template <typename T, typename F, typename Value>
-void addSet(const char* name, F function, int channels, const Value& value, Sizes sizes = Sizes::middle,
-            std::vector<Other<T>> others = {}) {
+void addSet(const char* name, F function, int channels, const Value& value, Sizes sizes = Sizes::middle) {
+    const auto fill = [](const Image<T>&, const Image<T>& dst) {
+        if (dst.rowBytes() == static_cast<size_t>(dst.step())) {
+            std::memset(dst.data(), 7, dst.rowBytes() * dst.size().height);
+            return;
+        }
+        for (int y = 0; y < dst.size().height; ++y) std::memset(dst.row(y), 7, dst.rowBytes());
+    };
     addPointwise<T>(
         {.group = "Copy and set",
          .function = name,
@@ -39,7 +45,7 @@ void addSet(const char* name, F function, int channels, const Value& value, Size
             else
                 tpx::model::set(value.data(), value.size(), dst, length);
         },
-        std::move(others));
+        {{kMemset, fill}});
 }
 
 } // namespace
@@ -51,15 +57,7 @@ void addCopies() {
     addCopy<Tpx16s>("tpxiCopy_16s_C1R", tpxiCopy_16s_C1R, 1, tpx::model::copy<Tpx16s>);
     addCopy<Tpx32f>("tpxiCopy_32f_C1R", tpxiCopy_32f_C1R, 1, tpx::model::copy<Tpx32f>, Sizes::all);
 
-    const Other<Tpx8u> memset = {kMemset, [](const Image<Tpx8u>&, const Image<Tpx8u>& dst) {
-                                     if (dst.rowBytes() == static_cast<size_t>(dst.step())) {
-                                         std::memset(dst.data(), 7, dst.rowBytes() * dst.size().height);
-                                         return;
-                                     }
-                                     for (int y = 0; y < dst.size().height; ++y)
-                                         std::memset(dst.row(y), 7, dst.rowBytes());
-                                 }};
-    addSet<Tpx8u>("tpxiSet_8u_C1R", tpxiSet_8u_C1R, 1, Tpx8u{7}, Sizes::all, {memset});
+    addSet<Tpx8u>("tpxiSet_8u_C1R", tpxiSet_8u_C1R, 1, Tpx8u{7}, Sizes::all);
     addSet<Tpx8u>("tpxiSet_8u_C3R", tpxiSet_8u_C3R, 3, std::array<Tpx8u, 3>{7, 8, 9});
     addSet<Tpx32f>("tpxiSet_32f_C1R", tpxiSet_32f_C1R, 1, Tpx32f{7}, Sizes::all);
     addSet<Tpx32f>("tpxiSet_32f_C3R", tpxiSet_32f_C3R, 3, std::array<Tpx32f, 3>{7, 8, 9});
