@@ -5,6 +5,7 @@
 //   saturated(a, b)        the result with factor 0, in registers of T
 //   exact(a, b)            the exact result: a pair of registers of wider lanes, or one where T's lanes hold it
 //   halved(a, b)           the result with factor 1, which needs no wider lanes; optional
+//   shrunk<V>(n)           a rule for factors from 1 to 15 in V's lanes; optional
 //   kZeroFrom<T>           the smallest factor at which every result is 0
 #pragma once
 
@@ -79,6 +80,12 @@ TpxStatus binaryRows(const BinaryImages<T>& a, Extent e, int n) {
         if constexpr (requires { Op::halved(V{}, V{}); }) {
             if (n == 1) {
                 map([](V x, V y) { return Op::halved(x, y); });
+                return tpxOk;
+            }
+        }
+        if constexpr (requires { Op::template shrunk<V>(n); }) {
+            if (n <= 15) {
+                map(Op::template shrunk<V>(n));
                 return tpxOk;
             }
         }
