@@ -54,7 +54,7 @@ F scale(int n) {
 
 template <Steps K, Layout L, class S, class D>
 TpxStatus convertReal(ImageView<const S> src, ImageView<D> dst, TpxiSizeL roi, TpxRoundMode mode, int n = 0) {
-    return withRounding(mode, [=](auto half) {
+    return withRounding(mode, denormalsGiveZero<S>(n), [=](auto half) {
         constexpr bool kHalf = decltype(half)::value;
         if constexpr (sizeof(D) < 4) {
             return convert<K, L>(src, dst, roi, ToSmall<S, D, kHalf>{scale<S>(n)});

@@ -65,11 +65,19 @@ struct ToSmall {
 
 // ---- Calls ----------------------------------------------------------------------------------------------
 
+// Whether samples times 2^-n may be read with zeros for denormal ones, on which arithmetic is slow: those must
+// come to less than a half, which is 0 in every mode, and the factor itself must be no denormal one.
+template <class S>
+constexpr bool denormalsGiveZero(int n) {
+    return sizeof(S) == 8 || (n >= -125 && n <= 126);
+}
+
 // body(whether to add a half), in the control that this needs.
 template <class Body>
-inline TpxStatus withRounding(TpxRoundMode mode, Body body) {
-    const FloatControl control(
-        roundingAs(mode == tpxRoundNearestEven ? Rounding::Nearest : Rounding::TowardZero));
+inline TpxStatus withRounding(TpxRoundMode mode, bool denormalsAreZeros, Body body) {
+    FloatSettings settings = roundingAs(mode == tpxRoundNearestEven ? Rounding::Nearest : Rounding::TowardZero);
+    if (denormalsAreZeros) settings.value |= FloatSettings::kDenormalsAreZeros;
+    const FloatControl control(settings);
     if (mode == tpxRoundNearestEven || mode == tpxRoundTowardZero) return body(std::false_type{});
     return body(std::true_type{});
 }

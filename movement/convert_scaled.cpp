@@ -49,7 +49,7 @@ TpxStatus convertScaled(ImageView<const S> src, ImageView<D> dst, TpxiSizeL roi,
     constexpr int kThroughReal = sizeof(S) == 4 ? 24 - kBits<D> : 0;
     if constexpr (kThroughReal > 0)
         if (n > 0 && n <= kThroughReal)
-            return withRounding(mode, [=](auto half) {
+            return withRounding(mode, false, [=](auto half) {
                 return run(ToSmall<S, D, decltype(half)::value>{powerOfTwo<Tpx32f>(-n)});
             });
     if (n == 0) return run(Narrow<S, D>{});
