@@ -22,18 +22,18 @@ inline V addHalf(V x) {
 }
 
 // Samples as the floating point that they are rounded in, S or single precision for 32-bit integers. Of these
-// only magnitudes up to 2^24 are exact; larger ones become any number from there on.
+// only magnitudes up to 2^24 are exact; larger ones become any number from there on, and those that would count
+// as negative become 2^24.
 template <class S>
 inline auto loadReal(const S* p) {
     if constexpr (std::is_floating_point_v<S>) {
         return load(p);
-    } else if constexpr (std::is_signed_v<S>) {
+    } else {
         B32f x;
         __builtin_memcpy(&x, p, sizeof x);
+        if constexpr (!std::is_signed_v<S>)
+            x = bitsAs<B32f>(select(x, bitsAs<V32f>(B32f{} + (1 << 24)), bitsAs<V32f>(x)));
         return toFloat(x);
-    } else {
-        const V32u limit = splat<V32u>(1 << 24);
-        return toFloat(Pair<V32s>{V32s(minOf(load(p), limit)), V32s(minOf(load(p + kLanes<S>), limit))});
     }
 }
 
