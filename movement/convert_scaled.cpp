@@ -3,7 +3,7 @@
 //
 // Operations on registers make the time, three a cycle or more. For 16 samples, besides loads and stores,
 // shifted right with truncation, halves away from zero, and ties to even:
-//     8u -> 8s 5, 5, 11; 16u -> 8s 3, 5, 11; 16u -> 16s 2, 4, 10; 16s -> 8s 7, 7, 9;
+//     8u -> 8s 2, 3, 7; 16u -> 8s 3, 5, 11; 16u -> 16s 2, 4, 10; 16s -> 8s 7, 7, 9;
 //     32u -> 8 bits 7, 9, 13; 32u -> 16 bits 6, 10 (16s) or 14, 12 by small factors and 30; 32u -> 32s 4, 12,
 //     28; 32s -> 16u 6, 12, 10 by small factors, 6, 22, 26; 32s -> 16s 10, 16, 10 by small factors, 14, 22, 26.
 // Measured at 0.8 to 1.2 of a third of that in cycles (32u -> 8u: 2.9, 3.2 and 4.6).
@@ -41,7 +41,7 @@ struct ShrinkUnsigned {
     V operator()(V x) const {
         if constexpr (Mode == tpxRoundTowardZero) return quotient(x);
         if constexpr (Mode == tpxRoundNearestEven) {
-            if constexpr (sizeof(LaneOf<V>) == 2)
+            if constexpr (sizeof(LaneOf<V>) < 4)
                 x = subSat(x, ~quotient(x) & splat<V>(1));
             else
                 x = minOf(x, x + V((x & resultBit) == V{})); // 0 stays
@@ -51,11 +51,10 @@ struct ShrinkUnsigned {
 };
 
 // Signed lanes, limited to what saturates, so that they have the room of Headroom::Half; 16 bits always have
-// it. Bytes have no sign to go by.
-template <TpxRoundMode Mode, class S, class D, class V>
+// it.
+template <TpxRoundMode Mode, class D, class V>
 struct ShrinkInRoom {
-    static constexpr bool kUp = Mode == tpxRoundHalfAway && !std::is_signed_v<S>;
-    std::conditional_t<kUp, HalvesUp<V>, RoundedShift<Mode, V, Headroom::Half>> shift;
+    RoundedShift<Mode, V, Headroom::Half> shift;
     V most;
 
     explicit ShrinkInRoom(int n) : shift(n), most(splat<V>(LaneOf<V>((Tpx64s(kMax<D>) + 1) << n))) {}
@@ -89,19 +88,19 @@ struct Grow {
 
 // ---- Rules ------------------------------------------------------------------------------------------------
 
-// Samples as lanes of W, scaled, for as many registers as fill one of D, saturated. The narrowing takes lanes
-// for signed ones: unsigned ones that may use all bits are limited first.
+// As many registers as fill one of D, scaled and saturated. The narrowing takes lanes for signed ones: unsigned
+// ones that may use all bits are limited first.
 enum class AllBits { Unused, Used };
 
-template <class S, class D, class W, class Scale, AllBits B = AllBits::Unused>
-struct ThroughLanes {
+template <class S, class D, class Scale, AllBits B = AllBits::Unused>
+struct Scaled {
     Scale scale;
 
-    explicit ThroughLanes(int n) : scale{n} {}
+    explicit Scaled(int n) : scale{n} {}
     Vec<D> operator()(const S* p) const {
-        return narrowAll<D>(makeSeveral<kLanes<D> / kLanes<W>>([&](int i) {
-            const Vec<W> x = scale(loadAs<W>(p + i * kLanes<W>));
-            return B == AllBits::Used && !std::is_signed_v<W> ? minOf(x, splat<Vec<W>>(W(kMax<D>))) : x;
+        return narrowAll<D>(makeSeveral<kLanes<D> / kLanes<S>>([&](int i) {
+            const Vec<S> x = scale(load(p + i * kLanes<S>));
+            return B == AllBits::Used && !std::is_signed_v<S> ? minOf(x, splat<Vec<S>>(S(kMax<D>))) : x;
         }));
     }
 };
@@ -123,10 +122,6 @@ struct HalveNarrowed {
     }
 };
 
-// The lanes that samples are scaled in: their own, but for 8 bits, which no shift serves.
-template <class S>
-using Lane = std::conditional_t<sizeof(S) == 1, Tpx16u, S>;
-
 // ---- Calls ------------------------------------------------------------------------------------------------
 
 // n > 0 in a mode, up to `Most` but for the truncation.
@@ -140,27 +135,25 @@ TpxStatus shrink(int n, Run run) {
     // saturate all the same. Without a sign to keep a single shift is cheaper.
     constexpr bool kOneShift = kTruncates && !(std::is_signed_v<S> && std::is_signed_v<D>);
     constexpr int kThroughReal = sizeof(S) == 4 && !kOneShift ? 24 - kBits<D> : 0;
-    // A half of the step more must stay within the lane. Bytes have that room in any wider one.
-    using Room = std::conditional_t<sizeof(S) == 1, Tpx16s, S>;
-    constexpr int kInRoom = !std::is_signed_v<Room> || kTruncates ? 0 : sizeof(Room) == 2 ? 15 : 30 - kBits<D>;
+    // A half of the step more must stay within the lane.
+    constexpr int kInRoom = !std::is_signed_v<S> || kTruncates ? 0 : sizeof(S) == 2 ? 15 : 30 - kBits<D>;
     if constexpr (kThroughReal > 0)
         if (n <= kThroughReal)
             return withRounding(Mode, false, [=](auto half) {
                 return run(ToSmall<S, D, decltype(half)::value>{powerOfTwo<Tpx32f>(-n)});
             });
     if constexpr (kInRoom > 0)
-        if (n <= kInRoom) return run(ThroughLanes<S, D, Room, ShrinkInRoom<Mode, S, D, Vec<Room>>>(n));
-    if constexpr (!kTruncates && (Most <= kThroughReal || Most <= kInRoom)) {
+        if (n <= kInRoom) return run(Scaled<S, D, ShrinkInRoom<Mode, D, Vec<S>>>(n));
+    if constexpr (!kTruncates && (Most <= kThroughReal)) {
         __builtin_unreachable();
     } else if constexpr (std::is_signed_v<S>) {
         using Any = std::conditional_t<kTruncates, Truncate<D, Vec<S>>, RoundedShift<Mode, Vec<S>>>;
-        return run(ThroughLanes<S, D, S, Any>(n));
+        return run(Scaled<S, D, Any>(n));
     } else {
-        using W = Lane<S>;
         // The largest samples round to 2^(width - 1).
         if constexpr (!kTruncates)
-            if (n == 1) return run(ThroughLanes<S, D, W, RoundedShift<Mode, Vec<W>>, AllBits::Used>(n));
-        return run(ThroughLanes<S, D, W, ShrinkUnsigned<Mode, Vec<W>>>(n));
+            if (n == 1) return run(Scaled<S, D, RoundedShift<Mode, Vec<S>>, AllBits::Used>(n));
+        return run(Scaled<S, D, ShrinkUnsigned<Mode, Vec<S>>>(n));
     }
 }
 
@@ -170,10 +163,9 @@ TpxStatus convertScaled(ImageView<const S> src, ImageView<D> dst, TpxiSizeL roi,
     const auto run = [&](auto rule) { return convert<Steps::Free, Layout::C1>(src, dst, roi, rule); };
     if (n == 0) return run(Narrow<S, D>{});
     if (n < 0) {
-        using W = Lane<S>;
-        constexpr AllBits kBitsOfLimit = sizeof(W) == sizeof(D) ? AllBits::Used : AllBits::Unused;
+        constexpr AllBits kBitsOfLimit = sizeof(S) == sizeof(D) ? AllBits::Used : AllBits::Unused;
         // From the number of value bits on, whatever is not 0 saturates.
-        return run(ThroughLanes<S, D, W, Grow<D>, kBitsOfLimit>(-clampTo(n, -kValueBits<D>, 0)));
+        return run(Scaled<S, D, Grow<D>, kBitsOfLimit>(-clampTo(n, -kValueBits<D>, 0)));
     }
     constexpr int kShiftedOut = 64;
     if (n > ZeroAbove) return shrink<tpxRoundTowardZero, ZeroAbove, S, D>(kShiftedOut, run);

@@ -12,7 +12,8 @@ namespace tpx {
 struct FloatSettings {
     static constexpr Tpx32u kFlags = 0x003F, kUnderflowSeen = 0x0010, kMaskUnderflow = 0x0800,
                             kNoTraps = 0x1F80, kDenormalsAreZeros = 0x0040, kDirection = 0x6000,
-                            kFlushToZero = 0x8000;
+                            kFlushToZero = 0x8000,
+                            kAll = kFlags | kDenormalsAreZeros | kNoTraps | kDirection | kFlushToZero;
     Tpx32u changes, value, restores;
 };
 
@@ -21,10 +22,9 @@ struct FloatSettings {
 // of the register comes back.
 constexpr FloatSettings roundingAs(Rounding rounding) {
     using S = FloatSettings;
-    constexpr Tpx32u kAll = S::kFlags | S::kDenormalsAreZeros | S::kNoTraps | S::kDirection | S::kFlushToZero;
     const bool asCaller = rounding == Rounding::OfThread;
-    return {asCaller ? kAll & ~S::kDirection : kAll,
-            S::kNoTraps | S::kFlushToZero | (asCaller ? 0 : Tpx32u(rounding) << 13), kAll};
+    return {asCaller ? S::kAll & ~S::kDirection : S::kAll,
+            S::kNoTraps | S::kFlushToZero | (asCaller ? 0 : Tpx32u(rounding) << 13), S::kAll};
 }
 
 // Results too small for a normal number are zeros, and underflow does not trap; else the caller's settings
@@ -42,7 +42,9 @@ class FloatControl {
     explicit FloatControl(FloatSettings settings) : callers_(current()), restores_(settings.restores) {
         change(callers_, settings.changes, settings.value);
     }
-    ~FloatControl() { change(current(), restores_, callers_); }
+    // The register is read again only for what stays in it: that waits for all arithmetic, and takes longer
+    // than everything else here.
+    ~FloatControl() { change(restores_ == FloatSettings::kAll ? callers_ : current(), restores_, callers_); }
     FloatControl(const FloatControl&) = delete;
     FloatControl& operator=(const FloatControl&) = delete;
 

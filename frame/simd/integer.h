@@ -33,6 +33,13 @@ inline V32u shiftLeft(V32u a, int n) { return V32u(_mm_sll_epi32(__m128i(a), _mm
 inline V16u shiftRight(V16u a, int n) { return V16u(_mm_srl_epi16(__m128i(a), _mm_cvtsi32_si128(n))); }
 inline V32u shiftRight(V32u a, int n) { return V32u(_mm_srl_epi32(__m128i(a), _mm_cvtsi32_si128(n))); }
 
+inline V8u shiftLeft(V8u a, int n) {
+    return V8u(shiftLeft(V16u(a), n)) & splat<V8u>(Tpx8u(n < 8 ? 0xFF << n : 0));
+}
+inline V8u shiftRight(V8u a, int n) {
+    return V8u(shiftRight(V16u(a), n)) & splat<V8u>(Tpx8u(n < 8 ? 0xFF >> n : 0));
+}
+
 inline V32s shiftLeft(V32s a, int n) { return V32s(_mm_sll_epi32(__m128i(a), _mm_cvtsi32_si128(n))); }
 // Arithmetic: a count past the lane's width leaves the sign.
 inline V32s shiftRight(V32s a, int n) { return V32s(_mm_sra_epi32(__m128i(a), _mm_cvtsi32_si128(n))); }

@@ -70,7 +70,8 @@ struct RoundedShift {
 
 // The same for signed lanes that have the room, which need not be taken apart; n up to a lane's width less 1.
 // Taking 1 off the negative ones makes their halves go down, away from zero. Lanes of 16 bits may have any
-// value: the smallest, from which nothing can be taken, has a whole quotient.
+// value: the smallest, from which nothing can be taken, has a whole quotient. In those of 32 the half comes
+// first, so that they may have the smallest, too.
 template <TpxRoundMode Mode, class V>
 requires(Mode != tpxRoundTowardZero &&
          std::is_signed_v<LaneOf<V>>) struct RoundedShift<Mode, V, Headroom::Half> {
@@ -83,7 +84,7 @@ requires(Mode != tpxRoundTowardZero &&
         if constexpr (sizeof(LaneOf<V>) == 2)
             return halvesUp(addSat(x, less));
         else
-            return halvesUp(x + less);
+            return shiftRight(x + halvesUp.half + less, halvesUp.n);
     }
 };
 

@@ -122,27 +122,25 @@ inline constexpr BitPlaces<T> kBitPlaces;
 // bytes and begin at bit `first`, from 0 to 7; the others are ignored.
 template <class T>
 struct LaneMask {
-    static constexpr int kHalves = sizeof(Vec<T>) / 16;
-    using Lane = std::conditional_t<sizeof(T) == 1, Tpx8u, std::conditional_t<sizeof(T) == 2, Tpx16u, Tpx32u>>;
-    using Lanes = Vec<Lane>;
+    using Lanes = Vec<std::conditional_t<sizeof(T) == 1, Tpx8u, Tpx16u>>;
+    V8u byte;
+    Lanes bit;
 
-    Several<V8u, kHalves> byte;
-    Several<Lanes, kHalves> bit;
+    explicit LaneMask(int first)
+        : byte(load(kBitPlaces<T>.byte[first])), bit(bitsAs<Lanes>(load(kBitPlaces<T>.bit[first]))) {}
+    auto operator()(V8u bytes) const { return (bitsAs<Lanes>(shuffleBytes(bytes, byte)) & bit) == bit; }
+};
+// Every lane has all the bits, and compares its own as a number, for which no register is taken apart.
+inline constexpr Tpx32s kLaneBits[15] = {1 << 0, 1 << 1, 1 << 2,  1 << 3,  1 << 4,  1 << 5,  1 << 6, 1 << 7,
+                                         1 << 8, 1 << 9, 1 << 10, 1 << 11, 1 << 12, 1 << 13, 1 << 14};
+template <>
+struct LaneMask<Tpx32f> {
+    B32f bit;
 
-    explicit LaneMask(int first) {
-        for (int k = 0; k < kHalves; k++) {
-            byte.at[k] = load(kBitPlaces<T>.byte[first] + k * 16);
-            bit.at[k] = bitsAs<Lanes>(load(kBitPlaces<T>.bit[first] + k * 16));
-        }
-    }
-    auto operator()(V8u bytes) const {
-        const auto half = [&](int k) {
-            return (bitsAs<Lanes>(shuffleBytes(bytes, byte.at[k])) & bit.at[k]) == bit.at[k];
-        };
-        if constexpr (kHalves == 1)
-            return half(0);
-        else
-            return join(Pair<V32s>{half(0), half(1)});
+    explicit LaneMask(int first) { __builtin_memcpy(&bit, kLaneBits + first, sizeof bit); }
+    B32f operator()(V8u bytes) const {
+        const B32f own = (B32f{} + bitsAs<V32s>(bytes)[0]) & bit;
+        return V32f(_mm256_cvtepi32_ps(bitsAs<__m256i>(own))) != V32f{};
     }
 };
 template <class T>

@@ -31,7 +31,7 @@ void checkRoundedShift(int n) {
     if (H == Headroom::Half && sizeof(T) == 4)
         std::erase_if(values, [&](T x) {
             const int64_t half = int64_t{1} << (n - 1);
-            return x - half < kMin<T> || x + half > kMax<T>;
+            return x + half > kMax<T>;
         });
     const RoundedShift<Mode, Vec<T>, H> shift(n);
     eachRegister(values, [&](Vec<T> x) {

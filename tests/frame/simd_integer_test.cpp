@@ -106,6 +106,7 @@ TEST(Simd, SaturatingSums) {
 }
 
 TEST(Simd, Shifts) {
+    checkShifts<Tpx8u>();
     checkShifts<Tpx16u>();
     checkShifts<Tpx32u>();
 }
