@@ -9,7 +9,8 @@ namespace tpx {
 
 // Gathers the pixels of rows. Small pixels are taken in groups that fill 8 bytes of the destination: where the
 // sources of a group lie within 16 bytes they are one load and one shuffle, prepared once for all rows; where
-// those of a half of it do, they are two.
+// those of a half of it do, they are two. Where all groups are alike, as in whole reductions, positions and
+// shuffles stay in registers.
 template <int Bytes>
 class PixelGather {
     static constexpr int kPixels = Bytes > 4 ? 0 : 8 / Bytes; // of a group
@@ -23,7 +24,7 @@ class PixelGather {
     const Tpx32s* index;
     int64_t width;
     int64_t shuffled = 0, pieces; // pixels before which shuffles, and then pieces, serve
-    bool inHalves = false;
+    bool inHalves = false, alike = false;
     Tpx8u* shuffles;
 
     // Whether the sources of so many pixels from the j-th on lie within a register.
@@ -47,6 +48,9 @@ class PixelGather {
             for (int k = 0; k < kPixels * Bytes; k++)
                 shuffle[k] = Tpx8u((at[k / Bytes] - at[k / Bytes / part * part]) * Bytes + k % Bytes);
         }
+        alike = inHalves && shuffled > kPixels;
+        for (int64_t j = kPixels; j < shuffled && alike; j++)
+            alike = index[j] - index[j - kPixels] == index[kPixels] - index[0];
     }
 
  public:
@@ -58,14 +62,17 @@ class PixelGather {
             while (pieces > shuffled && index[pieces - 1] == index[width - 1]) pieces--;
     }
 
-    void operator()(const Tpx8u* src, Tpx8u* dst) const {
+    // `next` is the row that will be gathered after this.
+    void operator()(const Tpx8u* src, Tpx8u* dst, const Tpx8u* next) const {
         // Kept apart from *this, which the compiler cannot tell from the destination.
         const Tpx32s* const at = index;
         const int64_t shufflesEnd = shuffled, piecesEnd = pieces, end = width;
         int64_t j = 0;
         if constexpr (kPixels > 0) {
             const Tpx8u* shuffle = shuffles;
-            if (kHasHalves && inHalves) {
+            if (alike) {
+                j = gatherAlike(src + int64_t(at[0]) * Bytes, dst, next + int64_t(at[0]) * Bytes);
+            } else if (kHasHalves && inHalves) {
                 for (; j < shufflesEnd; j += kPixels, shuffle += 8)
                     poke(reinterpret_cast<Tpx64s*>(dst + j * Bytes),
                          firstPiece(interleaveUnits<4, false>(half(src, at[j], shuffle),
@@ -87,6 +94,22 @@ class PixelGather {
     }
 
  private:
+    // All groups that are shuffled. Rows that are skipped keep the processor from fetching the next one by
+    // itself.
+    int64_t gatherAlike(const Tpx8u* src, Tpx8u* dst, const Tpx8u* next) const {
+        const V8u shuffle = loadFront<8>(shuffles);
+        const int64_t end = shuffled, step = int64_t(index[kPixels] - index[0]) * Bytes, ahead = next - src,
+                      half = int64_t(index[kPixels / 2] - index[0]) * Bytes;
+        const V8u nothing = splat<V8u>(0x80), low = interleaveUnits<4, false>(shuffle, nothing),
+                  high = interleaveUnits<4, false>(nothing, lanesBehind<4>(shuffle, nothing));
+        for (int64_t j = 0; j < end; j += kPixels, src += step) {
+            prefetch(src + ahead);
+            poke(reinterpret_cast<Tpx64s*>(dst + j * Bytes),
+                 firstPiece(shuffleBytes(load(src), low) | shuffleBytes(load(src + half), high)));
+        }
+        return end;
+    }
+
     // Four bytes of pixels, the first of which is the x-th.
     static V8u half(const Tpx8u* src, Tpx32s x, const Tpx8u* shuffle) {
         return shuffleBytes(load(src + int64_t(x) * Bytes),
@@ -104,7 +127,7 @@ template <int Bytes>
         if (i > 0 && index[i] == index[i - 1])
             __builtin_memcpy(dst, tile.dst.row(i - 1), size_t(tile.width) * Bytes);
         else
-            gather(tile.src.row(index[i]), dst);
+            gather(tile.src.row(index[i]), dst, tile.src.row(index[i + 1 < tile.height ? i + 1 : i]));
     }
 }
 
