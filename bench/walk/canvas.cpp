@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <new>
 #include <stdexcept>
 
@@ -18,7 +19,9 @@ size_t roundUp(size_t bytes, size_t unit) { return (bytes + unit - 1) / unit * u
 
 template <typename T>
 void repeatNoise(Tpx8u* to, size_t bytes, Range range) {
-    const std::vector<T> samples = noise<T>(range.low, range.high);
+    static std::map<std::pair<double, double>, std::vector<T>> made;
+    std::vector<T>& samples = made[{range.low, range.high}];
+    if (samples.empty()) samples = noise<T>(range.low, range.high);
     const size_t period = samples.size() * sizeof(T);
     for (size_t at = 0; at < bytes; at += period)
         std::memcpy(to + at, samples.data(), std::min(period, bytes - at));
