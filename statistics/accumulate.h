@@ -37,13 +37,21 @@ using StepOf = Several<typename Lanes::Register, Lanes::kRegisters>;
 template <class Lanes>
 inline constexpr ptrdiff_t kStepSamples = Lanes::kRegisters* kRegisterLanes<Lanes>;
 
+// A register at any address. A pointer to registers promises their alignment, which clang takes at its word;
+// and a copy of its bytes into an array goes through memory in halves when g++ makes it.
+template <class Register>
+inline Register registerAt(const void* p) {
+    typedef Register Anywhere __attribute__((aligned(1), may_alias));
+    return *static_cast<const Anywhere*>(p);
+}
+
 // ---- Steps of a run --------------------------------------------------------------------------------------
 
 template <class Lanes, class T>
 inline StepOf<Lanes> loadStep(const T* src) {
     StepOf<Lanes> x;
     for (int k = 0; k < Lanes::kRegisters; k++)
-        x.at[k] = peek(reinterpret_cast<const typename Lanes::Register*>(src + k * kRegisterLanes<Lanes>));
+        x.at[k] = registerAt<typename Lanes::Register>(src + k * kRegisterLanes<Lanes>);
     return x;
 }
 
@@ -71,7 +79,7 @@ inline StepOf<Lanes> loadLastStep(const T* src, ptrdiff_t len, ptrdiff_t taken) 
             for (auto& v : x.at) {
                 using Bits = std::conditional_t<sizeof v == 32, B32f, V8u>;
                 v = bitsAs<typename Lanes::Register>(
-                    bitsAs<Bits>(v) & peek(reinterpret_cast<const Bits*>(mask + (&v - x.at) * sizeof v)));
+                    bitsAs<Bits>(v) & registerAt<Bits>(mask + (&v - x.at) * ptrdiff_t(sizeof v)));
             }
         }
         return x;

@@ -110,7 +110,7 @@ inline ptrdiff_t findInRow(const T* row, ptrdiff_t pixels, int channel, T value)
     for (; i + N * L <= len; i += N * L) {
         Mask found{};
         for (ptrdiff_t k = 0; k < N; k++) {
-            const Mask here = peek(reinterpret_cast<const Mask*>(ofChannel + k * L));
+            const Mask here = registerAt<Mask>(ofChannel + k * L);
             found |= here & (load(row + i + k * L) == wanted);
         }
         if (any(found)) break;
