@@ -90,7 +90,7 @@ template <int G, bool First, class T, class... E>
     constexpr ptrdiff_t L = kLanes<T>;
     const auto foldColumns = [&](ptrdiff_t i) {
         Vec<T> x[G];
-        for (int g = 0; g < G; g++) x[g] = load(src.row(g) + i);
+        for (int g = 0; g < G; g++) x[g] = inRegister(load(src.row(g) + i)); // once for both sides
         const auto into = [&]<class S>(Extremes<T, S>& e) {
             Vec<T> folded = First ? noneOf<S, T>() : load(e.row + i);
             for (int g = 0; g < G; g++) folded = S::pick(x[g], folded);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/simd/doubles.h"
+#include "frame/simd/reductions.h"
 #include "frame/simd/through_real.h"
 #include "statistics/accumulate.h"
 
@@ -124,27 +125,6 @@ struct SumLanes<Tpx16u, 1, N> : SumsOf<Tpx16u, 1, Tpx64s, N> {
         steps = 0;
     }
 };
-template <int C, int N>
-struct SumLanes<Tpx16s, C, N> : SumsOf<Tpx16s, C, Tpx64s, N> {
-    static constexpr ptrdiff_t kSteps = 1 << 16; // a lane gets at most 2^15
-    V32s even[N] = {}, odd[N] = {};
-
-    void take(const Registers<Tpx16s, N>& x) {
-        const V16s first = {1, 0, 1, 0, 1, 0, 1, 0}, second = {0, 1, 0, 1, 0, 1, 0, 1};
-        for (int k = 0; k < N; k++) {
-            even[k] += multiplyAddPairs(x.at[k], first);
-            odd[k] += multiplyAddPairs(x.at[k], second);
-        }
-    }
-    void carry(Tpx64s* totals) {
-        for (int k = 0; k < N; k++) {
-            this->addLanes(totals, even[k], k * kLanes<Tpx16s>, 2);
-            this->addLanes(totals, odd[k], k * kLanes<Tpx16s> + 1, 2);
-            even[k] = odd[k] = V32s{};
-        }
-    }
-};
-
 // ---- Products of integers --------------------------------------------------------------------------------
 
 // The lower and the upper halves of products of 16-bit samples are samples to be added themselves.
@@ -181,6 +161,28 @@ inline Pair<V> neighbours(V a, V b) {
     const V8u x = bitsAs<V8u>(a), y = bitsAs<V8u>(b);
     return {bitsAs<V>(interleaveUnits<2, false>(x, y)), bitsAs<V>(interleaveUnits<2, true>(x, y))};
 }
+
+// Signed samples of several channels: three operations a register.
+template <int C, int N>
+struct SumLanes<Tpx16s, C, N> : SumsOf<Tpx16s, C, Tpx64s, kPairRegisters<C>> {
+    static constexpr int kPairs = kPairRegisters<C>, kSums = kPairs / 2; // a sum gets two registers a step
+    static constexpr ptrdiff_t kSteps = 1 << 14;                         // and a lane at most 2^16 of each
+    V32s sums[kSums] = {};
+
+    void take(const Registers<Tpx16s, kPairs>& x) {
+        for (int k = 0; k < kPairs / 2; k++) {
+            const Pair<V16s> a = neighbours<C>(x.at[k], x.at[k + kPairs / 2]);
+            sums[2 * k % kSums] += addPairs(a.low);
+            sums[(2 * k + 1) % kSums] += addPairs(a.high);
+        }
+    }
+    void carry(Tpx64s* totals) {
+        for (int m = 0; m < kSums; m++) {
+            this->addLanes(totals, sums[m], 4 * m, 1);
+            sums[m] = V32s{};
+        }
+    }
+};
 
 // Sums of products of pairs of signed 16-bit lanes, from five operations a register. Pairs lie above -2^31 and
 // reach 2^31, which wraps around in the register; less 1, none does.
@@ -342,7 +344,14 @@ struct RealLanes : SumsOf<T, C, Tpx64f, kStepRegisters<C>*(kWidened<T, Sum> ? 2 
         else if constexpr (std::is_same_v<Real, T>)
             return toDouble(Term::of(x...));
         else
-            return Term::of(toDouble(x)...);
+            return Term::of(widened(x)...);
+    }
+    template <class V>
+    static V64f widened(V x) {
+        if constexpr (std::is_same_v<V, V32u>)
+            return toDoubleByBits(x);
+        else
+            return toDouble(x);
     }
 };
 
@@ -366,12 +375,43 @@ template <class T, class Term, class Lanes>
 struct TermLanes : Lanes {
     using Sample = T;
     using Register = Vec<T>;
+    static constexpr int N = Lanes::kRegisters;
 
-    template <class... X>
-    void take(const X&... x) {
-        Registers<typename Lanes::Sample, Lanes::kRegisters> terms;
-        for (int k = 0; k < Lanes::kRegisters; k++) terms.at[k] = Term::of(x.at[k]...);
-        Lanes::take(terms);
+    void take(const Registers<T, N>& x) {
+        takeTerms([&](int k) { return Term::of(x.at[k]); });
+    }
+    // Of two sources the terms use each twice. g++ would load it as often, and loads are what limits them.
+    void take(const Registers<T, N>& x, const Registers<T, N>& y) {
+        takeTerms([&](int k) { return Term::of(inRegister(x.at[k]), inRegister(y.at[k])); });
+    }
+
+ private:
+    // One by one where the lanes take them so, which leaves registers for their sums.
+    template <class TermOf>
+    void takeTerms(TermOf termOf) {
+        if constexpr (requires { this->add(0, termOf(0)); }) {
+            for (int k = 0; k < N; k++) this->add(k, termOf(k));
+        } else {
+            Registers<typename Lanes::Sample, N> terms;
+            for (int k = 0; k < N; k++) terms.at[k] = termOf(k);
+            Lanes::take(terms);
+        }
+    }
+};
+
+// |x - y| of bytes of one channel, whose sums are an instruction.
+struct ByteDifferences : SumsOf<Tpx8u, 1, Tpx64s, 4> {
+    static constexpr ptrdiff_t kSteps = kEndless;
+    V64u sums[2] = {};
+
+    void take(const Registers<Tpx8u, 4>& x, const Registers<Tpx8u, 4>& y) {
+        for (int k = 0; k < 4; k++) sums[k % 2] += sumOfDifferences(x.at[k], y.at[k]);
+    }
+    void carry(Tpx64s* totals) {
+        for (V64u& sum : sums) {
+            addLanes(totals, sum, 0, 1);
+            sum = V64u{};
+        }
     }
 };
 

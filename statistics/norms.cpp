@@ -79,10 +79,12 @@ struct Inf : NormOf<T, C> {
 
 template <class T, int C, class Real = T>
 struct L1 : NormOf<T, C> {
-    using Lanes =
-        std::conditional_t<std::is_signed_v<T>, HalfLanes<Magnitudes<T>, C>, SumLanes<Magnitudes<T>, C>>;
-    using OfImage = SumAccumulator<TermLanes<T, Magnitude, Lanes>>;
-    using OfDifference = OfImage;
+    template <class Lanes>
+    using Magnified = SumAccumulator<TermLanes<T, Magnitude, Lanes>>;
+    using Halves = HalfLanes<Magnitudes<T>, C>;
+    using OfImage = Magnified<std::conditional_t<std::is_signed_v<T>, Halves, SumLanes<Magnitudes<T>, C>>>;
+    using OfDifference = std::conditional_t<std::is_same_v<T, Tpx8u> && C == 1, SumAccumulator<ByteDifferences>,
+                                            Magnified<Halves>>;
     static Tpx64f norm(Tpx64f sum) { return sum; }
 };
 template <int C, class Real>

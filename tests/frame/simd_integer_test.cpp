@@ -2,6 +2,7 @@
 // Integer operations against plain arithmetic.
 #include <gtest/gtest.h>
 
+#include "frame/simd/reductions.h"
 #include "frame/simd/simd.h"
 #include "tests/frame/simd_lanes.h"
 
@@ -182,5 +183,18 @@ TEST(Simd, PairsOfLanes) {
                 ASSERT_TRUE(low[2 * i] == a[i] && low[2 * i + 1] == other[i]);
                 ASSERT_TRUE(high[2 * i] == a[4 + i] && high[2 * i + 1] == other[4 + i]);
             }
+        });
+}
+
+TEST(Simd, SumOfDifferences) {
+    for (Tpx8u b : edgesOf<Tpx8u>())
+        eachRegister(allOf<Tpx8u>(), [&](V8u a) {
+            const V8u other = a * 7 + b;
+            Tpx64u sums[2] = {};
+            for (int i = 0; i < 16; i++)
+                sums[i / 8] += Tpx64u(a[i] > other[i] ? a[i] - other[i] : other[i] - a[i]);
+            const V64u got = sumOfDifferences(a, other);
+            ASSERT_EQ(got[0], sums[0]);
+            ASSERT_EQ(got[1], sums[1]);
         });
 }

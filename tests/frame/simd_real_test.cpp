@@ -2,7 +2,7 @@
 // Conversions to and from floating point, rounding, roots and sums.
 #include <gtest/gtest.h>
 
-#include "frame/simd/simd.h"
+#include "frame/simd/reductions.h"
 #include "tests/frame/simd_lanes.h"
 
 using namespace tpx;
@@ -15,7 +15,9 @@ TEST(Simd, FloatsAndIntegers) {
         const V32f floats = toFloat(pair);
         const V64f doubles = toDouble(low);
         for (int i = 0; i < 8; i++) ASSERT_EQ(floats[i], float(lane(pair, i))) << lane(pair, i);
+        const V64f byBits = toDoubleByBits(V32u(low));
         for (int i = 0; i < 4; i++) ASSERT_EQ(doubles[i], double(low[i]));
+        for (int i = 0; i < 4; i++) ASSERT_EQ(byBits[i], double(Tpx32u(low[i])));
         const V32s back = toInteger(doubles);
         for (int i = 0; i < 4; i++) ASSERT_EQ(back[i], low[i]);
         const Pair<V32s> apart = split(join(pair));
