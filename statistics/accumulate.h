@@ -92,11 +92,10 @@ inline StepOf<Lanes> loadLastStep(const T* src, ptrdiff_t len, ptrdiff_t taken) 
 }
 
 // Takes the samples of a run from each source. `room` counts the steps that are left until full() has to make
-// room in the lanes for kSteps more. The loop is a function by itself, and works on a copy of the lanes whose
-// address goes nowhere: so they stay in registers whatever is called around it.
+// room in the lanes for kSteps more. The loop works on a copy of the lanes whose address goes nowhere, so they
+// stay in registers whatever full() calls.
 template <class Lanes, class Full, class... Src>
-[[gnu::noinline]] void takeRun(Lanes& lanes, ptrdiff_t& room, const Full& full, ptrdiff_t len,
-                               const Src*... src) {
+inline void takeRun(Lanes& lanes, ptrdiff_t& room, const Full& full, ptrdiff_t len, const Src*... src) {
     constexpr ptrdiff_t kStep = kStepSamples<Lanes>;
     Lanes l = lanes;
     const auto spend = [&](ptrdiff_t steps) {
@@ -148,8 +147,9 @@ class SumAccumulator {
             __builtin_memcpy(reinterpret_cast<char*>(totals) + i, &zeros, sizeof zeros);
     }
 
+    // A function by itself: its code does not depend on what g++ makes of the row loop around it.
     template <class... Src>
-    void run(ptrdiff_t len, const Src*... src) {
+    [[gnu::noinline]] void run(ptrdiff_t len, const Src*... src) {
         takeRun(
             lanes, room, [this] { carry(); }, len, src...);
     }

@@ -38,9 +38,9 @@ TpxStatus bothExtremes(ImageView<const T> src, TpxiSizeL size, T* smallest, T* l
 
 // ---- Places ----------------------------------------------------------------------------------------------
 
-// Rows are passed in bands about as large as the first-level cache. A channel's band is the first in which its
+// Rows are passed in bands that stay in the first-level cache. A channel's band is the first in which its
 // best sample got better for the last time; the first such sample is then looked for in the band's rows.
-constexpr ptrdiff_t kBandBytes = 32768;
+constexpr ptrdiff_t kBandBytes = 16384;
 
 template <Layout L, class Side, class T>
 TpxStatus placeOfExtreme(ImageView<const T> src, TpxiSizeL size, T* values, int* xs, int* ys) {

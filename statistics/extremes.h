@@ -66,14 +66,10 @@ struct ExtremeLanes {
         for (int k = 0; k < kRegisters; k++) best[k] = Side::pick(x.at[k], best[k]);
     }
     T of(int channel) const {
-        constexpr int kLeft = C == 3 ? kRegisters : 1; // other registers hold the same channels
-        Vec<T> left[kLeft];
-        for (int k = 0; k < kLeft; k++) left[k] = best[k];
-        for (int k = kLeft; k < kRegisters; k++) left[0] = Side::pick(best[k], left[0]);
-        T samples[kLeft * kLanes<T>];
-        __builtin_memcpy(samples, left, sizeof samples);
+        T samples[kRegisters * kLanes<T>];
+        __builtin_memcpy(samples, best, sizeof samples);
         T extreme = samples[channel];
-        for (int i = channel; i < kLeft * kLanes<T>; i += C)
+        for (int i = channel; i < kRegisters * kLanes<T>; i += C)
             if (Side::better(samples[i], extreme)) extreme = samples[i];
         return extreme;
     }

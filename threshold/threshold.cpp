@@ -92,13 +92,9 @@ TpxStatus check(const Images<T>& images, const Arrays*... arrays) {
 
 // ---- Operations ------------------------------------------------------------------------------------------
 
-// A sample that is compared and kept is loaded once: g++ loads it for either, and these rules are short enough
-// to wait for loads.
 template <Layout L, class T, class Rule>
 TpxStatus map(const Images<T>& images, Rule rule) {
-    mapImageByChannel<L>(
-        samplesOf(images.roi, channelsOf(L)), [rule](auto x, int k) { return rule(inRegister(x), k); },
-        images.dst, images.src);
+    mapImageByChannel<L>(samplesOf(images.roi, channelsOf(L)), rule, images.dst, images.src);
     return tpxOk;
 }
 
@@ -112,7 +108,7 @@ template <Layout L, class Rule, class T>
 TpxStatus replaceSide(const Images<T>& images, const T* threshold, const T* value) {
     if (const TpxStatus status = check(images, threshold, value)) return status;
     return map<L>(images, [t = Constant<L, T>(threshold), v = Constant<L, T>(value)](auto x, int k) {
-        return Rule::replace(x, t[k], v[k]);
+        return Rule::replace(inRegister(x), t[k], v[k]); // g++ would load it to compare and to keep it
     });
 }
 
@@ -141,9 +137,10 @@ TpxStatus replaceBoth(const Images<T>& images, const T* thresholdLT, const T* va
     for (int c = 0; c < coloursOf(L); c++)
         if (thresholdGT[c] < thresholdLT[c]) return tpxErrThresholdBounds;
     using C = Constant<L, T>;
-    return map<L>(images,
-                  [low = C(thresholdLT), lowValue = C(valueLT), high = C(thresholdGT), highValue = C(valueGT)](
-                      auto x, int k) { return replaceOutside(x, low[k], lowValue[k], high[k], highValue[k]); });
+    return map<L>(images, [low = C(thresholdLT), lowValue = C(valueLT), high = C(thresholdGT),
+                           highValue = C(valueGT)](auto x, int k) {
+        return replaceOutside(inRegister(x), low[k], lowValue[k], high[k], highValue[k]);
+    });
 }
 
 } // namespace
