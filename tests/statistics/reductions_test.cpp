@@ -137,15 +137,11 @@ TYPED_TEST(Sums, SaturatedSamplesBeyondEveryLane) {
 
 TYPED_TEST(Sums, ExtremesAmongOthers) {
     using T = TypeParam;
-    if constexpr (sizeof(T) < 4)
-        for (int channels : {1, 3, 4}) {
-            GuardedImage<T> a(kBeyondLanes.width, kBeyondLanes.height, channels),
-                b(a.size().width, a.size().height, channels);
-            fillWithExtremes(a, 1), fillWithExtremes(b, 2);
-            for (const Form<T>& form : forms<T>())
-                if (form.channels == channels && !this->HasFatalFailure())
-                    check(form, View<T>(a), View<T>(b), a.size());
-        }
+    checkExtremesAmongOthers<T>([&](const GuardedImage<T>& a, const GuardedImage<T>& b, int channels) {
+        for (const Form<T>& form : forms<T>())
+            if (form.channels == channels && !this->HasFatalFailure())
+                check(form, View<T>(a), View<T>(b), a.size());
+    });
 }
 
 TEST(Sum, TenThousandSquareOf255) {

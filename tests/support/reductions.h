@@ -53,7 +53,18 @@ void fillWithExtremes(GuardedImage<T>& image, unsigned seed) {
         return choices[seed >> 29];
     });
 }
-inline constexpr TpxiSize kBeyondLanes = {1031, 600};
+// check(a, b, channels) on such images of short samples, with every number of channels.
+template <class T, class Check>
+void checkExtremesAmongOthers(Check check) {
+    constexpr TpxiSize kBeyondLanes = {1031, 600};
+    if constexpr (sizeof(T) < 4)
+        for (int channels : {1, 3, 4}) {
+            GuardedImage<T> a(kBeyondLanes.width, kBeyondLanes.height, channels),
+                b(kBeyondLanes.width, kBeyondLanes.height, channels);
+            fillWithExtremes(a, 1), fillWithExtremes(b, 2);
+            check(a, b, channels);
+        }
+}
 
 // Results have more room than a call has values for; the rest has to keep this.
 inline constexpr int kRoom = 5, kUnwritten = 77;
