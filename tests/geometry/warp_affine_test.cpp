@@ -80,17 +80,7 @@ class WarpAffine : public testing::Test {
     using T = typename Names::T;
 
     static void expectFits(const Job& job, unsigned turn) {
-        const Lie kLies[] = {{0, Edge::End, 0}, {24, Edge::Start, 1}, {8, Edge::End, 3}};
-        const WarpSource<T> src(job, kLies[turn % 3], turn);
-        GuardedImage<T> dst(job.dst.width, job.dst.height, job.channels, kLies[(turn + 1) % 3]);
-        dst.randomise(turn + 77);
-        GuardedImage<T> before(job.dst.width, job.dst.height, job.channels);
-        before.copySamplesFrom(dst);
-        const Plan<Names> plan(job, int(turn % 5));
-        const TpxStatus status =
-            plan.run(src.data(), src.step(), dst.data(), dst.step(), {0, 0, dst.width(), dst.height()});
-        ASSERT_TRUE(status == tpxOk || status == tpxWarnNoQuadOverlap) << status;
-        ASSERT_TRUE(fits(modelOf<T>(job), dst, before, src)) << "turn " << turn;
+        tpx::test::expectFits<Names>(job, modelOf<T>(job), turn);
     }
 };
 using AllTypes = testing::Types<Names8u, Names16u, Names16s, Names32f, Names64f>;
@@ -243,7 +233,6 @@ TYPED_TEST(WarpAffine, InversePairsRestorePlanes) {
 // ---- Tiles -----------------------------------------------------------------------------------------------
 
 TYPED_TEST(WarpAffine, TilesEqualOneCall) {
-    using T = typename TypeParam::T;
     std::mt19937 random(3);
     for (TpxInterpolationType kind : kKinds)
         for (TpxBorderType border : {tpxBorderTransparent, tpxBorderReplicate, tpxBorderConstant})
@@ -251,32 +240,7 @@ TYPED_TEST(WarpAffine, TilesEqualOneCall) {
                 if (smooth && border != tpxBorderTransparent) continue;
                 Job job{{61, 47}, {83, 90}, {}, 0, kind, border, smooth ? 1 : 3, 1 / 3.0, 1 / 3.0, smooth};
                 job.coeffs = turned(job.src, job.dst, 31, 1.3);
-                const Plan<TypeParam> plan(job);
-                GuardedImage<T> src(61, 47, job.channels), whole(83, 90, job.channels),
-                    tiled(83, 90, job.channels);
-                src.randomise(1);
-                whole.randomise(2);
-                tiled.copySamplesFrom(whole);
-                EXPECT_EQ(tpxOk, plan.run(src, whole));
-                for (int y = 0; y < 90;) {
-                    const int height = 1 + int(random() % 40);
-                    for (int x = 0; x < 83;) {
-                        const int width = 1 + int(random() % 50);
-                        T* const at = reinterpret_cast<T*>(reinterpret_cast<char*>(tiled.data()) +
-                                                           ptrdiff_t(y) * tiled.step()) +
-                                      x * job.channels;
-                        const TpxStatus status =
-                            plan.run(src.data(), src.step(), at, tiled.step(), {x, y, width, height});
-                        EXPECT_TRUE(status == tpxWarnNoQuadOverlap ||
-                                    status ==
-                                        (x + width > 83 || y + height > 90 ? tpxWarnValueAdjusted : tpxOk))
-                            << status;
-                        x += width;
-                    }
-                    y += height;
-                }
-                EXPECT_TRUE(matches(tiled, [&](int x, int y, int c) { return whole.at(x, y, c); }))
-                    << "kind " << kind << ", border " << border;
+                expectTilesEqualOneCall<TypeParam>(job, random);
             }
 }
 

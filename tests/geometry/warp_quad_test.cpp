@@ -143,18 +143,7 @@ class WarpQuad : public testing::Test {
     using T = typename Names::T;
 
     static void expectFits(const Job& job, unsigned turn) {
-        const Lie kLies[] = {{0, Edge::End, 0}, {24, Edge::Start, 1}, {8, Edge::End, 3}};
-        const WarpSource<T> src(job, kLies[turn % 3], turn);
-        GuardedImage<T> dst(job.dst.width, job.dst.height, job.channels, kLies[(turn + 1) % 3]);
-        dst.randomise(turn + 77);
-        GuardedImage<T> before(job.dst.width, job.dst.height, job.channels);
-        before.copySamplesFrom(dst);
-        const Plan<Names> plan(job, int(turn % 5));
-        ASSERT_TRUE(plan.status == tpxOk || plan.status == tpxWarnNoQuadOverlap) << plan.status;
-        const TpxStatus status =
-            plan.run(src.data(), src.step(), dst.data(), dst.step(), {0, 0, dst.width(), dst.height()});
-        ASSERT_TRUE(status == tpxOk || status == tpxWarnNoQuadOverlap) << status;
-        ASSERT_TRUE(fits(modelOf<T>(job), dst, before, src)) << "turn " << turn;
+        tpx::test::expectFits<Names>(job, modelOf<T>(job), turn);
     }
 };
 using AllTypes = testing::Types<Names8u, Names16s, Names32f>;
@@ -257,7 +246,6 @@ TEST(WarpQuadKinds, ParallelogramsAreAffine) {
 }
 
 TYPED_TEST(WarpQuad, TilesEqualOneCall) {
-    using T = typename TypeParam::T;
     std::mt19937 random(3);
     const Corners destinations[] = {{{{13.21, 8.13}, {80.37, 25.71}, {66.53, 79.91}, {11.17, 65.33}}},
                                     {{{14, 13}, {64, 23}, {79, 80}, {29, 70}}}};
@@ -270,29 +258,7 @@ TYPED_TEST(WarpQuad, TilesEqualOneCall) {
                     job.coeffs.src = {{{-5, 3}, {60, -6}, {63, 48}, {2, 40}}};
                     job.coeffs.dst = quad;
                     job.coeffs.first = {17, 12};
-                    const Plan<TypeParam> plan(job);
-                    GuardedImage<T> src(61, 47, job.channels), whole(83, 90, job.channels),
-                        tiled(83, 90, job.channels);
-                    src.randomise(1);
-                    whole.randomise(2);
-                    tiled.copySamplesFrom(whole);
-                    EXPECT_EQ(tpxOk, plan.run(src, whole));
-                    for (int y = 0; y < 90;) {
-                        const int height = std::min(90 - y, 1 + int(random() % 40));
-                        for (int x = 0; x < 83;) {
-                            const int width = std::min(83 - x, 1 + int(random() % 50));
-                            T* const at = reinterpret_cast<T*>(reinterpret_cast<char*>(tiled.data()) +
-                                                               ptrdiff_t(y) * tiled.step()) +
-                                          x * job.channels;
-                            const TpxStatus status =
-                                plan.run(src.data(), src.step(), at, tiled.step(), {x, y, width, height});
-                            EXPECT_TRUE(status == tpxWarnNoQuadOverlap || status == tpxOk) << status;
-                            x += width;
-                        }
-                        y += height;
-                    }
-                    EXPECT_TRUE(matches(tiled, [&](int x, int y, int c) { return whole.at(x, y, c); }))
-                        << "kind " << kind << ", border " << border << ", smooth " << smooth;
+                    expectTilesEqualOneCall<TypeParam>(job, random);
                 }
 }
 

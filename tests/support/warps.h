@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <random>
 
 #include "models/warp.h"
 #include "tests/support/checks.h"
@@ -276,5 +277,54 @@ struct WarpPart {
     // Pixels outside a rectangle's image stay as they were.
     static TpxBorderType border(TpxBorderType given) { return (given & ~15u) | tpxBorderTransparent; }
 };
+
+// ---- Whole destinations and tiles ------------------------------------------------------------------------
+
+// One call beside the model, at places and addresses that change with the turn.
+template <class Names, class Model>
+void expectFits(const typename Names::Job& job, const Model& model, unsigned turn) {
+    using T = typename Names::T;
+    const Lie kLies[] = {{0, Edge::End, 0}, {24, Edge::Start, 1}, {8, Edge::End, 3}};
+    const WarpSource<T> src(job, kLies[turn % 3], turn);
+    GuardedImage<T> dst(job.dst.width, job.dst.height, job.channels, kLies[(turn + 1) % 3]);
+    dst.randomise(turn + 77);
+    GuardedImage<T> before(job.dst.width, job.dst.height, job.channels);
+    before.copySamplesFrom(dst);
+    const WarpPlan<Names> plan(job, int(turn % 5));
+    ASSERT_TRUE(plan.status == tpxOk || plan.status == tpxWarnNoQuadOverlap) << plan.status;
+    const TpxStatus status =
+        plan.run(src.data(), src.step(), dst.data(), dst.step(), {0, 0, dst.width(), dst.height()});
+    ASSERT_TRUE(status == tpxOk || status == tpxWarnNoQuadOverlap) << status;
+    ASSERT_TRUE(fits(model, dst, before, src)) << "turn " << turn;
+}
+
+// Tiles of any sizes, the last ones running past the destination, are the bytes of one call.
+template <class Names>
+void expectTilesEqualOneCall(const typename Names::Job& job, std::mt19937& random) {
+    using T = typename Names::T;
+    const auto [width, height] = job.dst;
+    const WarpPlan<Names> plan(job);
+    GuardedImage<T> src(job.src.width, job.src.height, job.channels), whole(width, height, job.channels),
+        tiled(width, height, job.channels);
+    src.randomise(1);
+    whole.randomise(2);
+    tiled.copySamplesFrom(whole);
+    EXPECT_EQ(tpxOk, plan.run(src, whole));
+    for (int y = 0, rows; y < height; y += rows) {
+        rows = 1 + int(random() % 40);
+        for (int x = 0, columns; x < width; x += columns) {
+            columns = 1 + int(random() % 50);
+            T* const at =
+                reinterpret_cast<T*>(reinterpret_cast<char*>(tiled.data()) + ptrdiff_t(y) * tiled.step()) +
+                x * job.channels;
+            const TpxStatus status = plan.run(src.data(), src.step(), at, tiled.step(), {x, y, columns, rows});
+            const bool isCut = x + columns > width || y + rows > height;
+            EXPECT_TRUE(status == tpxWarnNoQuadOverlap || status == (isCut ? tpxWarnValueAdjusted : tpxOk))
+                << status;
+        }
+    }
+    EXPECT_TRUE(matches(tiled, [&](int x, int y, int c) { return whole.at(x, y, c); }))
+        << "kind " << job.kind << ", border " << job.border << ", smooth " << job.smoothEdge;
+}
 
 } // namespace tpx::test
