@@ -117,12 +117,14 @@ TpxStatus binary(const BinaryImages<T>& a, TpxiSize roi, int n = 0) {
 }
 
 // A 64-bit call fits the short form if every step and the image's bytes have a magnitude below 2^31 - 1.
-// Products wrap.
+// Products wrap, so that sizes may be cut; what is below 1 must stay so, since nothing was handed over then.
 template <class T>
 inline bool fitsShortForm(const BinaryImages<T>& a, TpxiSizeL roi, int channels) {
     const auto small = [](TpxSizeL x) { return x < 0x7FFFFFFF && x > -0x7FFFFFFF; };
     const uint64_t bytes = uint64_t(roi.width) * uint64_t(roi.height) * uint64_t(channels) * sizeof(T);
-    return small(a.src1.step) && small(a.src2.step) && small(a.dst.step) && small(TpxSizeL(bytes));
+    const auto keepsSign = [](TpxSizeL x) { return x > 0 || x == int(x); };
+    return small(a.src1.step) && small(a.src2.step) && small(a.dst.step) && small(TpxSizeL(bytes)) &&
+           keepsSign(roi.width) && keepsSign(roi.height);
 }
 
 // The pixels of the chunks into which the rows of larger calls are cut.

@@ -288,7 +288,7 @@ TPX_API TpxStatus
  * _L: sizes and steps of 64 bits. A call whose steps and bytes are below 2^31 - 1 in magnitude has the
  * statuses of the short form. A larger one: tpxOk for a width or height below 1, whatever the pointers;
  * tpxErrNullPointer; tpxOk. The bytes of the image are counted in 64 bits: from 2^63 on the count wraps, and
- * sizes whose wrapped count is small are taken for those of a short call, cut to 32 bits.
+ * sizes from 1 on whose wrapped count is small are taken for those of a short call, cut to 32 bits.
  *
  * @param pSrc1       first pixel of the first source
  * @param src1Step    bytes from one of its rows to the next

@@ -200,6 +200,19 @@ TEST(BinaryLarge, StepsBeyondTheShortForm) {
     largeCalls<Tpx32f>();
 }
 
+// The bytes of such sizes wrap to few, and their low 32 bits are sizes of pixels.
+TEST(BinaryLarge, SizesBelowOneStaySo) {
+    constexpr TpxSizeL low = std::numeric_limits<TpxSizeL>::min();
+    for (const TpxiSizeL size : {TpxiSizeL{18, low + 63}, {low + 18, 34}}) {
+        Tpx32f floats = 1;
+        Tpx16s shorts = 1;
+        EXPECT_EQ(tpxiSub_32f_AC4IR_L(&floats, 0, &floats, 0, size), tpxOk);
+        EXPECT_EQ(tpxiAdd_16s_C4IRSfs_L(&shorts, 0, &shorts, 0, size, 0), tpxOk);
+        EXPECT_EQ(floats, 1);
+        EXPECT_EQ(shorts, 1);
+    }
+}
+
 // Rows of several chunks, with steps of 0 so that all rows are the same memory.
 TEST(BinaryLarge, RowsOfSeveralChunks) {
     constexpr TpxSizeL width = 0x40000000 + 5; // one chunk of 8 bits is 0x3FFFFFFF
