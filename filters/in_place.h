@@ -79,12 +79,13 @@ class ExtendedRows {
 template <int N, class T, class Kernel>
 void inBands(const FilterCall<T, T>& call, BorderWord readable, bool byStrips, int64_t capacity,
              Kernel& kernel) {
-    constexpr int64_t kBandBytes = 65536; // that stay in the caches
+    constexpr int64_t kBandBytes = 65536; // that stay in the caches; a row may have more
     const Reach reach = reachOf(call.mask);
     ExtendedRows<N, T> rows(call, readable);
     const bool goesOn = capacity > call.mask.height;
     const int64_t kept = call.mask.height - !goesOn, most = capacity - kept,
-                  large = maxOf(4 * kept, kBandBytes / rows.step()), band = minOf(most, large);
+                  large = maxOf(4 * kept, kBandBytes / rows.step()),
+                  band = maxOf(minOf(most, large), int64_t(1));
     // Regions are those of the other mechanism, since what a kernel keeps may show in its results.
     const auto region = [&](int64_t from, int64_t end) {
         for (int64_t y = from, count; y < end; y += count) {

@@ -204,14 +204,25 @@ struct Args {
 
 // Sums of floats are rounded on their way down a column. In place they are the same sums, at the sides too.
 TEST(Box, FloatsInPlaceAreThoseOutOfPlace) {
+    struct Case {
+        TpxiSize size;
+        FilterMask mask;
+    };
+    const TpxiSize tall = {60, 700}, wide = {17000, 3}; // rows that are longer than the bands of others
     for (const Form<Tpx32f>& form : forms<Tpx32f>())
-        for (const FilterMask mask : {FilterMask{7, 9}, {3, 6}, {16, 14}, {21, 40}}) {
-            FilterSource<Tpx32f> src(60, 700, form.channels, mask, tpxBorderMirror, {}, 1);
+        for (const auto& [size, mask] : {Case{tall, {7, 9}},
+                                         {tall, {3, 6}},
+                                         {tall, {16, 14}},
+                                         {tall, {21, 40}},
+                                         {wide, {1, 1}},
+                                         {wide, {3, 1}},
+                                         {wide, {1, 2}}}) {
+            FilterSource<Tpx32f> src(size.width, size.height, form.channels, mask, tpxBorderMirror, {}, 1);
             src.image().fill([](int x, int y, int k) {
                 return float((x * 7919 + y * 104729 + k * 31) % 10007) * (y % 50 == 0 ? 1e5f : 0.1f);
             });
-            const TpxiSize size = src.size(), maskSize = {mask.width, mask.height};
-            GuardedImage<Tpx32f> dst(60, 700, form.channels);
+            const TpxiSize maskSize = {mask.width, mask.height};
+            GuardedImage<Tpx32f> dst(size.width, size.height, form.channels);
             dst.copySamplesFrom(src.image()); // for alpha
             int bytes = 0;
             ASSERT_EQ(tpxiFilterBoxBorderGetBufferSize(size, maskSize, tpxDataType32f, form.channels, &bytes),
