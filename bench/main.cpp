@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // tpx_bench: runs every race, prints the table, and writes it and a picture to files.
 #include "families.h"
+#include "frame/opencv.h"
 #include "geometry/yardsticks.h"
 #include "picture.h"
 #include "table.h"
@@ -148,6 +149,10 @@ int run(int argc, char** argv) {
     addSuperResizes();
     addWarps();
     addFouriers();
+    for (const std::string& jobs : strayOpencv(functions())) {
+        std::cerr << "no function is called " << jobs << "\n";
+        return EXIT_FAILURE;
+    }
     Progress progress;
     benchmark::RunSpecifiedBenchmarks(&progress);
     benchmark::Shutdown();

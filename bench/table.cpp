@@ -159,7 +159,7 @@ void writeTable(std::ostream& out, Style style, const Facts& facts, const std::v
 }
 
 void writeSummary(std::ostream& out, const Facts& facts, const std::vector<Row>& rows) {
-    const std::vector<std::string> others = {kCopy, kScalar, "zimg", "libyuv", "FFTW"};
+    const std::vector<std::string> others = {kCopy, kScalar, "zimg", "libyuv", "OpenCV", "FFTW"};
     std::vector<Cells> lines = {{"Function", "Size", "Call"}};
     for (const std::string& name : others) lines.front().push_back("x " + name);
     for (const Chosen& chosen : kSummary)

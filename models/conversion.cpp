@@ -57,13 +57,16 @@ void packBits(const T* src, Tpx8u* dst, size_t length, T threshold) {
     template void unpackBits(const Tpx8u*, T*, size_t, T, T); \
     template void packBits(const T*, Tpx8u*, size_t, T);
 INTEGER(Tpx8u, Tpx16s)
+INTEGER(Tpx8u, Tpx16u)
 INTEGER(Tpx8u, Tpx32s)
 INTEGER(Tpx8u, Tpx32f)
 INTEGER(Tpx16s, Tpx32f)
+INTEGER(Tpx16u, Tpx32f)
 INTEGER(Tpx32u, Tpx32f)
 INTEGER(Tpx16u, Tpx8u)
 INTEGER(Tpx32s, Tpx8u)
 ROUNDED(Tpx32f, Tpx8u)
+ROUNDED(Tpx32f, Tpx16u)
 ROUNDED(Tpx32f, Tpx16s)
 ROUNDED(Tpx32f, Tpx32u)
 ROUNDED(Tpx64f, Tpx16u)

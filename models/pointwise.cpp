@@ -197,8 +197,6 @@ void thresholdLtValGtVal(const T* src, T* dst, size_t length, const Thresholds<T
     template void copy(const T*, T*, size_t);          \
     template void copyKeepAlpha(const T*, T*, size_t); \
     template void set(const T*, size_t, T*, size_t);   \
-    CHANNELS(T)
-#define CHANNELS(T) \
     template void moveChannels(const T* const*, ptrdiff_t, T* const*, ptrdiff_t, size_t, const Tpx8u*, size_t);
 #define ROOTS(T, Real)                                      \
     template void sqrt<T, Real>(const T*, T*, size_t, int); \
@@ -220,9 +218,9 @@ void thresholdLtValGtVal(const T* src, T* dst, size_t length, const Thresholds<T
     template void thresholdLtVal(const T*, T*, size_t, const Thresholds<T>&); \
     template void thresholdLtValGtVal(const T*, T*, size_t, const Thresholds<T>&);
 MOVING(Tpx8u)
+MOVING(Tpx16u)
 MOVING(Tpx16s)
 MOVING(Tpx32f)
-CHANNELS(Tpx16u)
 UNARY(Tpx8u)
 UNARY(Tpx16u)
 UNARY(Tpx16s)

@@ -28,7 +28,8 @@ using ScalarFilter = std::function<void(const S*, ptrdiff_t, D*, ptrdiff_t, Tpxi
 using BufferBytes = std::function<int(TpxiSize)>;
 
 template <typename S, typename D>
-void addFilter(const FilterRace& what, Filter<S, D> ours, BufferBytes bufferBytes, ScalarFilter<S, D> scalar) {
+void addFilter(const FilterRace& what, Filter<S, D> ours, BufferBytes bufferBytes, ScalarFilter<S, D> scalar,
+               Operands constants = {}) {
     for (const TpxiSize size : sizes(what.sizes, what.channels * sizeof(D))) {
         const double samples = static_cast<double>(size.width) * size.height * what.channels;
         addJob({what.group, what.function, text(size), samples, samples * (sizeof(S) + sizeof(D))}, [=] {
@@ -62,9 +63,13 @@ void addFilter(const FilterRace& what, Filter<S, D> ours, BufferBytes bufferByte
             check(runOurs());
             runScalar();
             checkSame(i->dst, i->expected, what.tolerance);
-            return std::vector<Contender>{{kOurs, [=] { runOurs(); }},
-                                          {kCopy, [=] { copyImage(i->other, i->dst); }},
-                                          {kScalar, runScalar}};
+            std::vector<Contender> list = {{kOurs, [=] { runOurs(); }},
+                                           {kCopy, [=] { copyImage(i->other, i->dst); }},
+                                           {kScalar, runScalar}};
+            Operands from = constants;
+            from.insert(from.begin(), i->src);
+            joinOpencv(list, what.function, from, {i->dst});
+            return list;
         });
     }
 }

@@ -27,13 +27,6 @@ template <typename S, typename D>
 using FixedMask = TpxStatus (*)(const S*, int, D*, int, TpxiSize, int, TpxBorderType, S, Tpx8u*);
 using SizeCall = TpxStatus (*)(TpxiSize, int, TpxDataType, TpxDataType, int, int*);
 
-template <typename T>
-constexpr TpxDataType typeOf() {
-    return std::is_same_v<T, Tpx8u>    ? tpxDataType8u
-           : std::is_same_v<T, Tpx16s> ? tpxDataType16s
-                                       : tpxDataType32f;
-}
-
 template <typename S, typename D>
 void add(const char* function, FixedMask<S, D> filter, SizeCall bufferSize, int channels, int mask,
          Weights weights, float scale, Sizes sizes) {
@@ -54,7 +47,7 @@ void add(const char* function, FixedMask<S, D> filter, SizeCall bufferSize, int 
         },
         [=](TpxiSize size) {
             int bytes = 0;
-            check(bufferSize(size, mask, typeOf<S>(), typeOf<D>(), channels, &bytes));
+            check(bufferSize(size, mask, kTypeOf<S>, kTypeOf<D>, channels, &bytes));
             return bytes;
         },
         [=](const S* src, ptrdiff_t srcStep, D* dst, ptrdiff_t dstStep, TpxiSize size) {

@@ -21,14 +21,6 @@ std::vector<int> binomial(int side, int times) {
 }
 
 template <typename T>
-constexpr TpxDataType typeOf() {
-    return std::is_same_v<T, Tpx8u>    ? tpxDataType8u
-           : std::is_same_v<T, Tpx16u> ? tpxDataType16u
-           : std::is_same_v<T, Tpx16s> ? tpxDataType16s
-                                       : tpxDataType32f;
-}
-
-template <typename T>
 using General = TpxStatus (*)(const T*, int, T*, int, TpxiSize, TpxBorderType, const T*,
                               const TpxiFilterBorderBlock*, Tpx8u*);
 
@@ -40,20 +32,20 @@ void add(const char* function, General<T> filter, int channels, int side, bool f
     const TpxiSize kernel = {side, side};
     const auto bytesOf = [=](TpxiSize size, bool ofBlock) {
         int block = 0, buffer = 0;
-        check(tpxiFilterBorderGetSize(kernel, size, typeOf<T>(), floats ? tpxDataType32f : tpxDataType16s,
+        check(tpxiFilterBorderGetSize(kernel, size, kTypeOf<T>, floats ? tpxDataType32f : tpxDataType16s,
                                       channels, &block, &buffer));
         return ofBlock ? block : buffer;
     };
     const auto block = std::make_shared<std::vector<Tpx8u>>(size_t(bytesOf({64, 64}, true)));
     const auto spec = reinterpret_cast<TpxiFilterBorderBlock*>(block->data());
+    std::vector<Tpx32f> k;
+    for (int w : weights) k.push_back(float(w) / float(sum));
     if (floats) {
-        std::vector<Tpx32f> k;
-        for (int w : weights) k.push_back(float(w) / float(sum));
-        check(tpxiFilterBorderInit_32f(k.data(), kernel, typeOf<T>(), channels, tpxRoundNearestEven, spec));
+        check(tpxiFilterBorderInit_32f(k.data(), kernel, kTypeOf<T>, channels, tpxRoundNearestEven, spec));
     } else {
-        const std::vector<Tpx16s> k(weights.begin(), weights.end());
-        check(
-            tpxiFilterBorderInit_16s(k.data(), kernel, sum, typeOf<T>(), channels, tpxRoundNearestEven, spec));
+        const std::vector<Tpx16s> integers(weights.begin(), weights.end());
+        check(tpxiFilterBorderInit_16s(integers.data(), kernel, sum, kTypeOf<T>, channels, tpxRoundNearestEven,
+                                       spec));
     }
     addFilter<T, T>(
         {.group = "General filter",
@@ -74,7 +66,8 @@ void add(const char* function, General<T> filter, int channels, int side, bool f
         [=](const T* src, ptrdiff_t srcStep, T* dst, ptrdiff_t dstStep, TpxiSize size) {
             tpx::model::correlate(src, srcStep, dst, dstStep, size, channels, weights.data(), side,
                                   1 / float(sum));
-        });
+        },
+        {Operand(k, side)});
 }
 
 } // namespace

@@ -13,11 +13,20 @@
 #include <type_traits>
 #include <vector>
 
+#include "tpxcore.h"
+
 namespace bench {
 
 inline std::string text(TpxiSize size) {
     return std::to_string(size.width) + "x" + std::to_string(size.height);
 }
+
+template <typename T>
+inline constexpr TpxDataType kTypeOf = std::is_same_v<T, Tpx8u>    ? tpxDataType8u
+                                       : std::is_same_v<T, Tpx16u> ? tpxDataType16u
+                                       : std::is_same_v<T, Tpx16s> ? tpxDataType16s
+                                       : std::is_same_v<T, Tpx32f> ? tpxDataType32f
+                                                                   : tpxDataType64f;
 
 // A period of noise in low..high, a prime number of samples.
 template <typename T>
@@ -75,6 +84,14 @@ class Image {
     int step_ = 0;
     Tpx8u* data_ = nullptr;
 };
+
+// Of an image that is larger than the largest cache that the processor tells.
+inline double beyondCacheBytes() {
+    constexpr int kLeast = 256 << 20, kMost = 1 << 30;
+    int cache = 0;
+    tpxGetMaxCacheSizeB(&cache);
+    return std::clamp(cache / 100 * 105, kLeast, kMost);
+}
 
 // The copy that everything is held against: the same bytes with the same steps, in one piece where rows are.
 template <typename T>

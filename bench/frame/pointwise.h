@@ -3,13 +3,12 @@
 #pragma once
 
 #include "image.h"
+#include "opencv.h"
 #include "race.h"
 
 #include <algorithm>
 #include <memory>
 #include <stdexcept>
-
-#include "tpxcore.h"
 
 namespace bench {
 
@@ -27,13 +26,6 @@ void checkSame(const Image<T>& got, const Image<T>& expected, double tolerance) 
 // is beyond the largest cache that the processor tells. Slow functions are compute-bound at every size, and
 // leave the last one out. Variants, in other types and layouts, run at the middle sizes.
 enum class Sizes { all, withinCache, middle };
-
-inline double beyondCacheBytes() {
-    constexpr int kLeast = 256 << 20, kMost = 1 << 30;
-    int cache = 0;
-    tpxGetMaxCacheSizeB(&cache);
-    return std::clamp(cache / 100 * 105, kLeast, kMost);
-}
 
 inline std::vector<TpxiSize> sizes(Sizes which, size_t pixelBytes) {
     std::vector<TpxiSize> list = {{640, 480}, {1920, 1080}};
@@ -55,7 +47,8 @@ struct Pointwise {
 };
 
 // `ours` is called with (source, its step, destination, its step, size in pixels), `scalar` with (source,
-// destination, number of samples) for each row. Further contenders get (source image, destination image).
+// destination, number of samples) for each row. Further contenders get (source image, destination image);
+// OpenCV also gets the constants.
 template <typename T>
 using Process = std::function<TpxStatus(const T*, int, T*, int, TpxiSize)>;
 template <typename T>
@@ -68,7 +61,7 @@ struct Other {
 
 template <typename T>
 void addPointwise(const Pointwise& what, Process<T> ours, ScalarRow<T> scalar,
-                  std::vector<Other<T>> others = {}) {
+                  std::vector<Other<T>> others = {}, Operands constants = {}) {
     for (const TpxiSize size : sizes(what.sizes, what.channels * sizeof(T))) {
         const double samples = static_cast<double>(size.width) * size.height * what.channels;
         const Job job{what.group, what.function, text(size), samples,
@@ -91,6 +84,9 @@ void addPointwise(const Pointwise& what, Process<T> ours, ScalarRow<T> scalar,
             std::vector<Contender> list = {
                 {kOurs, [=] { runOurs(*dst); }}, {kCopy, [=] { copyImage(*src, *dst); }}, {kScalar, runScalar}};
             for (const auto& other : others) list.push_back({other.name, [=] { other.run(*src, *dst); }});
+            Operands from = constants;
+            from.insert(from.begin(), *src);
+            joinOpencv(list, what.function, from, {*dst});
             return list;
         });
     }
@@ -129,8 +125,10 @@ void addCombining(const Pointwise& what, Combine<T> ours, ScalarCombine<T> scala
                 copyImage(*src1, *dst);
                 copyRows(*src2, *dst, size.height / 2);
             };
-            return std::vector<Contender>{
+            std::vector<Contender> list = {
                 {kOurs, [=] { runOurs(*dst); }}, {kCopy, runCopy}, {kScalar, runScalar}};
+            joinOpencv(list, what.function, {*src1, *src2}, {*dst});
+            return list;
         });
     }
 }

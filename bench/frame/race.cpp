@@ -21,6 +21,7 @@ constexpr double kSlow = 8; // times as long as ours: such contenders have no mo
 constexpr size_t kMaxRounds = 201;
 
 std::vector<Row> done;
+std::vector<std::string> registered;
 
 struct Lane {
     const Contender* contender;
@@ -69,6 +70,7 @@ const Time* Row::find(const std::string& name) const {
 
 void addJob(Job job, std::function<std::vector<Contender>()> prepare) {
     const std::string name = job.function + "/" + job.size;
+    if (registered.empty() || registered.back() != job.function) registered.push_back(job.function);
     benchmark::RegisterBenchmark(name.c_str(),
                                  [job = std::move(job), prepare = std::move(prepare)](benchmark::State& state) {
                                      for (auto _ : state) try {
@@ -88,6 +90,7 @@ void addJob(Job job, std::function<std::vector<Contender>()> prepare) {
         ->Unit(benchmark::kMicrosecond);
 }
 
+const std::vector<std::string>& functions() { return registered; }
 const std::vector<Row>& rows() { return done; }
 
 } // namespace bench

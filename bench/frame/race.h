@@ -49,6 +49,9 @@ struct Row {
 // reported as the failure of this job alone.
 void addJob(Job job, std::function<std::vector<Contender>()> prepare);
 
+// The functions of all that is registered, once each.
+const std::vector<std::string>& functions();
+
 // The jobs done so far.
 const std::vector<Row>& rows();
 

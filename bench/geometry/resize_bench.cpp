@@ -8,10 +8,9 @@
 namespace bench {
 namespace {
 
-constexpr std::pair<TpxiSize, TpxiSize> kScalings[] = {{{64, 64}, {96, 96}},
-                                                       {{1920, 1080}, {1280, 720}},
-                                                       {{640, 480}, {1600, 1200}},
-                                                       {{4096, 3072}, {2560, 1920}}};
+constexpr std::pair<TpxiSize, TpxiSize> kScalings[] = {
+    {{64, 64}, {96, 96}},       {{1920, 1080}, {1280, 720}}, {{1920, 1080}, {640, 360}},
+    {{640, 480}, {1600, 1200}}, {{640, 480}, {317, 239}},    {{4096, 3072}, {2560, 1920}}};
 
 // What the families need from the typed calls around a resize.
 template <typename T>
@@ -141,6 +140,7 @@ void addResize(Kind kind, const char* name, F function, int channels, bool antia
                                            {kCopy, [=] { copyImage(resize->other, resize->dst); }},
                                            {kScalar, [=] { scalar(resize->src, resize->dst); }}};
             for (Contender& other : yardsticks(s)) list.push_back(std::move(other));
+            joinOpencv(list, name, {resize->src}, {resize->dst});
             return list;
         });
     }
@@ -173,6 +173,7 @@ void addResizes() {
     NEAREST(Tpx8u, 8u_C1R, 1);
     NEAREST(Tpx8u, 8u_C3R, 3);
     NEAREST(Tpx8u, 8u_C4R, 4);
+    NEAREST(Tpx16u, 16u_C1R, 1);
     NEAREST(Tpx32f, 32f_C1R, 1);
     CUBIC(Tpx8u, 8u_C1R, 1);
     CUBIC(Tpx8u, 8u_C3R, 3);

@@ -56,6 +56,7 @@ void addSuper(const char* name, Super<T> function, TpxDataType type, int channel
                                            {kCopy, [=] { copyImage(*other, *dst); }},
                                            {kScalar, [=] { scalar(*dst); }}};
             for (Contender& yardstick : yardsticks(s)) list.push_back(std::move(yardstick));
+            joinOpencv(list, name, {*src}, {*dst});
             return list;
         });
     }

@@ -14,12 +14,6 @@ namespace {
 template <typename T>
 using Warp = TpxStatus (*)(const T*, int, T*, int, TpxiPoint, TpxiSize, const TpxiWarpSpec*, Tpx8u*);
 
-template <typename T>
-constexpr TpxDataType kType = std::is_same_v<T, Tpx8u>    ? tpxDataType8u
-                              : std::is_same_v<T, Tpx16u> ? tpxDataType16u
-                              : std::is_same_v<T, Tpx32f> ? tpxDataType32f
-                                                          : tpxDataType64f;
-
 // A picture turned about its middle, from the destination to the source. Quarter turns are exact: positions on
 // the image's edge would else be inside or outside by their rounding.
 tpx::model::AffineWarp rotation(TpxiSize size, double degrees, TpxInterpolationType interpolation) {
@@ -85,15 +79,28 @@ std::vector<Tpx8u> planOf(const tpx::model::PerspectiveWarp& warp, TpxDataType t
     return plan;
 }
 
+// By rows, as OpenCV has it.
+std::vector<double> matrixOf(const tpx::model::AffineWarp& warp) {
+    std::vector<double> matrix;
+    for (const auto& row : warp.toSource) matrix.insert(matrix.end(), std::begin(row), std::end(row));
+    return matrix;
+}
+std::vector<double> matrixOf(const tpx::model::PerspectiveWarp& warp) {
+    std::vector<double> matrix = matrixOf(static_cast<const tpx::model::AffineWarp&>(warp));
+    matrix.insert(matrix.end(), std::begin(warp.divisor), std::end(warp.divisor));
+    return matrix;
+}
+
 template <typename T, typename MakeWarp>
 void addWarp(const char* name, Warp<T> function, TpxInterpolationType interpolation, int channels,
              double degrees, MakeWarp makeWarp) {
     for (const TpxiSize size : {TpxiSize{640, 480}, TpxiSize{1920, 1080}}) {
         const double samples = static_cast<double>(size.width) * size.height * channels;
         const std::string angle = std::to_string(static_cast<int>(degrees)) + " degrees";
-        addJob({"Warp", std::string(name) + ", " + angle, text(size), samples, samples * sizeof(T) * 2}, [=] {
+        const std::string whole = std::string(name) + ", " + angle;
+        addJob({"Warp", whole, text(size), samples, samples * sizeof(T) * 2}, [=] {
             const auto warp = makeWarp(size, degrees, interpolation);
-            const auto plan = std::make_shared<std::vector<Tpx8u>>(planOf(warp, kType<T>, channels));
+            const auto plan = std::make_shared<std::vector<Tpx8u>>(planOf(warp, kTypeOf<T>, channels));
             int bytes = 0;
             check(tpxiWarpGetBufferSize(reinterpret_cast<const TpxiWarpSpec*>(plan->data()), size, &bytes));
             const auto buffer = std::make_shared<std::vector<Tpx8u>>(bytes);
@@ -116,9 +123,11 @@ void addWarp(const char* name, Warp<T> function, TpxInterpolationType interpolat
                       interpolation == tpxInterpolationNearest ? 0
                       : std::is_integral_v<T>                  ? 1
                                                                : 1e-5);
-            return std::vector<Contender>{{kOurs, [=] { ours(); }},
-                                          {kCopy, [=] { copyImage(*src, *dst); }},
-                                          {kScalar, [=] { scalar(*dst); }}};
+            std::vector<Contender> list = {{kOurs, [=] { ours(); }},
+                                           {kCopy, [=] { copyImage(*src, *dst); }},
+                                           {kScalar, [=] { scalar(*dst); }}};
+            joinOpencv(list, whole, {*src, Operand(matrixOf(warp), 3)}, {*dst});
+            return list;
         });
     }
 }
@@ -172,9 +181,11 @@ void addRemap(const std::string& name, Remap<T> function, int interpolation, int
             check(ours());
             scalar(expected);
             checkSame(*dst, expected, std::is_integral_v<T> ? 1 : 1e-5);
-            return std::vector<Contender>{{kOurs, [=] { ours(); }},
-                                          {kCopy, [=] { copyImage(*src, *dst); }},
-                                          {kScalar, [=] { scalar(*dst); }}};
+            std::vector<Contender> list = {{kOurs, [=] { ours(); }},
+                                           {kCopy, [=] { copyImage(*src, *dst); }},
+                                           {kScalar, [=] { scalar(*dst); }}};
+            joinOpencv(list, name, {*src, *xMap, *yMap}, {*dst});
+            return list;
         });
     }
 }

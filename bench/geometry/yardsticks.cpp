@@ -2,6 +2,7 @@
 #include "yardsticks.h"
 
 #include "../frame/image.h"
+#include "../frame/opencv.h"
 
 #include <memory>
 #include <stdexcept>
@@ -165,11 +166,13 @@ std::string yardstickVersions() {
 #else
     line += ", zimg not found";
 #endif
-    return line + (avxOnly ? ", both held to AVX" : ", with all that the processor offers them");
+    line += ", " + opencvVersion();
+    return line + (avxOnly ? ", held held to AVX" : ", with all that the processor offers them");
 }
 
 void limitYardsticksToAvx() {
     avxOnly = true;
+    leaveOutOpencv();
 #ifdef TPX_HAVE_LIBYUV
     libyuv::MaskCpuFlags(libyuv::kCpuHasX86 | libyuv::kCpuHasSSE2 | libyuv::kCpuHasSSSE3 |
                          libyuv::kCpuHasSSE41 | libyuv::kCpuHasSSE42 | libyuv::kCpuHasAVX |

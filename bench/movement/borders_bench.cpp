@@ -39,9 +39,11 @@ void addBorder(const char* name, int channels, F ours, Scalar scalar) {
             check(runOurs(got));
             scalar(*src, *dst);
             checkSame(got, *dst, 0);
-            return std::vector<Contender>{{kOurs, [=] { runOurs(*dst); }},
-                                          {kCopy, [=] { copyImage(*other, *dst); }},
-                                          {kScalar, [=] { scalar(*src, *dst); }}};
+            std::vector<Contender> list = {{kOurs, [=] { runOurs(*dst); }},
+                                           {kCopy, [=] { copyImage(*other, *dst); }},
+                                           {kScalar, [=] { scalar(*src, *dst); }}};
+            joinOpencv(list, name, {*src}, {*dst});
+            return list;
         });
     }
 }
@@ -83,9 +85,11 @@ void addConst(const char* name, int channels, F function, const Value& value) {
 void addBorders() {
     addConst<Tpx8u>("tpxiCopyConstBorder_8u_C1R", 1, tpxiCopyConstBorder_8u_C1R, Tpx8u{7});
     addConst<Tpx8u>("tpxiCopyConstBorder_8u_C3R", 3, tpxiCopyConstBorder_8u_C3R, std::array<Tpx8u, 3>{7, 8, 9});
+    addConst<Tpx16u>("tpxiCopyConstBorder_16u_C1R", 1, tpxiCopyConstBorder_16u_C1R, Tpx16u{7});
     addByRule<Tpx8u>("tpxiCopyReplicateBorder_8u_C1R", 1, tpxiCopyReplicateBorder_8u_C1R, replicated);
     addByRule<Tpx8u>("tpxiCopyReplicateBorder_8u_C3R", 3, tpxiCopyReplicateBorder_8u_C3R, replicated);
     addByRule<Tpx16u>("tpxiCopyReplicateBorder_16u_C1R", 1, tpxiCopyReplicateBorder_16u_C1R, replicated);
+    addByRule<Tpx32f>("tpxiCopyReplicateBorder_32f_C1R", 1, tpxiCopyReplicateBorder_32f_C1R, replicated);
     addByRule<Tpx8u>("tpxiCopyMirrorBorder_8u_C1R", 1, tpxiCopyMirrorBorder_8u_C1R, mirrored);
     addByRule<Tpx8u>("tpxiCopyMirrorBorder_8u_C3R", 3, tpxiCopyMirrorBorder_8u_C3R, mirrored);
     addByRule<Tpx16u>("tpxiCopyMirrorBorder_16u_C1R", 1, tpxiCopyMirrorBorder_16u_C1R, mirrored);

@@ -35,6 +35,13 @@ struct Picture {
         return all;
     }
 
+    Operands operands() const {
+        if (!form.planar) return {image};
+        Operands all;
+        for (int c = 0; c < form.channels; ++c) all.emplace_back(channel(c, 0), image.step(), size, 1);
+        return all;
+    }
+
     TpxiSize size;
     Form form;
     Image<T> image;
@@ -89,9 +96,13 @@ void addMove(const Move& what, Call<T> ours) {
                 moveScalar(what, all->src, all->dst, all->mask);
                 checkSame(got.image, all->dst.image, 0);
             }
-            return std::vector<Contender>{{kOurs, [=] { ours(all->src, all->dst, all->mask); }},
-                                          {kCopy, [=] { copyImage(all->copySrc.image, all->copyDst.image); }},
-                                          {kScalar, [=] { moveScalar(what, all->src, all->dst, all->mask); }}};
+            std::vector<Contender> list = {{kOurs, [=] { ours(all->src, all->dst, all->mask); }},
+                                           {kCopy, [=] { copyImage(all->copySrc.image, all->copyDst.image); }},
+                                           {kScalar, [=] { moveScalar(what, all->src, all->dst, all->mask); }}};
+            Operands from = all->src.operands();
+            if (what.masked) from.push_back(all->mask);
+            joinOpencv(list, what.function, from, all->dst.operands());
+            return list;
         });
     }
 }
@@ -169,7 +180,7 @@ void addChannels() {
     addMasked<Tpx8u>("tpxiCopy_8u_C1MR", 1, 1, tpxiCopy_8u_C1MR);
     addMasked<Tpx8u>("tpxiCopy_8u_C3MR", 3, 3, tpxiCopy_8u_C3MR, Sizes::all);
     addMasked<Tpx8u>("tpxiCopy_8u_AC4MR", 4, 3, tpxiCopy_8u_AC4MR);
-    addMasked<Tpx16u>("tpxiCopy_16u_C1MR", 1, 1, tpxiCopy_16u_C1MR);
+    addMasked<Tpx16u>("tpxiCopy_16u_C1MR", 1, 1, tpxiCopy_16u_C1MR, Sizes::all);
     addMasked<Tpx32f>("tpxiCopy_32f_C1MR", 1, 1, tpxiCopy_32f_C1MR);
 }
 

@@ -49,8 +49,10 @@ void addConversion(const char* name, Pixels pixels, Ours ours, Scalar scalar) {
                 check(runOurs());
                 checkSame(*dst, expected, 0);
             }
-            return std::vector<Contender>{
+            std::vector<Contender> list = {
                 {kOurs, [=] { runOurs(); }}, {kCopy, [=] { copyImage(*from, *to); }}, {kScalar, runScalar}};
+            joinOpencv(list, name, {*src}, {*dst});
+            return list;
         });
     }
 }
@@ -100,13 +102,18 @@ void addPack(const char* name, F function) {
 
 void addConversions() {
     addCast<Tpx8u, Tpx16s>("tpxiConvert_8u16s_C1R", tpxiConvert_8u16s_C1R, 1, Sizes::all);
+    addCast<Tpx8u, Tpx16u>("tpxiConvert_8u16u_C1R", tpxiConvert_8u16u_C1R);
     addCast<Tpx8u, Tpx32s>("tpxiConvert_8u32s_C1R", tpxiConvert_8u32s_C1R);
+    addCast<Tpx8u, Tpx32f>("tpxiConvert_8u32f_C1R", tpxiConvert_8u32f_C1R);
+    addCast<Tpx16u, Tpx32f>("tpxiConvert_16u32f_C1R", tpxiConvert_16u32f_C1R);
     addCast<Tpx8u, Tpx32f>("tpxiConvert_8u32f_C3R", tpxiConvert_8u32f_C3R, 3);
     addCast<Tpx16s, Tpx32f>("tpxiConvert_16s32f_C3R", tpxiConvert_16s32f_C3R, 3);
     addCast<Tpx32u, Tpx32f>("tpxiConvert_32u32f_C1R", tpxiConvert_32u32f_C1R);
     addCast<Tpx16u, Tpx8u>("tpxiConvert_16u8u_C1R", tpxiConvert_16u8u_C1R, 1, Sizes::all);
     addCast<Tpx32s, Tpx8u>("tpxiConvert_32s8u_C1R", tpxiConvert_32s8u_C1R);
     addRounded<Tpx32f, Tpx8u>("tpxiConvert_32f8u_C1R nearest", tpxiConvert_32f8u_C1R, Sizes::all, 1);
+    addRounded<Tpx32f, Tpx16u>("tpxiConvert_32f16u_C1R nearest", tpxiConvert_32f16u_C1R, Sizes::withinCache, 1);
+    addRounded<Tpx32f, Tpx16s>("tpxiConvert_32f16s_C1R nearest", tpxiConvert_32f16s_C1R, Sizes::withinCache, 1);
     addRounded<Tpx32f, Tpx16s>("tpxiConvert_32f16s_C1R away", tpxiConvert_32f16s_C1R, Sizes::middle, 2);
     addRounded<Tpx32f, Tpx32u>("tpxiConvert_32f32u_C1RSfs nearest, 1", tpxiConvert_32f32u_C1RSfs, Sizes::middle,
                                1, 1);

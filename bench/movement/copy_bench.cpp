@@ -56,6 +56,7 @@ void addCopies() {
     addCopy<Tpx8u>("tpxiCopy_8u_AC4R", tpxiCopy_8u_AC4R, 4, tpx::model::copyKeepAlpha<Tpx8u>);
     addCopy<Tpx16s>("tpxiCopy_16s_C1R", tpxiCopy_16s_C1R, 1, tpx::model::copy<Tpx16s>);
     addCopy<Tpx32f>("tpxiCopy_32f_C1R", tpxiCopy_32f_C1R, 1, tpx::model::copy<Tpx32f>, Sizes::all);
+    addCopy<Tpx32f>("tpxiCopy_32f_C3R", tpxiCopy_32f_C3R, 3, tpx::model::copy<Tpx32f>);
 
     addSet<Tpx8u>("tpxiSet_8u_C1R", tpxiSet_8u_C1R, 1, Tpx8u{7}, Sizes::all);
     addSet<Tpx8u>("tpxiSet_8u_C3R", tpxiSet_8u_C3R, 3, std::array<Tpx8u, 3>{7, 8, 9});

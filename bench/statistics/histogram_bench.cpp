@@ -84,8 +84,12 @@ void addHistogram(const What& what, Count<T> ours) {
                 runScalar();
                 if (mine->bins != plain->bins) throw std::runtime_error("the scalar form differs");
             }
-            return std::vector<Contender>{
+            std::vector<Contender> list = {
                 {kOurs, run}, {kRead, [=] { readImage(*src); }}, {kScalar, runScalar}};
+            const int counted = what.levels - 1, step = counted * static_cast<int>(sizeof(Tpx32u));
+            joinOpencv(list, name, {*src, Operand(std::vector<double>{what.range}, 1)},
+                       {Operand(mine->hist[0], step, {counted, 1}, 1)});
+            return list;
         });
     }
 }

@@ -61,7 +61,8 @@ void addIntegers(const char* function, int channels, TpxDataType type, Init init
         },
         [=](const T* src, T* dst, size_t length) {
             tpx::model::lookup(src, dst, length, channels, tables.data());
-        });
+        },
+        {}, {Operand(tables[0], static_cast<int>(table.size()))});
 }
 
 // Levels at uneven distances; some samples lie beyond them.

@@ -47,7 +47,9 @@ void addReduction(const What& what, Reduce<T> ours, Reduce<T> scalar) {
                     benchmark::DoNotOptimize(value);
                 };
             };
-            return std::vector<Contender>{{kOurs, keep(ours)}, {kRead, read}, {kScalar, keep(scalar)}};
+            std::vector<Contender> list = {{kOurs, keep(ours)}, {kRead, read}, {kScalar, keep(scalar)}};
+            joinOpencv(list, what.function, {*src1, *src2}, {}, got);
+            return list;
         });
     }
 }
@@ -166,13 +168,15 @@ void addReductions() {
                         plainProducts<Tpx8u>);
     addReduction<Tpx8u>({"tpxiDotProd_8u64f_C3R", 2, 3}, two<Tpx8u>(tpxiDotProd_8u64f_C3R),
                         plainProducts<Tpx8u>);
-    addReduction<Tpx16u>({"tpxiDotProd_16u64f_C1R", 2}, two<Tpx16u>(tpxiDotProd_16u64f_C1R),
-                         plainProducts<Tpx16u>);
-    addReduction<Tpx16s>({"tpxiDotProd_16s64f_C1R", 2}, two<Tpx16s>(tpxiDotProd_16s64f_C1R),
-                         plainProducts<Tpx16s>);
+    addReduction<Tpx16u>({"tpxiDotProd_16u64f_C1R", 2, 1, Sizes::withinCache},
+                         two<Tpx16u>(tpxiDotProd_16u64f_C1R), plainProducts<Tpx16u>);
+    addReduction<Tpx16s>({"tpxiDotProd_16s64f_C1R", 2, 1, Sizes::withinCache},
+                         two<Tpx16s>(tpxiDotProd_16s64f_C1R), plainProducts<Tpx16s>);
     addReduction<Tpx32s>({"tpxiDotProd_32s64f_C1R", 2}, two<Tpx32s>(tpxiDotProd_32s64f_C1R),
                          plainProducts<Tpx32s>);
-    addReduction<Tpx32f>({"tpxiDotProd_32f64f_C1R accurate", 2},
+    addReduction<Tpx32f>({"tpxiDotProd_32f64f_C1R fast", 2, 1, Sizes::withinCache},
+                         two<Tpx32f>(tpxiDotProd_32f64f_C1R, tpxHintFast), plainProducts<Tpx32f>);
+    addReduction<Tpx32f>({"tpxiDotProd_32f64f_C1R accurate", 2, 1, Sizes::withinCache},
                          two<Tpx32f>(tpxiDotProd_32f64f_C1R, tpxHintAccurate), plainProducts<Tpx32f>);
 
     addReduction<Tpx8u>({"tpxiNorm_Inf_8u_C1R"}, one<Tpx8u, double>(tpxiNorm_Inf_8u_C1R), plainMost<Tpx8u>);

@@ -11,7 +11,7 @@ namespace {
 template <typename T>
 inline constexpr T kLow[] = {50, 60, 70};
 template <typename T>
-inline constexpr T kLowValue[] = {1, 2, 3};
+inline constexpr T kLowValue[] = {0, 1, 2}; // in a single channel as OpenCV has it
 template <typename T>
 inline constexpr T kHigh[] = {90, 80, 75};
 template <typename T>
@@ -26,7 +26,8 @@ void addThreshold(const char* function, size_t channels, Sizes sizes, Process<T>
         channels, std::min<size_t>(channels, 3), kLow<T>, kLowValue<T>, kHigh<T>, kHighValue<T>};
     addPointwise<T>(
         {.group = "Thresholds", .function = function, .channels = int(channels), .high = 127, .sizes = sizes},
-        ours, [=](const T* src, T* dst, size_t length) { rule(src, dst, length, by); });
+        ours, [=](const T* src, T* dst, size_t length) { rule(src, dst, length, by); }, {},
+        {Operand(std::vector<double>{kLow<T>[0]}, 1)});
 }
 
 } // namespace
@@ -53,6 +54,7 @@ void addThresholds() {
     LAYOUT(8u, AC4, 4, , middle)
     LAYOUT(16s, C1, 1, *, middle)
     LAYOUT(16s, C3, 3, , middle)
+    LAYOUT(16u, C1, 1, *, middle)
     LAYOUT(32f, C1, 1, *, middle)
     LAYOUT(32f, C3, 3, , middle)
 }

@@ -27,6 +27,14 @@ void repeatNoise(Tpx8u* to, size_t bytes, Range range) {
         std::memcpy(to + at, samples.data(), std::min(period, bytes - at));
 }
 
+// By the names of types; bits are filled as bytes, and both parts of complex numbers alike.
+const std::map<std::string, void (*)(Tpx8u*, size_t, Range)> kFill = {
+    {"1u", repeatNoise<Tpx8u>},   {"8u", repeatNoise<Tpx8u>},    {"8s", repeatNoise<Tpx8s>},
+    {"16u", repeatNoise<Tpx16u>}, {"16s", repeatNoise<Tpx16s>},  {"32u", repeatNoise<Tpx32u>},
+    {"32s", repeatNoise<Tpx32s>}, {"64s", repeatNoise<Tpx64s>},  {"64f", repeatNoise<Tpx64f>},
+    {"32f", repeatNoise<Tpx32f>}, {"32fc", repeatNoise<Tpx32f>},
+};
+
 } // namespace
 
 void Canvas::Free::operator()(void* p) const { std::free(p); }
@@ -42,27 +50,9 @@ Canvas::Canvas(size_t rowBytes, int rows, size_t gap)
 }
 
 void Canvas::fill(const std::string& type, Range range) {
-    const auto of = [&]<typename T>(T) { repeatNoise<T>(memory_.get(), all_, range); };
-    if (type == "8u" || type == "1u")
-        of(Tpx8u());
-    else if (type == "8s")
-        of(Tpx8s());
-    else if (type == "16u")
-        of(Tpx16u());
-    else if (type == "16s")
-        of(Tpx16s());
-    else if (type == "32u")
-        of(Tpx32u());
-    else if (type == "32s")
-        of(Tpx32s());
-    else if (type == "64s")
-        of(Tpx64s());
-    else if (type == "64f")
-        of(Tpx64f());
-    else if (type == "32f" || type == "32fc")
-        of(Tpx32f());
-    else
-        throw std::logic_error("no samples of type " + type);
+    const auto at = kFill.find(type);
+    if (at == kFill.end()) throw std::logic_error("no samples of type " + type);
+    at->second(memory_.get(), all_, range);
 }
 
 } // namespace bench::walk
