@@ -3,10 +3,10 @@
 //
 // An operation is a class with
 //   saturated(a, b)        the result with factor 0, in registers of T
-//   exact(a, b)            the exact result: a pair of registers of wider lanes, or one where T's lanes hold it
-//   halved(a, b)           the result with factor 1, which needs no wider lanes; optional
-//   shrunk<V>(n)           a rule for factors from 1 to 15 in V's lanes; optional
-//   kZeroFrom<T>           the smallest factor at which every result is 0
+//   exact(a, b)            the exact result, a pair of registers of wider lanes
+//   halved(a, b)           the result with factor 1, where that is shorter; optional
+//   shrunk<V>(n)           a rule for factors from 1 to 15 in V's lanes; where there is no exact result, for
+//   all kZeroFrom<T>           the smallest factor at which every result is 0
 #pragma once
 
 #include "frame/entry/entry.h"
@@ -26,21 +26,6 @@ struct BinaryImages {
 };
 
 // ---- The rule of the scale factor: s * 2^-n, rounded to nearest with ties to even, saturated ------------
-
-// The exact result's register of lanes, be it one or a pair, and either of them shifted and saturated to T.
-template <class W>
-W lanesOf(W);
-template <class W>
-W lanesOf(Pair<W>);
-
-template <class T, class Shift>
-inline Vec<T> shrink(Vec<T> s, const Shift& shift) {
-    return shift(s);
-}
-template <class T, class W, class Shift>
-inline Vec<T> shrink(Pair<W> s, const Shift& shift) {
-    return narrow<T>(Pair<W>{shift(s.low), shift(s.high)});
-}
 
 // What a factor from kZeroFrom on leaves; no source is read.
 template <Layout L, class T>
@@ -83,15 +68,21 @@ TpxStatus binaryRows(const BinaryImages<T>& a, Extent e, int n) {
                 return tpxOk;
             }
         }
+        constexpr bool kHasExact = requires { Op::exact(V{}, V{}); };
         if constexpr (requires { Op::template shrunk<V>(n); }) {
-            if (n <= 15) {
+            if (n <= 15 || !kHasExact) {
                 map(Op::template shrunk<V>(n));
                 return tpxOk;
             }
         }
-        using W = decltype(lanesOf(Op::exact(V{}, V{})));
-        const RoundedShift<tpxRoundNearestEven, W, Headroom::Half> shift(n); // its constants made once
-        map([shift](V x, V y) { return shrink<T>(Op::exact(x, y), shift); });
+        if constexpr (kHasExact) {
+            using W = decltype(Op::exact(V{}, V{}).low);
+            const RoundedShift<tpxRoundNearestEven, W, Headroom::Half> shift(n); // its constants made once
+            map([shift](V x, V y) {
+                const Pair<W> s = Op::exact(x, y);
+                return narrow<T>(Pair<W>{shift(s.low), shift(s.high)});
+            });
+        }
     } else if (n == -1) {
         map([](V x, V y) {
             const V s = Op::saturated(x, y);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // tpxiSub: the second image less the first.
 #include "arithmetic/binary.h"
+#include "arithmetic/halves.h"
 
 namespace tpx {
 
@@ -14,26 +15,21 @@ struct Sub {
     }
     static V32f saturated(V32f a, V32f b) { return b - a; }
 
+    // Unsigned differences below 0 give 0 under every factor, so they may be clipped first.
     template <class V>
     static V halved(V a, V b) {
-        const V d = subSat(b, a), up = average(d, V{});
-        return up - (d & up & splat<V>(1));
+        const V d = subSat(b, a);
+        return halfToEven(Half<V>{average(d, V{}), d});
     }
-    // With ~a for -a - 1 an odd difference is rounded down; where that is odd, the even neighbour is above.
-    static V16s halved(V16s a, V16s b) {
-        const V16s down = average(b, ~a);
-        return addSat(down, (a ^ b) & down & splat<V16s>(1));
-    }
-
-    // Unsigned differences below 0 give 0 under every factor, so they may be clipped first.
-    static Pair<V16s> exact(V8u a, V8u b) {
-        const Pair<V16u> d = widen(subSat(b, a));
-        return {V16s(d.low), V16s(d.high)};
-    }
-    static V16u exact(V16u a, V16u b) { return subSat(b, a); }
-    static Pair<V32s> exact(V16s a, V16s b) {
-        const V16s signs = {-1, 1, -1, 1, -1, 1, -1, 1};
-        return {multiplyAddPairs(interleaveLow(a, b), signs), multiplyAddPairs(interleaveHigh(a, b), signs)};
+    static V16s halved(V16s a, V16s b) { return halfToEven(halfOfDifference(a, b)); }
+    template <class V>
+    static auto shrunk(int n) {
+        if constexpr (std::is_same_v<V, V16s>)
+            return [shift = ShrunkHalf<V>(n - 1)](V a, V b) {
+                return shift(halfOfDifference(inRegister(a), inRegister(b)));
+            };
+        else
+            return [shift = ShrunkHalf<V>(n)](V a, V b) { return shift({subSat(b, a), V{}}); };
     }
 };
 

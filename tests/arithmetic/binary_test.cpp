@@ -71,20 +71,21 @@ const int kFactors[] = {INT_MIN, INT_MIN + 1, -1000, -33, -32, -18, -17, -16, -1
                         7,       8,           9,     10,  11,  12,  13,  14,  15,  16,   17,     18, 19,
                         29,      30,          31,    32,  33,  34,  35,  63,  64,  1000, INT_MAX};
 
-// Every pair of `values` under every factor, in one image a factor.
+// Pairs of samples, in images of `width`, under the factors from `least` to `most`.
 template <class T>
-void everyPair(const std::vector<T>& values) {
-    const int n = int(values.size());
-    std::vector<T> first(n * n), second(n * n), dst(n * n), want(n * n);
-    for (int i = 0; i < n * n; i++) first[i] = values[i / n], second[i] = values[i % n];
+void everyFactor(const std::vector<T>& first, const std::vector<T>& second, int width,
+                 const std::string& operations = "+-*", int least = INT_MIN, int most = INT_MAX) {
+    std::vector<T> dst(first.size()), want(first.size());
+    const int step = width * int(sizeof(T));
     for (const auto& f : functions<T>()) {
-        if (f.channels != 1) continue;
+        if (f.channels != 1 || operations.find(f.operation) == std::string::npos) continue;
         for (int factor : kFactors) {
-            ASSERT_EQ(f.run(first.data(), n * int(sizeof(T)), second.data(), n * int(sizeof(T)), dst.data(),
-                            n * int(sizeof(T)), {n, n}, factor),
+            if (factor < least || factor > most) continue;
+            ASSERT_EQ(f.run(first.data(), step, second.data(), step, dst.data(), step,
+                            {width, int(first.size()) / width}, factor),
                       tpxOk);
             f.model()(first.data(), second.data(), want.data(), want.size(), factor);
-            for (int i = 0; i < n * n; i++)
+            for (size_t i = 0; i < first.size(); i++)
                 if (dst[i] != want[i]) {
                     ADD_FAILURE() << +first[i] << " " << f.operation << " " << +second[i] << ", factor "
                                   << factor << ": got " << +dst[i] << ", expected " << +want[i];
@@ -92,6 +93,14 @@ void everyPair(const std::vector<T>& values) {
                 }
         }
     }
+}
+
+template <class T>
+void everyPair(const std::vector<T>& values) {
+    const size_t n = values.size();
+    std::vector<T> first(n * n), second(n * n);
+    for (size_t i = 0; i < n * n; i++) first[i] = values[i / n], second[i] = values[i % n];
+    everyFactor(first, second, int(n));
 }
 
 TEST(BinaryIntegers, EveryPairAndFactor8u) {
@@ -116,6 +125,24 @@ std::vector<T> edges() {
 }
 TEST(BinaryIntegers, EdgesUnderEveryFactor16u) { everyPair(edges<Tpx16u>()); }
 TEST(BinaryIntegers, EdgesUnderEveryFactor16s) { everyPair(edges<Tpx16s>()); }
+
+// Every sum and every difference that there is.
+template <class T>
+void everySumAndDifference() {
+    constexpr int low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
+    std::vector<T> first, second, opposite;
+    for (int sum = 2 * low; sum <= 2 * high; sum++) {
+        const int least = std::max(low, sum - high), most = std::min(high, sum - low);
+        const int a = least + (most - least) * (sum & 7) / 7;
+        first.push_back(T(a));
+        second.push_back(T(sum - a));
+        opposite.push_back(T(low + high - a));
+    }
+    everyFactor(first, second, 1, "+", 1, 18);
+    everyFactor(opposite, second, 1, "-", 1, 18);
+}
+TEST(BinaryIntegers, EverySumAndDifference16u) { everySumAndDifference<Tpx16u>(); }
+TEST(BinaryIntegers, EverySumAndDifference16s) { everySumAndDifference<Tpx16s>(); }
 
 TEST(BinaryFloats, EveryPair) {
     everyPair<Tpx32f>({0.0f, -0.0f, 1, -1, 0.5f, 3, -2.25f, 1e-45f, -1e-38f, 1e-20f, 7e18f, 16777216, 3e38f});
