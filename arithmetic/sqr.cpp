@@ -46,7 +46,7 @@ inline V16s squareSaturated(V16s x) {
 }
 inline V16u squareSaturated(V16u x) {
     const V16u m = minOf(x, splat<V16u>(256)); // the first that saturates; its square is 0 in 16 bits
-    return m * m | V16u(x >= splat<V16u>(256));
+    return m * m - (m >> 8);
 }
 
 } // namespace

@@ -9,10 +9,15 @@ namespace {
 // Warns if a negative sample was among the lanes that it saw. Negative zero and NaN are not negative.
 template <class T>
 struct NegativeWarning {
-    decltype(Vec<T>{} < Vec<T>{}) seen{};
+    decltype(Vec<T>{} < Vec<T>{}) seen{}; // lanes below 0 tell
 
-    void see(Vec<T> x) { seen |= x < Vec<T>{}; }
-    TpxStatus status() const { return any(seen) ? tpxWarnSqrtNegArg : tpxOk; }
+    void see(Vec<T> x) {
+        if constexpr (std::is_integral_v<T>)
+            seen |= x;
+        else
+            seen |= x < Vec<T>{};
+    }
+    TpxStatus status() const { return any(seen < decltype(seen){}) ? tpxWarnSqrtNegArg : tpxOk; }
 };
 
 // Single precision decides every rounding of a root that is not scaled up: a root of b bits either is a tie
@@ -27,7 +32,11 @@ struct IntegerRoot : NegativeWarning<T> {
             this->see(x);
             x = maxOf(x, Vec<T>{});
         }
-        return throughReal<F>(x, [this](auto r) { return squareRoot(r) * splat<decltype(r)>(scale); });
+        const auto root = [this](auto r) { return squareRoot(r) * splat<decltype(r)>(scale); };
+        if constexpr (std::is_same_v<F, float> && std::is_same_v<T, Tpx16s>)
+            return V16s(throughReal<F>(V16u(x), root)); // small, and as unsigned samples widened sooner
+        else
+            return throughReal<F>(x, root);
     }
 
     F scale;
