@@ -9,7 +9,7 @@ struct Abs {
 
     template <Layout L, class T>
     static TpxStatus run(const UnaryCall<L, T>& call) {
-        return call.map([](Vec<T> x) { return absSat(x); });
+        return call.map(Light{[](Vec<T> x) { return absSat(x); }});
     }
 };
 

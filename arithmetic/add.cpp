@@ -6,6 +6,8 @@
 namespace tpx {
 
 struct Add {
+    static constexpr bool kIsLight = true;
+
     template <class T>
     static constexpr int kZeroFrom = sizeof(T) == 1        ? 10
                                      : std::is_signed_v<T> ? 17

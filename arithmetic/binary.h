@@ -5,8 +5,10 @@
 //   saturated(a, b)        the result with factor 0, in registers of T
 //   exact(a, b)            the exact result, a pair of registers of wider lanes
 //   halved(a, b)           the result with factor 1, where that is shorter; optional
-//   shrunk<V>(n)           a rule for factors from 1 to 15 in V's lanes; where there is no exact result, for
-//   all kZeroFrom<T>           the smallest factor at which every result is 0
+//   shrunk<V>(n)           a rule for factors from 1 to 15 in V's lanes, or for all if there is no exact();
+//                          optional
+//   kIsLight               whether saturated() has few operations: see Light of frame/runs/runs.h
+//   kZeroFrom<T>           the smallest factor at which every result is 0
 #pragma once
 
 #include "frame/entry/entry.h"
@@ -54,13 +56,19 @@ template <Layout L, class T, class Rule>
 template <class Op, Layout L, class T>
 TpxStatus binaryRows(const BinaryImages<T>& a, Extent e, int n) {
     const auto map = [&](auto rule) { mapImages<L>(a, e, rule); };
+    const auto mapShort = [&](auto rule) {
+        if constexpr (Op::kIsLight)
+            map(Light{rule});
+        else
+            map(rule);
+    };
     using V = Vec<T>;
     if constexpr (std::is_same_v<T, float>) {
         map([](V x, V y) { return Op::saturated(x, y); });
     } else if (n >= Op::template kZeroFrom<T>) {
         fillZero<L>(e, a.dst);
     } else if (n == 0) {
-        map([](V x, V y) { return Op::saturated(x, y); });
+        mapShort([](V x, V y) { return Op::saturated(x, y); });
     } else if (n > 0) {
         if constexpr (requires { Op::halved(V{}, V{}); }) {
             if (n == 1) {
@@ -84,7 +92,7 @@ TpxStatus binaryRows(const BinaryImages<T>& a, Extent e, int n) {
             });
         }
     } else if (n == -1) {
-        map([](V x, V y) {
+        mapShort([](V x, V y) {
             const V s = Op::saturated(x, y);
             return addSat(s, s);
         });

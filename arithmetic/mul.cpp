@@ -35,6 +35,8 @@ struct ShrunkProduct {
 } // namespace
 
 struct Mul {
+    static constexpr bool kIsLight = false;
+
     template <class T>
     static constexpr int kZeroFrom = sizeof(T) == 1        ? 17
                                      : std::is_signed_v<T> ? 31

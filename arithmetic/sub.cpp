@@ -6,6 +6,8 @@
 namespace tpx {
 
 struct Sub {
+    static constexpr bool kIsLight = true;
+
     template <class T>
     static constexpr int kZeroFrom = sizeof(T) == 1 ? 9 : 17;
 

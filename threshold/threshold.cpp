@@ -8,22 +8,38 @@ namespace {
 
 // ---- Rules: what happens on either side of a threshold. Operand order decides what NaN gives ------------
 
-// Whether samples lie beyond a threshold; unsigned integers have no such instruction, but leave the threshold
-// when they are limited to it.
+// Of bytes, the top bit of average(x, ~t) tells whether x >= t, and is all that select() asks for; of 16 bits,
+// there are comparisons of signed samples alone. So replace() takes thresholds, and their values, that are
+// prepared for it.
+inline V16s asSigned(V16s x) { return x; }
+inline V16s asSigned(V16u x) { return V16s(x ^ splat<V16u>(0x8000)); }
+inline void toSigned(Tpx16u& threshold) { threshold ^= 0x8000; }
+inline void toSigned(Tpx16s&) {}
+
 struct Above {
     template <class V>
     static V clamp(V x, V threshold) {
         return minOf(x, threshold); // NaN gives the threshold
     }
-    template <class V>
-    static V replace(V x, V threshold, V value) {
-        if constexpr (std::is_signed_v<LaneOf<V>>)
-            return select(x > threshold, value, x);
-        else
-            return select(clamp(x, threshold) == x, x, value);
+
+    template <class T>
+    static void prepare(T& threshold, T& value) {
+        if constexpr (sizeof(T) == 1) {
+            const bool none = threshold == kMax<T>; // has no next: the largest sample is replaced by itself
+            if (none) value = kMax<T>;
+            threshold = T(~(threshold + !none));
+        } else if constexpr (sizeof(T) == 2) {
+            toSigned(threshold);
+        }
     }
-    static V32f replace(V32f x, V32f threshold, V32f value) {
-        return threshold < x ? value : x; // NaN stays
+    template <class V>
+    static V replace(V x, V threshold, V value, V otherwise) {
+        if constexpr (std::is_same_v<V, V32f>)
+            return threshold < x ? value : otherwise; // NaN stays
+        else if constexpr (std::is_same_v<V, V8u>)
+            return select(average(x, threshold), value, otherwise);
+        else
+            return select(asSigned(x) > V16s(threshold), value, otherwise);
     }
 };
 
@@ -32,29 +48,24 @@ struct Below {
     static V clamp(V x, V threshold) {
         return maxOf(x, threshold); // NaN gives the threshold
     }
-    template <class V>
-    static V replace(V x, V threshold, V value) {
-        if constexpr (std::is_signed_v<LaneOf<V>>)
-            return select(x < threshold, value, x);
-        else
-            return select(clamp(x, threshold) == x, x, value);
+
+    template <class T>
+    static void prepare(T& threshold, T&) {
+        if constexpr (sizeof(T) == 1)
+            threshold = T(~threshold);
+        else if constexpr (sizeof(T) == 2)
+            toSigned(threshold);
     }
-    static V32f replace(V32f x, V32f threshold, V32f value) {
-        return threshold <= x ? x : value; // NaN gives the value
+    template <class V>
+    static V replace(V x, V threshold, V value, V otherwise) {
+        if constexpr (std::is_same_v<V, V32f>)
+            return threshold <= x ? otherwise : value; // NaN gives the value
+        else if constexpr (std::is_same_v<V, V8u>)
+            return select(average(x, threshold), otherwise, value);
+        else
+            return select(asSigned(x) < V16s(threshold), value, otherwise);
     }
 };
-
-// The lower threshold has the last word: NaN gives its value.
-template <class V>
-V replaceOutside(V x, V low, V lowValue, V high, V highValue) {
-    const V upper = Above::replace(x, high, highValue);
-    if constexpr (std::is_same_v<V, V32f>)
-        return low <= x ? upper : lowValue;
-    else if constexpr (std::is_signed_v<LaneOf<V>>)
-        return select(x < low, lowValue, upper);
-    else
-        return select(Below::clamp(x, low) == x, upper, lowValue);
-}
 
 // ---- Constants and checks ---------------------------------------------------------------------------------
 
@@ -71,6 +82,23 @@ struct Constant {
     Vec<T> operator[](int k) const { return registers[k]; }
 
     Vec<T> registers[kGroup<L>];
+};
+
+// The thresholds and values of one side.
+template <Layout L, class Rule, class T>
+struct Replacement {
+    static Replacement of(const T* thresholds, const T* values) {
+        T threshold[coloursOf(L)], value[coloursOf(L)];
+        __builtin_memcpy(threshold, thresholds, sizeof threshold);
+        __builtin_memcpy(value, values, sizeof value);
+        for (int c = 0; c < coloursOf(L); c++) Rule::prepare(threshold[c], value[c]);
+        return {Constant<L, T>(threshold), Constant<L, T>(value)};
+    }
+    Vec<T> operator()(Vec<T> x, int k, Vec<T> otherwise) const {
+        return Rule::replace(x, threshold[k], value[k], otherwise);
+    }
+
+    Constant<L, T> threshold, value;
 };
 
 // The images of a call. In place they are one.
@@ -101,15 +129,17 @@ TpxStatus map(const Images<T>& images, Rule rule) {
 template <Layout L, class Rule, class T>
 TpxStatus clampSide(const Images<T>& images, const T* threshold) {
     if (const TpxStatus status = check(images, threshold)) return status;
-    return map<L>(images, [t = Constant<L, T>(threshold)](auto x, int k) { return Rule::clamp(x, t[k]); });
+    return map<L>(images,
+                  Light{[t = Constant<L, T>(threshold)](auto x, int k) { return Rule::clamp(x, t[k]); }});
 }
 
 template <Layout L, class Rule, class T>
 TpxStatus replaceSide(const Images<T>& images, const T* threshold, const T* value) {
     if (const TpxStatus status = check(images, threshold, value)) return status;
-    return map<L>(images, [t = Constant<L, T>(threshold), v = Constant<L, T>(value)](auto x, int k) {
-        return Rule::replace(inRegister(x), t[k], v[k]); // g++ would load it to compare and to keep it
-    });
+    return map<L>(images, Light{[side = Replacement<L, Rule, T>::of(threshold, value)](auto sample, int k) {
+                      const auto x = inRegister(sample); // g++ would load it to compare and to keep it
+                      return side(x, k, x);
+                  }});
 }
 
 bool isSide(TpxCmpOp op) { return op == tpxCmpLess || op == tpxCmpGreater; }
@@ -136,11 +166,16 @@ TpxStatus replaceBoth(const Images<T>& images, const T* thresholdLT, const T* va
     if (const TpxStatus status = check(images, thresholdLT, valueLT, thresholdGT, valueGT)) return status;
     for (int c = 0; c < coloursOf(L); c++)
         if (thresholdGT[c] < thresholdLT[c]) return tpxErrThresholdBounds;
-    using C = Constant<L, T>;
-    return map<L>(images, [low = C(thresholdLT), lowValue = C(valueLT), high = C(thresholdGT),
-                           highValue = C(valueGT)](auto x, int k) {
-        return replaceOutside(inRegister(x), low[k], lowValue[k], high[k], highValue[k]);
-    });
+    // The lower threshold has the last word: NaN gives its value.
+    const auto rule = [below = Replacement<L, Below, T>::of(thresholdLT, valueLT),
+                       above = Replacement<L, Above, T>::of(thresholdGT, valueGT)](auto sample, int k) {
+        const auto x = inRegister(sample);
+        return below(x, k, above(x, k, x));
+    };
+    if constexpr (sizeof(T) == 1)
+        return map<L>(images, Light{rule});
+    else
+        return map<L>(images, rule);
 }
 
 } // namespace

@@ -57,11 +57,23 @@ inline constexpr int kGroup = L == Layout::C3 ? 3 : 1;
 
 template <Layout L, class T, class Rule>
 inline void mapImageByChannel(Extent e, Rule rule, const ImageView<T>& dst, const ImageView<const T>& src) {
-    const auto single = [&](auto x) { return rule(x, 0); };
+    const auto single = [](const Rule& own) {
+        auto first = [own](auto x) { return own(x, 0); };
+        if constexpr (kIsLight<Rule>)
+            return Light{first};
+        else
+            return first;
+    };
     if constexpr (L == Layout::C1 || L == Layout::AC4) {
-        mapImage<L>(e, single, dst, src);
+        mapImage<L>(e, single(rule), dst, src);
     } else {
-        const auto cached = [&](ptrdiff_t len, T* d, const T* s) { mapGroups<kGroup<L>>(s, d, len, rule); };
+        const auto cached = [&](ptrdiff_t len, T* d, const T* s) {
+            const Rule own = rule;
+            if constexpr (L == Layout::C4)
+                applyRun<4>(d, len, single(own), s);
+            else
+                mapGroups<kGroup<L>>(s, d, len, own);
+        };
         const auto streamed = [&](ptrdiff_t len, T* d, const T* s) {
             // A line that is streamed begins with a pixel of four only if the row does.
             if (L == Layout::C4 && reinterpret_cast<uintptr_t>(d) % (4 * sizeof(T)) != 0)

@@ -61,17 +61,51 @@ inline ptrdiff_t samplesToBoundary(const T* p) {
     return ptrdiff_t((-reinterpret_cast<uintptr_t>(p) & (sizeof(Vec<T>) - 1)) / sizeof(T));
 }
 
+// The same where a register begins with a pixel of N samples; 0 where no pixel begins on a boundary.
+template <int N, class T>
+inline ptrdiff_t pixelsToBoundary(const T* p) {
+    const ptrdiff_t samples = samplesToBoundary(p);
+    return samples % N ? 0 : samples;
+}
+
 struct NoFetch {
     void operator()(ptrdiff_t, ptrdiff_t) const {}
 };
 
+// A rule of so few operations that its loops are bounded by their stores, of which processors do one a cycle
+// whatever its width. Registers of 16 bytes are then joined and stored by two, which costs other rules an
+// operation that they have no room for.
+template <class Rule>
+struct Light : Rule {
+    using Rule::operator();
+};
+template <class Rule>
+Light(Rule) -> Light<Rule>;
+template <class Rule>
+inline constexpr bool kIsLight = false;
+template <class Rule>
+inline constexpr bool kIsLight<Light<Rule>> = true;
+
+template <bool Joined, class T>
+inline void storeTwo(T* p, Vec<T> a, Vec<T> b) {
+    if constexpr (Joined) {
+        const V32f both = joinHalves<V32f>(a, b);
+        __builtin_memcpy(p, &both, sizeof both);
+    } else {
+        store(p, a);
+        store(p + kLanes<T>, b);
+    }
+}
+
 // dst[i...] = at(i), a register from sample i on; whole() makes the register of a run that does not fill one.
-// Registers start at `begin`, the first sample on a boundary or 0, and the head is cut if that is not 0.
+// Registers start at `begin`, the first sample on a boundary or 0, and the head is cut if that is not 0. Where
+// they are joined, one is stored before the first two that begin on a boundary of theirs.
 // fetch(i, n) asks for what comes some way behind n samples; none is worth it where much is written of little.
-template <class T, class At, class Whole, class Fetch = NoFetch>
+template <bool IsLight = false, class T, class At, class Whole, class Fetch = NoFetch>
 [[gnu::always_inline]] inline void writeRun(T* dst, ptrdiff_t len, ptrdiff_t begin, At at, Whole whole,
                                             Fetch fetch = {}) {
     constexpr ptrdiff_t L = kLanes<T>;
+    constexpr bool kJoined = IsLight && sizeof(Vec<T>) == 16;
     if (len < L) {
         const Vec<T> v = whole();
         copyShort(dst, &v, len * ptrdiff_t(sizeof(T)));
@@ -82,24 +116,27 @@ template <class T, class At, class Whole, class Fetch = NoFetch>
     if (begin) head = at(0);
     if (cutTail) tail = at(len - L);
     ptrdiff_t i = begin;
+    if (kJoined && i + L <= len && reinterpret_cast<uintptr_t>(dst + i) % 32 >= 16) {
+        store(dst + i, at(i));
+        i += L;
+    }
     for (; i + 4 * L <= len; i += 4 * L) {
         fetch(i, 4 * L);
         const Vec<T> a = at(i), b = at(i + L), c = at(i + 2 * L), d = at(i + 3 * L);
-        store(dst + i, a);
-        store(dst + i + L, b);
-        store(dst + i + 2 * L, c);
-        store(dst + i + 3 * L, d);
+        storeTwo<kJoined>(dst + i, a, b);
+        storeTwo<kJoined>(dst + i + 2 * L, c, d);
     }
     for (; i + L <= len; i += L) store(dst + i, at(i));
     if (cutTail) store(dst + len - L, tail);
     if (begin) store(dst, head);
 }
 
-// dst[i] = rule(src[i], ...), from one source or more. A source may be the destination.
-template <class T, class Rule, class... Src>
+// dst[i] = rule(src[i], ...), from one source or more. A source may be the destination. Registers begin with
+// pixels of N samples.
+template <int N = 1, class T, class Rule, class... Src>
 [[gnu::always_inline]] inline void applyRun(T* dst, ptrdiff_t len, Rule&& rule, const Src*... src) {
-    writeRun(
-        dst, len, samplesToBoundary(dst), [&](ptrdiff_t i) { return rule(load(src + i)...); },
+    writeRun<kIsLight<std::remove_cvref_t<Rule>>>(
+        dst, len, pixelsToBoundary<N>(dst), [&](ptrdiff_t i) { return rule(load(src + i)...); },
         [&] { return rule(loadShort(src, len)...); },
         [&](ptrdiff_t i, ptrdiff_t n) { (fetchAhead(src + i, n * ptrdiff_t(sizeof(T))), ...); });
 }
@@ -112,7 +149,7 @@ inline void mapRun(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
 // R is T, or float where samples are only moved; the length is in R.
 template <class T, class R, class Rule, class... Src>
 [[gnu::always_inline]] inline void applyKeepingAlpha(R* dst, ptrdiff_t len, Rule&& rule, const Src*... src) {
-    writeRun(
+    writeRun<kIsLight<std::remove_cvref_t<Rule>>>(
         dst, len, 0, [&](ptrdiff_t i) { return keepAlpha<T>(load(dst + i), rule(load(src + i)...)); },
         [&] { return keepAlpha<T>(loadShort(dst, len), rule(loadShort(src, len)...)); },
         [&](ptrdiff_t i, ptrdiff_t n) { (fetchAhead(src + i, n * ptrdiff_t(sizeof(R))), ...); });
@@ -130,31 +167,38 @@ inline void moveKeepingAlpha(const T* src, T* dst, ptrdiff_t pixels, Rule&& rule
 }
 
 // dst[i] = rule(src[i], k), where k counts registers within groups of G: rules whose constants repeat with
-// pixels of three samples have three registers of them. Runs are of whole pixels, so a group may begin at the
-// last samples but G registers, too.
+// pixels of three samples have three registers of them. Runs are of whole pixels, and groups begin with one:
+// the first behind the boundary that begins a pixel, and those of the ends, which may overlap the bulk.
 template <int G, class T, class Rule>
 [[gnu::always_inline]] inline void mapGroups(const T* src, T* dst, ptrdiff_t len, Rule&& rule) {
     constexpr ptrdiff_t L = kLanes<T>;
-    const auto group = [&](const T* s, T* d) {
+    const auto group = [&](const T* s, T* d) __attribute__((always_inline)) {
         Vec<T> v[G];
+#pragma GCC unroll 3
         for (int k = 0; k < G; k++) v[k] = rule(load(s + k * L), k);
+#pragma GCC unroll 3
         for (int k = 0; k < G; k++) store(d + k * L, v[k]);
     };
     if (len < G * L) {
-        T block[G * L] = {};
+        T block[G * L];
+        for (int k = 0; k < G; k++) store(block + k * L, Vec<T>{});
         copyBlock(block, src, len * ptrdiff_t(sizeof(T)));
         group(block, block);
         copyBlock(dst, block, len * ptrdiff_t(sizeof(T)));
         return;
     }
-    T tail[G * L];
-    group(src + len - G * L, tail);
-    ptrdiff_t i = 0;
-    for (; i + G * L <= len; i += G * L) {
+    ptrdiff_t begin = samplesToBoundary(dst);
+    while (begin % G) begin += L;
+    const bool cutTail = (len - begin) % (G * L) != 0;
+    T head[G * L], tail[G * L];
+    if (begin) group(src, head);
+    if (cutTail) group(src + len - G * L, tail);
+    for (ptrdiff_t i = begin; i + G * L <= len; i += G * L) {
         fetchAhead(src + i, G * L * ptrdiff_t(sizeof(T)));
         group(src + i, dst + i);
     }
-    if (i < len) __builtin_memcpy(dst + len - G * L, tail, sizeof tail);
+    if (cutTail) __builtin_memcpy(dst + len - G * L, tail, sizeof tail);
+    if (begin) __builtin_memcpy(dst, head, sizeof head);
 }
 
 // N samples from fewer; the others repeat the last.
