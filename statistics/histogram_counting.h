@@ -50,7 +50,8 @@ inline Tpx32u sumEntries(const Counter* table, ptrdiff_t begin, ptrdiff_t end) {
     if (end - begin >= 16) {
         V32u sums[2] = {};
         for (; begin + 8 <= end; begin += 8)
-            for (int j = 0; j < 2; j++) sums[j] += load(table + begin + 4 * j);
+            for (int j = 0; j < 2; j++)
+                sums[j] += bitsAs<V32u>(load(reinterpret_cast<const Tpx8u*>(table + begin + 4 * j)));
         sums[0] += sums[1];
         for (int j = 0; j < 4; j++) sum += sums[0][j];
     }
@@ -120,6 +121,8 @@ ptrdiff_t nextBlock(Channel& c, Tpx32f* block) {
         T samples[kPixels];
         if constexpr (C == 1) {
             __builtin_memcpy(samples, from, sizeof samples);
+        } else if constexpr (std::is_same_v<T, Tpx32f>) { // four loads are less than to take pixels apart
+            for (ptrdiff_t j = 0; j < kPixels; j++) samples[j] = peek(from + j * C + c.channel);
         } else {
             Several<V8u, C> pixels;
             __builtin_memcpy(&pixels, from, sizeof pixels);
