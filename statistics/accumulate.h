@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Reductions: an accumulator takes the samples of an image, a few registers a step, and ends in a value for
-// each channel.
+// Reductions: lanes take the samples of an image, a few registers a step, and end in a value for each channel.
 //
 // The registers of a step hold whole pixels, so each of their lanes belongs to one channel throughout. What
 // they are added to, or compared with, is a class of lanes:
@@ -8,11 +7,15 @@
 //   Register             Vec<Sample>, or half of it where a load of half a register is widened by the way
 //   kChannels            of a pixel
 //   take(x...)           a step, from one source or two
-//   kNeutral             what fills up the last step of a run: zeros, or samples that the run has anyway
+//   kTwice               whether a sample may be taken twice
+//   kFiller              fills up the step of a run that is shorter: a sample that changes nothing
 //   kSteps               how many steps they have room for, before any lane can overflow
 // Those of sums also have
-//   Total, kPeriod       totals of a period of whole pixels
-//   carry(totals)        adds the lanes to the totals, each to that of its sample, and clears them
+//   Total                what they are carried to: exact sums of channels, or registers of doubles
+//   kPeriod              of those, as many as hold whole pixels
+//   addTo(totals)        adds the lanes
+// and others
+//   values()             the value of each channel
 // Lanes are made of other lanes: a norm is a term in front of a sum (lanes.h).
 #pragma once
 
@@ -20,8 +23,6 @@
 #include "frame/runs/runs.h"
 
 namespace tpx {
-
-enum class Neutral { zeros, repeats };
 
 inline constexpr ptrdiff_t kEndless = PTRDIFF_MAX; // steps of lanes that cannot overflow
 
@@ -44,6 +45,22 @@ inline Register registerAt(const void* p) {
     typedef Register Anywhere __attribute__((aligned(1), may_alias));
     return *static_cast<const Anywhere*>(p);
 }
+
+// An array that is copied one register after the other. g++ copies others in pieces of 16 bytes, and the load
+// of a longer register would wait for two of them.
+template <class V, int N>
+struct RegisterArray {
+    V at[N];
+
+    RegisterArray() = default;
+    RegisterArray(const RegisterArray& from) { *this = from; }
+    RegisterArray& operator=(const RegisterArray& from) {
+        for (int k = 0; k < N; k++) at[k] = from.at[k];
+        return *this;
+    }
+    V& operator[](int k) { return at[k]; }
+    const V& operator[](int k) const { return at[k]; }
+};
 
 // ---- Steps of a run --------------------------------------------------------------------------------------
 
@@ -74,7 +91,7 @@ inline StepOf<Lanes> loadLastStep(const T* src, ptrdiff_t len, ptrdiff_t taken) 
     if (len >= kStep) {
         const ptrdiff_t first = len - kStep;
         StepOf<Lanes> x = loadStep<Lanes>(src + first);
-        if constexpr (Lanes::kNeutral == Neutral::zeros) {
+        if constexpr (!Lanes::kTwice) {
             const Tpx8u* mask = kCutMask.bytes + kMostStepBytes - (taken - first) * ptrdiff_t(sizeof(T));
             for (auto& v : x.at) {
                 using Bits = std::conditional_t<sizeof v == 32, B32f, V8u>;
@@ -84,112 +101,147 @@ inline StepOf<Lanes> loadLastStep(const T* src, ptrdiff_t len, ptrdiff_t taken) 
         }
         return x;
     }
-    T block[kStep] = {};
+    T block[kStep];
+    for (ptrdiff_t i = 0; i < kStep; i += kLanes<T>) store(block + i, splat<Vec<T>>(Lanes::kFiller));
     copyBlock(block, src, len * ptrdiff_t(sizeof(T)));
-    if constexpr (Lanes::kNeutral == Neutral::repeats)
-        for (ptrdiff_t i = len; i < kStep; i++) block[i] = block[i - len];
     return loadStep<Lanes>(block);
 }
 
-// Takes the samples of a run from each source. `room` counts the steps that are left until full() has to make
-// room in the lanes for kSteps more. The loop works on a copy of the lanes whose address goes nowhere, so they
-// stay in registers whatever full() calls.
-template <class Lanes, class Full, class... Src>
-inline void takeRun(Lanes& lanes, ptrdiff_t& room, const Full& full, ptrdiff_t len, const Src*... src) {
-    constexpr ptrdiff_t kStep = kStepSamples<Lanes>;
-    Lanes l = lanes;
-    const auto spend = [&](ptrdiff_t steps) {
-        room -= steps;
-        if (room > 0) return;
-        lanes = l;
-        full();
-        l = lanes;
-        room = Lanes::kSteps;
-    };
-    ptrdiff_t i = 0;
-    for (ptrdiff_t steps = len / kStep; steps > 0;) {
-        const ptrdiff_t some = steps < room ? steps : room;
-        for (const ptrdiff_t end = i + some * kStep; i < end; i += kStep) l.take(loadStep<Lanes>(src + i)...);
-        steps -= some;
-        spend(some);
-    }
-    if (i < len) {
-        l.take(loadLastStep<Lanes>(src, len, i)...);
-        spend(1);
-    }
-    lanes = l;
+// Takes the last samples of a run. Lanes of two sides may have to fill it up for either.
+template <class Lanes, class... Src>
+inline void takeLastStep(Lanes& lanes, ptrdiff_t len, ptrdiff_t taken, const Src*... src) {
+    if constexpr (requires { lanes.takeLast(len, taken, src...); })
+        lanes.takeLast(len, taken, src...);
+    else
+        lanes.take(loadLastStep<Lanes>(src, len, taken)...);
 }
 
-// All samples of an image, or of two, into an accumulator.
-template <class Accumulator, class... Src>
-inline void accumulate(Accumulator& into, Extent samples, const ImageView<Src>&... images) {
-    walkJoined(
-        samples, [&](ptrdiff_t len, const Src*... rows) { into.run(len, rows...); }, images...);
-}
+// ---- Totals ----------------------------------------------------------------------------------------------
 
-// ---- Accumulators ----------------------------------------------------------------------------------------
+// A value for each channel.
+template <int C, class T>
+struct Values {
+    T of[C];
+};
 
-template <class Lanes>
-class SumAccumulator {
-    Lanes lanes;
-    typename Lanes::Total totals[Lanes::kPeriod];
-    ptrdiff_t room = Lanes::kSteps;
-
-    [[gnu::noinline]] void carry() { lanes.carry(totals); }
+// What sums are carried to. Those of integers are exact, and rounded once: the sums of their upper and of their
+// lower halves are not rounded.
+template <class Lanes, class Total = typename Lanes::Total>
+class Totals {
+    static constexpr int C = Lanes::kChannels;
+    Tpx64s upper[C] = {}, lower[C] = {};
 
  public:
-    // The totals as registers of zeros that g++ does not know to be zeros: it would clear them by `rep stos`,
-    // which takes longer than an image of a few rows.
-    SumAccumulator() {
-        const V32f zeros = inRegister(V32f{});
-        static_assert(sizeof totals % sizeof zeros == 0);
-        for (size_t i = 0; i < sizeof totals; i += sizeof zeros)
-            __builtin_memcpy(reinterpret_cast<char*>(totals) + i, &zeros, sizeof zeros);
-    }
-
-    // A function by itself: its code does not depend on what g++ makes of the row loop around it.
-    template <class... Src>
-    [[gnu::noinline]] void run(ptrdiff_t len, const Src*... src) {
-        takeRun(
-            lanes, room, [this] { carry(); }, len, src...);
-    }
-    // After the last run.
-    void finish() { carry(); }
-
-    // The sum of a channel. Totals of integers are exact, and rounded once: the sums of their upper and of
-    // their lower halves are not rounded.
-    Tpx64f value(int channel) const {
-        constexpr int C = Lanes::kChannels;
-        if constexpr (std::is_same_v<typename Lanes::Total, Tpx64f>) {
-            Tpx64f sum = 0;
-            for (int i = channel; i < Lanes::kPeriod; i += C) sum += totals[i];
-            return sum;
-        } else {
-            Tpx64s upper = 0, lower = 0;
-            for (int i = channel; i < Lanes::kPeriod; i += C) {
-                upper += totals[i] >> 32;
-                lower += totals[i] & 0xFFFFFFFF;
-            }
-            return Tpx64f(upper) * 0x1p32 + Tpx64f(lower);
+    void add(const Lanes& lanes) {
+        Total sums;
+        lanes.addTo(sums);
+        for (int c = 0; c < C; c++) {
+            upper[c] += sums.of(c) >> 32;
+            lower[c] += sums.of(c) & 0xFFFFFFFF;
         }
+    }
+    Tpx64f of(int channel) const { return Tpx64f(upper[channel]) * 0x1p32 + Tpx64f(lower[channel]); }
+};
+template <class Lanes>
+class Totals<Lanes, V64f> {
+    V64f registers[Lanes::kPeriod] = {};
+
+ public:
+    void add(const Lanes& lanes) { lanes.addTo(registers); }
+    Tpx64f of(int channel) const {
+        Tpx64f sum = 0;
+        for (int i = channel; i < Lanes::kPeriod * kLanes<Tpx64f>; i += Lanes::kChannels)
+            sum += registers[i / kLanes<Tpx64f>][i % kLanes<Tpx64f>];
+        return sum;
     }
 };
 
-// For lanes that cannot overflow.
+// What lanes have been carried to so far.
 template <class Lanes>
-class ExtremeAccumulator {
-    ptrdiff_t room = kEndless;
+class Carried {
+    Totals<Lanes> totals;
+
+    [[gnu::noinline]] void add(const Lanes& lanes) { totals.add(lanes); }
 
  public:
-    static_assert(Lanes::kSteps == kEndless);
-    Lanes lanes;
+    ptrdiff_t room = Lanes::kSteps; // for steps more
 
-    template <class... Src>
-    void run(ptrdiff_t len, const Src*... src) {
-        takeRun(
-            lanes, room, [] {}, len, src...);
+    void spend(Lanes& lanes, ptrdiff_t steps) {
+        if constexpr (Lanes::kSteps != kEndless) {
+            room -= steps;
+            if (room > 0) return;
+            const Lanes full = lanes;
+            add(full);
+            lanes = Lanes{};
+            room = Lanes::kSteps;
+        }
     }
-    void finish() {}
+    Values<Lanes::kChannels, Tpx64f> values(const Lanes& lanes) const {
+        Totals<Lanes> all = totals;
+        all.add(lanes);
+        Values<Lanes::kChannels, Tpx64f> sums;
+        for (int c = 0; c < Lanes::kChannels; c++) sums.of[c] = all.of(c);
+        return sums;
+    }
+};
+// Of those that have values, nothing.
+template <class Lanes>
+requires requires(const Lanes& lanes) { lanes.values(); }
+struct Carried<Lanes> {
+    static constexpr ptrdiff_t room = kEndless;
+    void spend(Lanes&, ptrdiff_t) {}
+    auto values(const Lanes& lanes) const { return lanes.values(); }
+};
+
+// ---- Loops -----------------------------------------------------------------------------------------------
+//
+// They work on lanes that are variables of their own, whose address goes nowhere (what is called gets a copy),
+// and are functions by themselves: so the lanes stay in registers.
+
+// Takes the samples of a run from each source.
+template <class Lanes, class... Src>
+[[gnu::always_inline]] inline void takeRun(Lanes& lanes, Carried<Lanes>& carried, ptrdiff_t len,
+                                           const Src*... src) {
+    constexpr ptrdiff_t kStep = kStepSamples<Lanes>;
+    ptrdiff_t i = 0;
+    for (ptrdiff_t steps = len / kStep; steps > 0;) {
+        const ptrdiff_t some = steps < carried.room ? steps : carried.room;
+        for (const ptrdiff_t end = i + some * kStep; i < end; i += kStep)
+            lanes.take(loadStep<Lanes>(src + i)...);
+        steps -= some;
+        carried.spend(lanes, some);
+    }
+    if (i < len) {
+        takeLastStep(lanes, len, i, src...);
+        carried.spend(lanes, 1);
+    }
+}
+
+// The values of all samples of an image, or of two.
+template <class Lanes, class... Src>
+[[gnu::noinline]] auto reduce(Extent samples, ImageView<Src>... images) {
+    Lanes lanes{};
+    Carried<Lanes> carried;
+    walkJoined(
+        samples, [&](ptrdiff_t len, const Src*... rows) { takeRun(lanes, carried, len, rows...); }, images...);
+    const Lanes all = lanes;
+    return carried.values(all);
+}
+
+// Of runs that come one after the other.
+template <class Lanes>
+class Reduction {
+    Lanes lanes{};
+    Carried<Lanes> carried;
+
+ public:
+    template <class... Src>
+    [[gnu::noinline]] void take(ptrdiff_t len, const Src*... src) {
+        Lanes own = lanes;
+        takeRun(own, carried, len, src...);
+        lanes = own;
+    }
+    auto values() const { return carried.values(lanes); }
 };
 
 } // namespace tpx

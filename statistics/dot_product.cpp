@@ -11,10 +11,8 @@ TpxStatus sumProducts(ImageView<const T> src1, ImageView<const T> src2, TpxiSize
     if (anyNull(src1.data, src2.data) || anyNull(products)) return tpxErrNullPointer;
     if (isEmpty(size) || src1.step == 0 || src2.step == 0) return tpxErrSize;
 
-    SumAccumulator<Lanes> total;
-    accumulate(total, samplesOf(size, channelsOf(L)), src1, src2);
-    total.finish();
-    for (int c = 0; c < coloursOf(L); c++) products[c] = total.value(c);
+    const auto values = reduce<Lanes>(samplesOf(size, channelsOf(L)), src1, src2);
+    for (int c = 0; c < coloursOf(L); c++) products[c] = values.of[c];
     return tpxOk;
 }
 

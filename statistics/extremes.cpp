@@ -15,9 +15,8 @@ TpxStatus extreme(ImageView<const T> src, TpxiSizeL size, T* values) {
     if (isEmpty(size)) return tpxErrSize;
 
     constexpr int C = channelsOf(L);
-    ExtremeAccumulator<ExtremeLanes<T, C, Side>> found;
-    accumulate(found, samplesOf(size, C), src);
-    for (int c = 0; c < coloursOf(L); c++) values[c] = found.lanes.of(c);
+    const auto extremes = reduce<ExtremeLanes<T, C, Side>>(samplesOf(size, C), src);
+    for (int c = 0; c < coloursOf(L); c++) values[c] = extremes.of[c];
     return tpxOk;
 }
 
@@ -27,20 +26,20 @@ TpxStatus bothExtremes(ImageView<const T> src, TpxiSizeL size, T* smallest, T* l
     if (isEmpty(size)) return tpxErrSize;
 
     constexpr int C = channelsOf(L);
-    ExtremeAccumulator<LeastAndMostLanes<T, C>> found;
-    accumulate(found, samplesOf(size, C), src);
+    const auto [least, most] = reduce<LeastAndMostLanes<T, C>>(samplesOf(size, C), src);
     for (int c = 0; c < coloursOf(L); c++) {
-        smallest[c] = found.lanes.least.of(c);
-        largest[c] = found.lanes.most.of(c);
+        smallest[c] = least.of[c];
+        largest[c] = most.of[c];
     }
     return tpxOk;
 }
 
 // ---- Places ----------------------------------------------------------------------------------------------
 
-// Rows are passed in bands that stay in the first-level cache. A channel's band is the first in which its
-// best sample got better for the last time; the first such sample is then looked for in the band's rows.
-constexpr ptrdiff_t kBandBytes = 16384;
+// Rows are passed in bands. A channel's band is the first in which its best sample got better for the last
+// time; the first such sample is then looked for in the band's rows. Longer bands are more to search again,
+// shorter ones more ends of loops, which add up in large images.
+constexpr ptrdiff_t kBandBytes = 16384, kLargeImage = 524288;
 
 template <Layout L, class Side, class T>
 TpxStatus placeOfExtreme(ImageView<const T> src, TpxiSizeL size, T* values, int* xs, int* ys) {
@@ -49,7 +48,8 @@ TpxStatus placeOfExtreme(ImageView<const T> src, TpxiSizeL size, T* values, int*
 
     constexpr int C = channelsOf(L), kResults = coloursOf(L);
     const Extent all = samplesOf(size, C);
-    const ptrdiff_t fitting = kBandBytes / (all.width * ptrdiff_t(sizeof(T)));
+    const ptrdiff_t rowBytes = all.width * ptrdiff_t(sizeof(T));
+    const ptrdiff_t fitting = (all.height < kLargeImage / rowBytes ? 1 : 2) * kBandBytes / rowBytes;
     const ptrdiff_t band = fitting > 1 ? fitting : 1;
     T best[kResults];
     ptrdiff_t bands[kResults] = {}; // first rows
@@ -57,11 +57,10 @@ TpxStatus placeOfExtreme(ImageView<const T> src, TpxiSizeL size, T* values, int*
     bool bound = false; // nothing can get better
     for (ptrdiff_t y = 0; y < all.height && !bound; y += band) {
         const ptrdiff_t left = all.height - y, rows = band < left ? band : left;
-        ExtremeAccumulator<ExtremeLanes<T, C, Side>> found;
-        accumulate(found, Extent{all.width, rows}, src.from(0, y));
+        const auto extremes = reduce<ExtremeLanes<T, C, Side>>(Extent{all.width, rows}, src.from(0, y));
         bound = true;
         for (int c = 0; c < kResults; c++) {
-            const T here = found.lanes.of(c);
+            const T here = extremes.of[c];
             if (Side::better(here, best[c])) {
                 best[c] = here;
                 bands[c] = y;
@@ -72,12 +71,14 @@ TpxStatus placeOfExtreme(ImageView<const T> src, TpxiSizeL size, T* values, int*
 
     for (int c = 0; c < kResults; c++) {
         values[c] = best[c];
-        xs[c] = ys[c] = 0;                                  // of a channel without numbers
-        for (ptrdiff_t y = bands[c]; y < all.height; y++) { // an infinite start may be met in a later band
-            const ptrdiff_t x = findInRow<C>(src.row(y), ptrdiff_t(size.width), c, best[c]);
+        xs[c] = ys[c] = 0; // of a channel without numbers
+        // An infinite start may be met in a later band.
+        const Extent rest = joinRows(Extent{all.width, all.height - bands[c]}, src);
+        for (ptrdiff_t y = 0; y < rest.height; y++) {
+            const ptrdiff_t x = findInRun<C>(src.row(bands[c] + y), rest.width, c, best[c]);
             if (x < 0) continue;
-            xs[c] = int(x);
-            ys[c] = int(y);
+            xs[c] = int(x % all.width / C);
+            ys[c] = int(bands[c] + y + x / all.width);
             break;
         }
     }

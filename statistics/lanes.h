@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Sums as lanes of an accumulator: of samples, of products, of squares, and of what a term makes of samples.
+// Sums as lanes of reductions: of samples, of products, of squares, and of what a term makes of samples.
 #pragma once
 
 #include "frame/simd/doubles.h"
@@ -20,16 +20,38 @@ struct SumsOf {
     using Register = Vec<T>;
     using Total = Sum;
     static constexpr int kRegisters = N, kChannels = C;
-    static constexpr Neutral kNeutral = Neutral::zeros;
-    static constexpr int kPeriod = C == 3 ? 3 * kLanes<T> : kLanes<T>;
+    static constexpr bool kTwice = false;
+    static constexpr T kFiller = 0;
+};
 
-    // Adds lane j of `v`, times `unit`, to the total of sample first + j * stride.
+// The exact sums of channels, from lanes that are added in pairs: one for each two channels that meet in a
+// register.
+template <int C>
+class ExactSums {
+    V64u pairs[C][C] = {};
+
+ public:
+    // Adds lane j of `v`, times 2^shift, to the channel of sample first + j * stride of a step.
+    void add(V64u v, int first, int stride, int shift = 0) {
+        pairs[first % C][(first + stride) % C] += v << shift;
+    }
     template <class V>
-    static void addLanes(Sum* totals, V v, int first, int stride, Sum unit = 1) {
-        constexpr int kCount = int(sizeof(V) / sizeof(LaneOf<V>));
-        LaneOf<V> lanes[kCount];
-        __builtin_memcpy(lanes, &v, sizeof lanes);
-        for (int j = 0; j < kCount; j++) totals[(first + j * stride) % kPeriod] += Sum(lanes[j]) * unit;
+    void add(V v, int first, int stride, int shift = 0) {
+        const auto both = [&] {
+            if constexpr (sizeof(LaneOf<V>) == 4)
+                return widen64(v);
+            else
+                return widen(v);
+        }();
+        add(both.low, first, stride, shift);
+        add(both.high, first + stride * kLanes<LaneOf<V>> / 2, stride, shift);
+    }
+    void add(int channel, Tpx64s x) { pairs[channel][channel] += V64u{Tpx64u(x), 0}; }
+
+    Tpx64s of(int channel) const {
+        Tpx64u sum = 0;
+        for (int c = 0; c < C; c++) sum += pairs[channel][c][0] + pairs[c][channel][1];
+        return Tpx64s(sum);
     }
 };
 
@@ -44,7 +66,9 @@ struct HalfSums {
 
     V all{}, upper{};
 
+    // Loaded once: g++ would load for either sum, and loads would limit this.
     void add(V x) {
+        x = inRegister(x);
         all += x;
         upper += x >> kHalf;
     }
@@ -53,7 +77,7 @@ struct HalfSums {
 
 // Unsigned samples of any channels, two of which share a lane of twice their width.
 template <class T, int C, int N = kStepRegisters<C>>
-struct HalfLanes : SumsOf<T, C, Tpx64s, N> {
+struct HalfLanes : SumsOf<T, C, ExactSums<C>, N> {
     using Half = HalfSums<std::conditional_t<sizeof(T) == 1, V16u, V32u>>;
     static constexpr ptrdiff_t kSteps = Half::kSteps;
     Half sums[N];
@@ -62,11 +86,10 @@ struct HalfLanes : SumsOf<T, C, Tpx64s, N> {
     void take(const Registers<T, N>& x) {
         for (int k = 0; k < N; k++) add(k, x.at[k]);
     }
-    void carry(Tpx64s* totals) {
+    void addTo(ExactSums<C>& totals, int shift = 0) const {
         for (int k = 0; k < N; k++) {
-            this->addLanes(totals, sums[k].lower(), k * kLanes<T>, 2);
-            this->addLanes(totals, sums[k].upper, k * kLanes<T> + 1, 2);
-            sums[k] = {};
+            totals.add(sums[k].lower(), k * kLanes<T>, 2, shift);
+            totals.add(sums[k].upper, k * kLanes<T> + 1, 2, shift);
         }
     }
 };
@@ -75,7 +98,7 @@ struct SumLanes : HalfLanes<T, C, N> {};
 
 // Neighbours share a lane where all samples are of one channel.
 template <int N>
-struct SumLanes<Tpx8u, 1, N> : SumsOf<Tpx8u, 1, Tpx64s, N> {
+struct SumLanes<Tpx8u, 1, N> : SumsOf<Tpx8u, 1, ExactSums<1>, N> {
     static constexpr ptrdiff_t kSteps = (1 << 21) / N; // a lane gets at most 4 * 255 a register
     V32s sum{};
 
@@ -84,31 +107,25 @@ struct SumLanes<Tpx8u, 1, N> : SumsOf<Tpx8u, 1, Tpx64s, N> {
         for (int k = 1; k < N; k++) pairs += addPairs(x.at[k]);
         sum += addPairs(pairs);
     }
-    void carry(Tpx64s* totals) {
-        this->addLanes(totals, sum, 0, 1);
-        sum = V32s{};
-    }
+    void addTo(ExactSums<1>& totals) const { totals.add(sum, 0, 1); }
 };
 template <int N>
-struct SumLanes<Tpx16s, 1, N> : SumsOf<Tpx16s, 1, Tpx64s, N> {
+struct SumLanes<Tpx16s, 1, N> : SumsOf<Tpx16s, 1, ExactSums<1>, N> {
     static constexpr ptrdiff_t kSteps = 1 << 15; // a lane gets at most 2^16
     V32s sums[N] = {};
 
     void take(const Registers<Tpx16s, N>& x) {
         for (int k = 0; k < N; k++) sums[k] += addPairs(x.at[k]);
     }
-    void carry(Tpx64s* totals) {
-        for (V32s& sum : sums) {
-            this->addLanes(totals, sum, 0, 1);
-            sum = V32s{};
-        }
+    void addTo(ExactSums<1>& totals) const {
+        for (V32s sum : sums) totals.add(sum, 0, 1);
     }
 };
 
 // Half of their range lower, unsigned samples are signed ones.
 inline V16s lowered(V16u x) { return V16s(x ^ splat<V16u>(0x8000)); }
 template <int N>
-struct SumLanes<Tpx16u, 1, N> : SumsOf<Tpx16u, 1, Tpx64s, N> {
+struct SumLanes<Tpx16u, 1, N> : SumsOf<Tpx16u, 1, ExactSums<1>, N> {
     static constexpr ptrdiff_t kSteps = SumLanes<Tpx16s, 1, N>::kSteps;
     SumLanes<Tpx16s, 1, N> low;
     Tpx64s steps = 0;
@@ -119,17 +136,16 @@ struct SumLanes<Tpx16u, 1, N> : SumsOf<Tpx16u, 1, Tpx64s, N> {
         low.take(signedSamples);
         steps++;
     }
-    void carry(Tpx64s* totals) {
-        low.carry(totals);
-        totals[0] += steps * N * kLanes<Tpx16u> << 15;
-        steps = 0;
+    void addTo(ExactSums<1>& totals) const {
+        low.addTo(totals);
+        totals.add(0, steps * N * kLanes<Tpx16u> << 15);
     }
 };
 // ---- Products of integers --------------------------------------------------------------------------------
 
 // The lower and the upper halves of products of 16-bit samples are samples to be added themselves.
 template <class T, int C>
-struct ProductLanes : SumsOf<T, C, Tpx64s, C == 3 ? 3 : 2> {
+struct ProductLanes : SumsOf<T, C, ExactSums<C>, C == 3 ? 3 : 2> {
     static constexpr int N = ProductLanes::kRegisters;
     using Halves = HalfLanes<T, C, N>;
     static constexpr ptrdiff_t kSteps = Halves::kSteps;
@@ -141,11 +157,9 @@ struct ProductLanes : SumsOf<T, C, Tpx64s, C == 3 ? 3 : 2> {
             upper.add(k, multiplyHigh(x.at[k], y.at[k]));
         }
     }
-    void carry(Tpx64s* totals) {
-        lower.carry(totals);
-        Tpx64s uppers[ProductLanes::kPeriod] = {};
-        upper.carry(uppers);
-        for (int i = 0; i < ProductLanes::kPeriod; i++) totals[i] += uppers[i] * 65536;
+    void addTo(ExactSums<C>& totals) const {
+        lower.addTo(totals);
+        upper.addTo(totals, 16);
     }
 };
 
@@ -164,7 +178,7 @@ inline Pair<V> neighbours(V a, V b) {
 
 // Signed samples of several channels: three operations a register.
 template <int C, int N>
-struct SumLanes<Tpx16s, C, N> : SumsOf<Tpx16s, C, Tpx64s, kPairRegisters<C>> {
+struct SumLanes<Tpx16s, C, N> : SumsOf<Tpx16s, C, ExactSums<C>, kPairRegisters<C>> {
     static constexpr int kPairs = kPairRegisters<C>, kSums = kPairs / 2; // a sum gets two registers a step
     static constexpr ptrdiff_t kSteps = 1 << 14;                         // and a lane at most 2^16 of each
     V32s sums[kSums] = {};
@@ -176,11 +190,8 @@ struct SumLanes<Tpx16s, C, N> : SumsOf<Tpx16s, C, Tpx64s, kPairRegisters<C>> {
             sums[(2 * k + 1) % kSums] += addPairs(a.high);
         }
     }
-    void carry(Tpx64s* totals) {
-        for (int m = 0; m < kSums; m++) {
-            this->addLanes(totals, sums[m], 4 * m, 1);
-            sums[m] = V32s{};
-        }
+    void addTo(ExactSums<C>& totals) const {
+        for (int m = 0; m < kSums; m++) totals.add(sums[m], 4 * m, 1);
     }
 };
 
@@ -210,7 +221,7 @@ struct SquaredPairs {
 };
 
 template <int C, class Pairs>
-struct PairLanes : SumsOf<Tpx16s, C, Tpx64s, kPairRegisters<C>> {
+struct PairLanes : SumsOf<Tpx16s, C, ExactSums<C>, kPairRegisters<C>> {
     static constexpr int N = kPairRegisters<C>, kSums = N / 2; // each gets two registers of pairs a step
     static constexpr ptrdiff_t kSteps = Pairs::kSteps / 2;
     Pairs sums[kSums];
@@ -223,11 +234,10 @@ struct PairLanes : SumsOf<Tpx16s, C, Tpx64s, kPairRegisters<C>> {
             sums[(2 * k + 1) % kSums].add(multiplyAddPairs(a.high, b.high));
         }
     }
-    void carry(Tpx64s* totals) {
+    void addTo(ExactSums<C>& totals) const {
         for (int m = 0; m < kSums; m++) {
-            this->addLanes(totals, sums[m].lower(), C == 1 ? 0 : 4 * m, 1);
-            this->addLanes(totals, sums[m].upper(), C == 1 ? 0 : 4 * m, 1, 65536);
-            sums[m] = {};
+            totals.add(sums[m].lower(), C == 1 ? 0 : 4 * m, 1);
+            totals.add(sums[m].upper(), C == 1 ? 0 : 4 * m, 1, 16);
         }
     }
 };
@@ -236,7 +246,7 @@ struct ProductLanes<Tpx16s, C> : PairLanes<C, SignedPairs> {};
 
 // Bytes: pairs of every other sample.
 template <int C>
-struct ProductLanes<Tpx8u, C> : SumsOf<Tpx8u, C, Tpx64s, kPairRegisters<C>> {
+struct ProductLanes<Tpx8u, C> : SumsOf<Tpx8u, C, ExactSums<C>, kPairRegisters<C>> {
     static constexpr int N = kPairRegisters<C>, kSums = N / 2;
     static constexpr ptrdiff_t kSteps = 1 << 13; // a lane gets at most 2 * 2 * 255^2
     V32s even[kSums] = {}, odd[kSums] = {};
@@ -249,11 +259,10 @@ struct ProductLanes<Tpx8u, C> : SumsOf<Tpx8u, C, Tpx64s, kPairRegisters<C>> {
             add((2 * k + 1) % kSums, V16u(a.high), V16u(b.high));
         }
     }
-    void carry(Tpx64s* totals) {
+    void addTo(ExactSums<C>& totals) const {
         for (int m = 0; m < kSums; m++) {
-            this->addLanes(totals, even[m], C == 1 ? 0 : 8 * m, C == 1 ? 1 : 2);
-            this->addLanes(totals, odd[m], C == 1 ? 0 : 8 * m + 1, C == 1 ? 1 : 2);
-            even[m] = odd[m] = V32s{};
+            totals.add(even[m], C == 1 ? 0 : 8 * m, C == 1 ? 1 : 2);
+            totals.add(odd[m], C == 1 ? 0 : 8 * m + 1, C == 1 ? 1 : 2);
         }
     }
 
@@ -282,7 +291,7 @@ struct SquareLanes<Tpx16s, C> : PairLanes<C, SquaredPairs> {
 // x^2 is y^2 + 2^16 y + 2^30 for y = x - 2^15. Pairs of y^2 and of y take seven operations a register, the
 // halves of x^2 eight.
 template <>
-struct SquareLanes<Tpx16u, 1> : SumsOf<Tpx16u, 1, Tpx64s, 4> {
+struct SquareLanes<Tpx16u, 1> : SumsOf<Tpx16u, 1, ExactSums<1>, 4> {
     using Squares = SquareLanes<Tpx16s, 1>;
     static constexpr ptrdiff_t kSteps = Squares::kSteps; // a linear sum gets at most 2 * 2^16
     Squares squares;
@@ -296,14 +305,10 @@ struct SquareLanes<Tpx16u, 1> : SumsOf<Tpx16u, 1, Tpx64s, 4> {
         for (int k = 0; k < 4; k++) linear[k % 2] += addPairs(y.at[k]);
         steps++;
     }
-    void carry(Tpx64s* totals) {
-        squares.carry(totals);
-        for (V32s& sum : linear) {
-            addLanes(totals, sum, 0, 1, 65536);
-            sum = V32s{};
-        }
-        totals[0] += steps * 4 * kLanes<Tpx16u> << 30;
-        steps = 0;
+    void addTo(ExactSums<1>& totals) const {
+        squares.addTo(totals);
+        for (V32s sum : linear) totals.add(sum, 0, 1, 16);
+        totals.add(0, steps * 4 * kLanes<Tpx16u> << 30);
     }
 };
 
@@ -317,22 +322,28 @@ template <class T, class Sum>
 inline constexpr bool kWidened = std::is_same_v<T, Tpx32f> && sizeof(Sum) == 8;
 
 template <class T, int C, class Real, class Sum, class Term>
-struct RealLanes : SumsOf<T, C, Tpx64f, kStepRegisters<C>*(kWidened<T, Sum> ? 2 : 1)> {
+struct RealLanes : SumsOf<T, C, V64f, kStepRegisters<C>*(kWidened<T, Sum> ? 2 : 1)> {
     static constexpr int N = RealLanes::kRegisters, kSumLanes = kLanes<Sum>;
     using Register = std::conditional_t<kWidened<T, Sum>, Four<float>, Vec<T>>;
     static_assert(kRegisterLanes<RealLanes> == kSumLanes);
     // Single precision keeps its digits in short sums.
     static constexpr ptrdiff_t kSteps = sizeof(Sum) == 4 ? 256 : kEndless;
-    Vec<Sum> sums[N] = {};
+    RegisterArray<Vec<Sum>, N> sums = {};
 
     template <class... X>
     void take(const X&... x) {
         for (int k = 0; k < N; k++) sums[k] += termOf(x.at[k]...);
     }
-    void carry(Tpx64f* totals) {
+    static constexpr int kPeriod = (C == 3 ? 3 : 1) * kLanes<T> / kLanes<Tpx64f>;
+    void addTo(V64f* totals) const {
         for (int k = 0; k < N; k++) {
-            this->addLanes(totals, sums[k], k * kSumLanes, 1);
-            sums[k] = Vec<Sum>{};
+            if constexpr (sizeof(Sum) == 8) {
+                totals[k % kPeriod] += sums[k];
+            } else {
+                const Pair<V64f> wide = toDouble(sums[k]);
+                totals[2 * k % kPeriod] += wide.low;
+                totals[(2 * k + 1) % kPeriod] += wide.high;
+            }
         }
     }
 
@@ -376,6 +387,7 @@ struct TermLanes : Lanes {
     using Sample = T;
     using Register = Vec<T>;
     static constexpr int N = Lanes::kRegisters;
+    static constexpr T kFiller = 0;
 
     void take(const Registers<T, N>& x) {
         takeTerms([&](int k) { return Term::of(x.at[k]); });
@@ -400,18 +412,15 @@ struct TermLanes : Lanes {
 };
 
 // |x - y| of bytes of one channel, whose sums are an instruction.
-struct ByteDifferences : SumsOf<Tpx8u, 1, Tpx64s, 4> {
+struct ByteDifferences : SumsOf<Tpx8u, 1, ExactSums<1>, 4> {
     static constexpr ptrdiff_t kSteps = kEndless;
     V64u sums[2] = {};
 
     void take(const Registers<Tpx8u, 4>& x, const Registers<Tpx8u, 4>& y) {
         for (int k = 0; k < 4; k++) sums[k % 2] += sumOfDifferences(x.at[k], y.at[k]);
     }
-    void carry(Tpx64s* totals) {
-        for (V64u& sum : sums) {
-            addLanes(totals, sum, 0, 1);
-            sum = V64u{};
-        }
+    void addTo(ExactSums<1>& totals) const {
+        for (V64u sum : sums) totals.add(sum, 0, 1);
     }
 };
 

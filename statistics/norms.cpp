@@ -38,7 +38,7 @@ struct Square {
 
 // ---- Kinds of norms, by the type of samples and by their channels -----------------------------------------
 //
-//   OfImage, OfDifference   the accumulators of one image and of the difference of two
+//   OfImage, OfDifference   the lanes of one image and of the difference of two
 //   norm(x)                 what comes of a channel's value
 // Real is the type in which terms of floats are worked on and added; those of integers are exact.
 
@@ -54,42 +54,43 @@ struct MagnitudeOf<Tpx32f> {
 template <class T>
 using Magnitudes = typename MagnitudeOf<T>::type;
 
-template <class T, int C>
-class LargestMagnitude
-    : public ExtremeAccumulator<TermLanes<T, Magnitude, ExtremeLanes<Magnitudes<T>, C, Most>>> {
- public:
-    Tpx64f value(int channel) const {
-        const auto largest = this->lanes.of(channel);
-        return largest > 0 ? Tpx64f(largest) : 0; // nothing but NaN is 0
-    }
-};
-
 template <class T, int Channels>
 struct NormOf {
     using Sample = T;
     static constexpr int C = Channels;
 };
 
+template <class T, int C, int N>
+struct LargestMagnitude : TermLanes<T, Magnitude, ExtremeLanes<Magnitudes<T>, C, Most, N>> {
+    auto values() const {
+        const auto largest = ExtremeLanes<Magnitudes<T>, C, Most, N>::values();
+        Values<C, Tpx64f> norms;
+        for (int c = 0; c < C; c++)
+            norms.of[c] = largest.of[c] > 0 ? Tpx64f(largest.of[c]) : 0; // nothing but NaN is 0
+        return norms;
+    }
+};
+
 template <class T, int C, class Real = T>
 struct Inf : NormOf<T, C> {
-    using OfImage = LargestMagnitude<T, C>;
-    using OfDifference = OfImage;
+    using OfImage = LargestMagnitude<T, C, kExtremeRegisters<T, C>>;
+    using OfDifference = LargestMagnitude<T, C, C == 3 ? 3 : 4>;
     static Tpx64f norm(Tpx64f largest) { return largest; }
 };
 
 template <class T, int C, class Real = T>
 struct L1 : NormOf<T, C> {
     template <class Lanes>
-    using Magnified = SumAccumulator<TermLanes<T, Magnitude, Lanes>>;
+    using Magnified = TermLanes<T, Magnitude, Lanes>;
     using Halves = HalfLanes<Magnitudes<T>, C>;
     using OfImage = Magnified<std::conditional_t<std::is_signed_v<T>, Halves, SumLanes<Magnitudes<T>, C>>>;
-    using OfDifference = std::conditional_t<std::is_same_v<T, Tpx8u> && C == 1, SumAccumulator<ByteDifferences>,
-                                            Magnified<Halves>>;
+    using OfDifference =
+        std::conditional_t<std::is_same_v<T, Tpx8u> && C == 1, ByteDifferences, Magnified<Halves>>;
     static Tpx64f norm(Tpx64f sum) { return sum; }
 };
 template <int C, class Real>
 struct L1<Tpx32f, C, Real> : NormOf<Tpx32f, C> {
-    using OfImage = SumAccumulator<RealLanes<Tpx32f, C, Real, Real, Magnitude>>;
+    using OfImage = RealLanes<Tpx32f, C, Real, Real, Magnitude>;
     using OfDifference = OfImage;
     static Tpx64f norm(Tpx64f sum) { return sum; }
 };
@@ -98,13 +99,13 @@ inline Tpx64f rootOf(Tpx64f sum) { return TPXS(SqrtOne)(sum); }
 
 template <class T, int C, class Real = T>
 struct L2 : NormOf<T, C> {
-    using OfImage = SumAccumulator<SquareLanes<T, C>>;
-    using OfDifference = SumAccumulator<TermLanes<T, Magnitude, SquareLanes<Magnitudes<T>, C>>>;
+    using OfImage = SquareLanes<T, C>;
+    using OfDifference = TermLanes<T, Magnitude, SquareLanes<Magnitudes<T>, C>>;
     static Tpx64f norm(Tpx64f sum) { return rootOf(sum); }
 };
 template <int C, class Real>
 struct L2<Tpx32f, C, Real> : NormOf<Tpx32f, C> {
-    using OfImage = SumAccumulator<RealLanes<Tpx32f, C, Real, Real, Square>>;
+    using OfImage = RealLanes<Tpx32f, C, Real, Real, Square>;
     using OfDifference = OfImage;
     static Tpx64f norm(Tpx64f sum) { return rootOf(sum); }
 };
@@ -120,10 +121,8 @@ TpxStatus norm(Source<Norm> src, TpxiSizeL size, Tpx64f* values) {
     if (isEmpty(size)) return tpxErrSize;
     if (src.step < 1) return tpxErrStep;
 
-    typename Norm::OfImage terms;
-    accumulate(terms, samplesOf(size, Norm::C), src);
-    terms.finish();
-    for (int c = 0; c < Norm::C; c++) values[c] = Norm::norm(terms.value(c));
+    const auto sums = reduce<typename Norm::OfImage>(samplesOf(size, Norm::C), src);
+    for (int c = 0; c < Norm::C; c++) values[c] = Norm::norm(sums.of[c]);
     return tpxOk;
 }
 
@@ -139,10 +138,8 @@ template <class Norm>
 TpxStatus normOfDifference(Source<Norm> src1, Source<Norm> src2, TpxiSizeL size, Tpx64f* values) {
     if (const TpxStatus status = check(src1, src2, size, values)) return status;
 
-    typename Norm::OfDifference terms;
-    accumulate(terms, samplesOf(size, Norm::C), src1, src2);
-    terms.finish();
-    for (int c = 0; c < Norm::C; c++) values[c] = Norm::norm(terms.value(c));
+    const auto sums = reduce<typename Norm::OfDifference>(samplesOf(size, Norm::C), src1, src2);
+    for (int c = 0; c < Norm::C; c++) values[c] = Norm::norm(sums.of[c]);
     return tpxOk;
 }
 
@@ -155,32 +152,25 @@ bool isZero(Tpx64f x) {
 // Runs are cut into pieces that stay in the first-level cache for the second pass, over the reference alone.
 constexpr ptrdiff_t kPiece = 3072;
 
-// A function by itself: with two loops in one, g++ keeps the lanes of either in memory.
-template <class Accumulator, class... Src>
-[[gnu::noinline]] void takePiece(Accumulator& into, ptrdiff_t len, const Src*... src) {
-    into.run(len, src...);
-}
-
 template <class Norm>
 TpxStatus relativeNorm(Source<Norm> src, Source<Norm> ref, TpxiSizeL size, Tpx64f* values) {
     using T = typename Norm::Sample;
     if (const TpxStatus status = check(src, ref, size, values)) return status;
 
-    typename Norm::OfDifference difference;
-    typename Norm::OfImage reference;
+    Reduction<typename Norm::OfDifference> difference;
+    Reduction<typename Norm::OfImage> reference;
     const auto run = [&](ptrdiff_t len, const T* x, const T* y) {
         for (ptrdiff_t i = 0; i < len; i += kPiece) {
             const ptrdiff_t piece = len - i < kPiece ? len - i : kPiece;
-            takePiece(difference, piece, x + i, y + i);
-            takePiece(reference, piece, y + i);
+            difference.take(piece, x + i, y + i);
+            reference.take(piece, y + i);
         }
     };
     walkJoined(samplesOf(size, Norm::C), run, src, ref);
-    difference.finish();
-    reference.finish();
+    const auto overs = difference.values(), unders = reference.values();
     TpxStatus status = tpxOk;
     for (int c = 0; c < Norm::C; c++) {
-        const Tpx64f over = difference.value(c), under = reference.value(c);
+        const Tpx64f over = overs.of[c], under = unders.of[c];
         if (isZero<T>(under)) {
             values[c] = isZero<T>(over) ? __builtin_bit_cast(Tpx64f, 0xFFF8000000000000) : __builtin_huge_val();
             status = tpxWarnDivByZero;

@@ -20,10 +20,8 @@ TpxStatus sum(ImageView<const T> src, TpxiSizeL size, Tpx64f* sums) {
     if (anyNull(src.data) || anyNull(sums)) return tpxErrNullPointer;
     if (isEmpty(size)) return tpxErrSize;
 
-    SumAccumulator<typename LanesOf<T, C>::type> total;
-    accumulate(total, samplesOf(size, C), src);
-    total.finish();
-    for (int c = 0; c < C; c++) sums[c] = total.value(c);
+    const auto values = reduce<typename LanesOf<T, C>::type>(samplesOf(size, C), src);
+    for (int c = 0; c < C; c++) sums[c] = values.of[c];
     return tpxOk;
 }
 

@@ -15,9 +15,16 @@ TEST(Simd, FloatsAndIntegers) {
         const V32f floats = toFloat(pair);
         const V64f doubles = toDouble(low);
         for (int i = 0; i < 8; i++) ASSERT_EQ(floats[i], float(lane(pair, i))) << lane(pair, i);
+        const Pair<V64f> widened = toDouble(floats);
+        for (int i = 0; i < 8; i++) ASSERT_EQ(lane(widened, i), double(floats[i]));
         const V64f byBits = toDoubleByBits(V32u(low));
         for (int i = 0; i < 4; i++) ASSERT_EQ(doubles[i], double(low[i]));
         for (int i = 0; i < 4; i++) ASSERT_EQ(byBits[i], double(Tpx32u(low[i])));
+        const Pair<V64u> wide = widen64(low), wideUnsigned = widen64(V32u(low));
+        for (int i = 0; i < 4; i++) {
+            ASSERT_EQ(Tpx64s(lane(wide, i)), low[i]);
+            ASSERT_EQ(lane(wideUnsigned, i), Tpx32u(low[i]));
+        }
         const V32s back = toInteger(doubles);
         for (int i = 0; i < 4; i++) ASSERT_EQ(back[i], low[i]);
         const Pair<V32s> apart = split(join(pair));
