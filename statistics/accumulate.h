@@ -38,8 +38,8 @@ using StepOf = Several<typename Lanes::Register, Lanes::kRegisters>;
 template <class Lanes>
 inline constexpr ptrdiff_t kStepSamples = Lanes::kRegisters* kRegisterLanes<Lanes>;
 
-// A register at any address. A pointer to registers promises their alignment, which clang takes at its word;
-// and a copy of its bytes into an array goes through memory in halves when g++ makes it.
+// A register at any address, for arrays of them: what peek() copies goes into an array through memory in halves
+// when g++ makes it.
 template <class Register>
 inline Register registerAt(const void* p) {
     typedef Register Anywhere __attribute__((aligned(1), may_alias));

@@ -58,7 +58,7 @@ inline void writeRunStreaming(D* dst, ptrdiff_t len, At at, Fetch fetch, Plain p
 
 // convertRun, mapGroups (its rest by rest(dst, len, src)), applyRun and mapRun past the caches.
 template <class S, class D, class Rule>
-inline void convertRunStreaming(const S* src, D* dst, ptrdiff_t len, Rule&& rule) {
+inline void convertRunStreaming(const S* src, D* dst, ptrdiff_t len, Rule rule) {
     writeRunStreaming(
         dst, len, [&](ptrdiff_t i, int) { return rule(src + i); },
         [&](ptrdiff_t i, int n) { fetchAhead(src + i, n * int(sizeof(S))); },

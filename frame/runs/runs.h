@@ -86,11 +86,10 @@ inline constexpr bool kIsLight = false;
 template <class Rule>
 inline constexpr bool kIsLight<Light<Rule>> = true;
 
-template <bool Joined, class T>
+template <bool Join, class T>
 inline void storeTwo(T* p, Vec<T> a, Vec<T> b) {
-    if constexpr (Joined) {
-        const V32f both = joinHalves<V32f>(a, b);
-        __builtin_memcpy(p, &both, sizeof both);
+    if constexpr (Join) {
+        store(p, joined(a, b));
     } else {
         store(p, a);
         store(p + kLanes<T>, b);
@@ -105,7 +104,7 @@ template <bool IsLight = false, class T, class At, class Whole, class Fetch = No
 [[gnu::always_inline]] inline void writeRun(T* dst, ptrdiff_t len, ptrdiff_t begin, At at, Whole whole,
                                             Fetch fetch = {}) {
     constexpr ptrdiff_t L = kLanes<T>;
-    constexpr bool kJoined = IsLight && sizeof(Vec<T>) == 16;
+    constexpr bool kJoin = IsLight && sizeof(Vec<T>) < sizeof(Joined);
     if (len < L) {
         const Vec<T> v = whole();
         copyShort(dst, &v, len * ptrdiff_t(sizeof(T)));
@@ -116,15 +115,15 @@ template <bool IsLight = false, class T, class At, class Whole, class Fetch = No
     if (begin) head = at(0);
     if (cutTail) tail = at(len - L);
     ptrdiff_t i = begin;
-    if (kJoined && i + L <= len && reinterpret_cast<uintptr_t>(dst + i) % 32 >= 16) {
+    if (kJoin && i + L <= len && reinterpret_cast<uintptr_t>(dst + i) % sizeof(Joined) != 0) {
         store(dst + i, at(i));
         i += L;
     }
     for (; i + 4 * L <= len; i += 4 * L) {
         fetch(i, 4 * L);
         const Vec<T> a = at(i), b = at(i + L), c = at(i + 2 * L), d = at(i + 3 * L);
-        storeTwo<kJoined>(dst + i, a, b);
-        storeTwo<kJoined>(dst + i + 2 * L, c, d);
+        storeTwo<kJoin>(dst + i, a, b);
+        storeTwo<kJoin>(dst + i + 2 * L, c, d);
     }
     for (; i + L <= len; i += L) store(dst + i, at(i));
     if (cutTail) store(dst + len - L, tail);
@@ -207,8 +206,13 @@ inline void padRun(T (&padded)[N], const T* src, ptrdiff_t len) {
     for (ptrdiff_t i = 0; i < N; i++) __builtin_memcpy(padded + i, src + (i < len ? i : len - 1), sizeof(T));
 }
 
+// Results wider than their samples are mostly stores.
+template <class S, class D>
+inline constexpr bool kWidens = sizeof(D) > sizeof(S);
+
 // dst[i...] = rule(src + i), where both have samples of their own types: rule(p) makes a register of results
-// from as many samples at p.
+// from as many samples at p. It is copied: what a caller's rule holds would be loaded, or made, anew after
+// every store.
 template <class D, class S, class Rule>
 inline Vec<D> convertShort(const S* src, ptrdiff_t len, Rule&& rule) {
     S padded[kLanes<D>];
@@ -216,16 +220,16 @@ inline Vec<D> convertShort(const S* src, ptrdiff_t len, Rule&& rule) {
     return rule(padded);
 }
 template <class S, class D, class Rule>
-inline void convertRun(const S* src, D* dst, ptrdiff_t len, Rule&& rule) {
-    writeRun(
+inline void convertRun(const S* src, D* dst, ptrdiff_t len, Rule rule) {
+    writeRun<kWidens<S, D>>(
         dst, len, samplesToBoundary(dst), [&](ptrdiff_t i) { return rule(src + i); },
         [&] { return convertShort<D>(src, len, rule); });
 }
 
 // The same on pixels of four samples, whose fourth is left as it was; the length is in samples.
 template <class S, class D, class Rule>
-inline void convertKeepingAlpha(const S* src, D* dst, ptrdiff_t len, Rule&& rule) {
-    writeRun(
+inline void convertKeepingAlpha(const S* src, D* dst, ptrdiff_t len, Rule rule) {
+    writeRun<kWidens<S, D>>(
         dst, len, 0, [&](ptrdiff_t i) { return keepAlpha<D>(load(dst + i), rule(src + i)); },
         [&] { return keepAlpha<D>(loadShort(dst, len), convertShort<D>(src, len, rule)); });
 }

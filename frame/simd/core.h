@@ -26,16 +26,19 @@ inline constexpr T kMin = std::is_signed_v<T> ? T(-kMax<T> - 1) : T(0);
 // Directions of rounding, as instructions and the control register number them.
 enum class Rounding { Nearest, Down, Up, TowardZero, OfThread };
 
-// One sample or record at an address of any alignment.
+// A sample, record or register at an address of any alignment. The address has no type when it is used: one of
+// T* is a promise of T's alignment, which clang takes at its word.
 template <class T>
 inline T peek(const T* p) {
+    const void* const at = p;
     T value;
-    __builtin_memcpy(&value, p, sizeof value);
+    __builtin_memcpy(&value, at, sizeof value);
     return value;
 }
 template <class T>
 inline void poke(T* p, T value) {
-    __builtin_memcpy(p, &value, sizeof value);
+    void* const at = p;
+    __builtin_memcpy(at, &value, sizeof value);
 }
 
 // ---- Registers -----------------------------------------------------------------------------------------
@@ -104,14 +107,30 @@ inline Pair<V32s> split(B32f a) {
 
 template <class T>
 inline Vec<T> load(const T* p) {
+    const void* const at = p;
     Vec<T> v;
-    __builtin_memcpy(&v, p, sizeof v);
+    __builtin_memcpy(&v, at, sizeof v);
     return v;
 }
 
 template <class T>
 inline void store(T* p, Vec<T> v) {
-    __builtin_memcpy(p, &v, sizeof v);
+    void* const at = p;
+    __builtin_memcpy(at, &v, sizeof v);
+}
+
+// Two registers of integers as one of 32 bytes, which is stored as fast as one of them.
+using Joined = V32f;
+template <class V>
+inline Joined joined(V low, V high) {
+    return V32f(
+        _mm256_castsi256_ps(_mm256_insertf128_si256(_mm256_castsi128_si256(__m128i(low)), __m128i(high), 1)));
+}
+template <class T>
+requires std::is_integral_v<T>
+inline void store(T* p, Joined v) {
+    void* const at = p;
+    __builtin_memcpy(at, &v, sizeof v);
 }
 
 // The first so many bytes of a register, and 0 behind them. (Copied into part of a variable they would go

@@ -33,6 +33,16 @@ void checkLanes() {
         store(reinterpret_cast<T*>(bytes + at), load(a));
         ASSERT_EQ(std::memcmp(bytes + at, a, sizeof(Vec<T>)), 0);
         ASSERT_EQ(std::count(bytes, bytes + sizeof bytes, 0xEE), ptrdiff_t(2 * sizeof(Vec<T>)));
+        // Of a register too, whose type would promise a boundary.
+        const auto inBytes = reinterpret_cast<Vec<T>*>(bytes + at);
+        const Vec<T> other = peek(inBytes) + splat<Vec<T>>(T(1));
+        poke(inBytes, other);
+        ASSERT_EQ(std::memcmp(bytes + at, &other, sizeof other), 0);
+        if constexpr (std::is_integral_v<T>) {
+            store(reinterpret_cast<T*>(bytes + at), joined(load(a), load(b)));
+            ASSERT_EQ(std::memcmp(bytes + at, a, sizeof a), 0);
+            ASSERT_EQ(std::memcmp(bytes + at + sizeof a, b, sizeof b), 0);
+        }
     }
     const Vec<T> x = load(a), y = load(b), constant = splat<Vec<T>>(T(77)), kept = keepAlpha<T>(x, y);
     for (int i = 0; i < L; i++) {
