@@ -23,17 +23,20 @@ struct Positive {
     }
 };
 
-// 32 unsigned bits, rounded once: both halves and the product are exact, the sum is not.
-inline V32f toFloat(Pair<V32u> a) {
-    const auto exact = [](V32u low, V32u high) { return toFloat(Pair<V32s>{V32s(low), V32s(high)}); };
-    const V32u mask = splat<V32u>(0xFFFF);
-    return exact(a.low >> 16, a.high >> 16) * splat<V32f>(65536.0f) + exact(a.low & mask, a.high & mask);
-}
-
 // To single precision as the thread rounds.
 template <class S>
 struct ToFloat {
     V32f operator()(const S* p) const { return toFloat(Pair<Vec<S>>{load(p), load(p + kLanes<S>)}); }
+};
+// 32 unsigned bits, rounded once: both halves are exact, of which the upper one counts as negative from 2^31
+// on, and the sum is not.
+template <>
+struct ToFloat<Tpx32u> {
+    V32f operator()(const Tpx32u* p) const {
+        const B32f x = peek(reinterpret_cast<const B32f*>(p)), mask = B32f{} + 0xFFFF;
+        const V32f upper = toFloat(x & ~mask) + select(x, splat<V32f>(0x1p32f), V32f{});
+        return upper + toFloat(x & mask);
+    }
 };
 
 // ---- Calls -----------------------------------------------------------------------------------------------

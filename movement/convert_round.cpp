@@ -8,35 +8,43 @@ namespace {
 // ---- Rules of 32-bit results: Half is as in movement/convert_round.h -------------------------------------
 
 // What is out of range converts to 0x80000000; that is inverted above the range, where the sample has no sign.
-template <bool Half>
+template <bool Half, class Scale>
 struct To32s {
-    Tpx32f factor;
+    Scale scale;
     V32f operator()(const Tpx32f* p) const {
-        const V32f x = load(p) * splat<V32f>(factor);
+        const V32f x = scale(load(p));
         const B32f bits = toIntegerJoined(Half ? addHalf(x) : x);
         const B32f above = ~B32f(x < splat<V32f>(0x1p31f)); // NaN too
         return select(bitsAs<B32f>(x), bitsAs<V32f>(bits), bitsAs<V32f>(bits ^ above));
     }
 };
 
-// Above 2^32 and for NaN the largest value; exactly 2^32 is converted, and its low 32 bits are 0. From 2^31 on
-// 2^31 is taken off, which is exact, and put back as a bit.
-template <bool Half>
+// From 2^31 on a sample converts to 0x80000000, and what is left of it without 2^31, which is an integer, to
+// the other bits. Above 2^32 and for NaN the largest value; exactly 2^32 has two of 0x80000000, and gives 0.
+template <bool Half, class Scale>
 struct To32u {
-    Tpx32f factor, again;
+    Scale scale;
     V32f operator()(const Tpx32f* p) const {
-        const V32f x = load(p) * splat<V32f>(factor) * splat<V32f>(again);
+        const V32f x = scale(load(p));
         const B32f above = ~B32f(x <= splat<V32f>(0x1p32f)); // NaN too
         const V32f positive = maxOf(x, V32f{});
-        const V32f half = splat<V32f>(0x1p31f);
-        const B32f upper = positive >= half;
-        const V32f low = positive - bitsAs<V32f>(upper & bitsAs<B32f>(half));
-        const B32f bits = toIntegerJoined(Half ? low + splat<V32f>(0.5f) : low);
-        return bitsAs<V32f>((bits ^ (upper & bitsAs<B32f>(splat<V32f>(-0.0f)))) | above);
+        const B32f bits = toIntegerJoined(Half ? positive + splat<V32f>(0.5f) : positive);
+        const B32f others = toIntegerJoined(positive - splat<V32f>(0x1p31f));
+        return bitsAs<V32f>(bitsAs<B32f>(select(bits, bitsAs<V32f>(bits ^ others), bitsAs<V32f>(bits))) |
+                            above);
     }
 };
 
 // ---- Factors --------------------------------------------------------------------------------------------
+
+// A factor of 1 is nothing beside the narrowing of results, but two are felt.
+struct Unscaled {
+    V32f operator()(V32f x) const { return x; }
+};
+struct TimesTwice {
+    Tpx32f first, second;
+    V32f operator()(V32f x) const { return x * splat<V32f>(first) * splat<V32f>(second); }
+};
 
 // 1 halved n times or doubled -n times: 0 or infinite past the numbers that there are.
 template <class F>
@@ -52,22 +60,33 @@ F scale(int n) {
 
 // ---- Calls ----------------------------------------------------------------------------------------------
 
+template <class S, class D, bool Half, class Scale>
+auto ruleTo(Scale scale) {
+    if constexpr (sizeof(D) < 4)
+        return ToSmall<S, D, Half, Scale>{scale};
+    else if constexpr (std::is_signed_v<D>)
+        return To32s<Half, Scale>{scale};
+    else
+        return To32u<Half, Scale>{scale};
+}
+
 template <Steps K, Layout L, class S, class D>
 TpxStatus convertReal(ImageView<const S> src, ImageView<D> dst, TpxiSizeL roi, TpxRoundMode mode, int n = 0) {
+    // Rules to 32 bits make registers of floats, which have their bits.
+    using Lane = std::conditional_t<sizeof(D) == 4, Tpx32f, D>;
+    const ImageView<Lane> lanes{reinterpret_cast<Lane*>(dst.data), dst.step};
     return withRounding(mode, denormalsGiveZero<S>(n), [=](auto half) {
-        constexpr bool kHalf = decltype(half)::value;
-        if constexpr (sizeof(D) < 4) {
-            return convert<K, L>(src, dst, roi, ToSmall<S, D, kHalf>{scale<S>(n)});
+        const auto run = [=](auto scale) {
+            return convert<K, L>(src, lanes, roi, ruleTo<S, D, decltype(half)::value>(scale));
+        };
+        if constexpr (std::is_same_v<D, Tpx32u>) {
+            if (n == 0) return run(Unscaled{});
+            // Samples are scaled exactly, in two steps that no factor of a sample in range leaves: beyond these
+            // limits any number is less than a half, or denormals too are above 2^32. Zero stays 0.
+            const int m = clampTo(n, -190, 160);
+            return run(TimesTwice{scale<S>(m / 2), scale<S>(m - m / 2)});
         } else {
-            const ImageView<Tpx32f> bits{reinterpret_cast<Tpx32f*>(dst.data), dst.step};
-            if constexpr (std::is_signed_v<D>) {
-                return convert<K, L>(src, bits, roi, To32s<kHalf>{scale<S>(n)});
-            } else {
-                // Samples are scaled exactly, in two steps that no factor of a sample in range leaves: beyond
-                // these limits any number is less than a half, or denormals too are above 2^32. Zero stays 0.
-                const int m = clampTo(n, -190, 160);
-                return convert<K, L>(src, bits, roi, To32u<kHalf>{scale<S>(m / 2), scale<S>(m - m / 2)});
-            }
+            return run(Times<S>{scale<S>(n)});
         }
     });
 }

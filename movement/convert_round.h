@@ -16,10 +16,15 @@ namespace tpx {
 // The half has the sample's sign.
 template <class V>
 inline V addHalf(V x) {
-    using B = VecBits<LaneOf<V>>;
-    const B sign = bitsAs<B>(splat<V>(-0.0f));
-    return x + bitsAs<V>(bitsAs<B>(splat<V>(0.5f)) | (bitsAs<B>(x) & sign));
+    using F = LaneOf<V>;
+    return x + select(x, splat<V>(F(-0.5)), splat<V>(F(0.5)));
 }
+
+template <class F>
+struct Times {
+    F factor;
+    Vec<F> operator()(Vec<F> x) const { return x * splat<Vec<F>>(factor); }
+};
 
 // Samples as the floating point that they are rounded in, S or single precision for 32-bit integers. Of these
 // only magnitudes up to 2^24 are exact; larger ones become any number from there on, and those that would count
@@ -39,15 +44,15 @@ inline auto loadReal(const S* p) {
 
 // To 8 and 16 bits. The limit from above comes first, unless the samples are integers made smaller: with it NaN
 // becomes the largest value. From below the conversion and the narrowing saturate.
-template <class S, class D, bool Half>
+template <class S, class D, bool Half, class Scale>
 struct ToSmall {
-    using F = LaneOf<decltype(loadReal<S>(nullptr))>;
-    F factor;
+    Scale scale;
     Vec<D> operator()(const S* p) const {
-        using V = Vec<F>;
+        using V = decltype(loadReal(p));
+        using F = LaneOf<V>;
         Several<V32s, kLanes<D> / kLanes<Tpx32s>> parts;
         for (int i = 0; i < kLanes<D> / kLanes<F>; i++) {
-            V x = loadReal(p + i * kLanes<F>) * splat<V>(factor);
+            V x = scale(loadReal(p + i * kLanes<F>));
             if constexpr (std::is_floating_point_v<S>) x = minOf(x, splat<V>(kMax<D>));
             // A negative result is 0 in the end, so a positive half serves unsigned types.
             if constexpr (Half) x = std::is_signed_v<D> ? addHalf(x) : x + splat<V>(F(0.5));
