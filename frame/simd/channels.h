@@ -44,88 +44,67 @@ inline V keepAlpha(V a, V b) {
 
 // ---- Channels: pixels of three or four samples to registers of one channel each, and back ---------------
 
-// Of the samples of `Bytes` bytes in three registers of pixels of three: where each comes from and goes to.
+// Three registers of pixels of three samples, or of their planes, hold a channel's samples at places that are
+// all different: a choice by place and one shuffle move a register. Places are told by their number in thirds.
+constexpr int third(int place) { return (place % 3 + 3) % 3; }
+
+// Of the samples of channel c and `Bytes` bytes: the byte of its place that byte i of the plane has, and the
+// reverse.
 template <int Bytes>
 struct TripleControls {
-    static constexpr int kLanes = 16 / Bytes;
-    // Planes: byte i of channel c from register k of pixels, and the reverse; 0x80 where it is in another.
-    alignas(16) Tpx8u toPlane[3][3][16], toPixels[3][3][16];
-    // The same without regard to the register: the three places are different ones.
-    alignas(16) Tpx8u toPlaneAny[3][16], toPixelsAny[3][16];
-    constexpr TripleControls() : toPlane{}, toPixels{}, toPlaneAny{}, toPixelsAny{} {
+    alignas(16) Tpx8u toPlane[3][16], toPixels[3][16];
+    alignas(16) Tpx8u isThird[3][16]; // 0xFF in the samples whose number is this in thirds
+    constexpr TripleControls() : toPlane{}, toPixels{}, isThird{} {
         for (int c = 0; c < 3; c++)
             for (int i = 0; i < 16; i++) {
-                const int sample = 3 * (i / Bytes) + c, place = sample % kLanes * Bytes + i % Bytes;
-                for (int k = 0; k < 3; k++) {
-                    toPlane[c][k][i] = Tpx8u(sample / kLanes == k ? place : 0x80);
-                    toPixels[k][c][i] = 0x80;
-                }
-                toPlaneAny[c][i] = Tpx8u(place);
-                toPixelsAny[c][place] = Tpx8u(i);
+                const int sample = 3 * (i / Bytes) + c, place = sample * Bytes % 16 + i % Bytes;
+                toPlane[c][i] = Tpx8u(place);
+                toPixels[c][place] = Tpx8u(i);
+                isThird[c][i] = i / Bytes % 3 == c ? 0xFF : 0;
             }
-        for (int c = 0; c < 3; c++)
-            for (int i = 0; i < 16; i++) {
-                const int sample = 3 * (i / Bytes) + c;
-                toPixels[sample / kLanes][c][sample % kLanes * Bytes + i % Bytes] = Tpx8u(i);
-            }
-    }
-    // Which 16-bit units of register k of pixels hold channel c.
-    static constexpr int units(int k, int c) {
-        int mask = 0;
-        for (int u = 0; u < 8; u++)
-            if ((k * kLanes + 2 * u / Bytes) % 3 == c) mask |= 1 << u;
-        return mask;
     }
 };
 template <int Bytes>
 inline constexpr TripleControls<Bytes> kTripleControls;
 
-// Register `K` of what consists of `a`, `b` and `c` where `K`, as pixels or as planes, has them.
-template <int A, int B>
-inline V8u blendThree(V8u a, V8u b, V8u c) {
-    const __m128i ab = _mm_blend_epi16(__m128i(c), __m128i(a), A);
-    return V8u(_mm_blend_epi16(ab, __m128i(b), B));
+// The samples of `a` at the places that are A in thirds, of `b` at those that are B, of `c` elsewhere.
+template <int Bytes, int A, int B>
+inline V8u chooseThirds(V8u a, V8u b, V8u c) {
+    if constexpr (Bytes == 1) {
+        constexpr auto& isThird = kTripleControls<Bytes>.isThird;
+        return select(load(isThird[A]), a, select(load(isThird[B]), b, c));
+    } else {
+        constexpr auto units = [](int wanted) { // of 16 bits
+            int mask = 0;
+            for (int u = 0; u < 8; u++) mask |= (2 * u / Bytes % 3 == wanted) << u;
+            return mask;
+        };
+        const __m128i ac = _mm_blend_epi16(__m128i(c), __m128i(a), units(A));
+        return V8u(_mm_blend_epi16(ac, __m128i(b), units(B)));
+    }
 }
 
 // Pixels of three samples of `Bytes` bytes to channels.
 template <int Bytes>
 inline Several<V8u, 3> deinterleave(const Several<V8u, 3>& a) {
-    constexpr auto& controls = kTripleControls<Bytes>;
+    constexpr int L = 16 / Bytes;
+    const V8u mixed[3] = {chooseThirds<Bytes, third(0), third(0 - L)>(a.at[0], a.at[1], a.at[2]),
+                          chooseThirds<Bytes, third(1), third(1 - L)>(a.at[0], a.at[1], a.at[2]),
+                          chooseThirds<Bytes, third(2), third(2 - L)>(a.at[0], a.at[1], a.at[2])};
     Several<V8u, 3> planes;
-    if constexpr (Bytes == 1) { // no cheap choice of bytes
-        for (int c = 0; c < 3; c++)
-            planes.at[c] = shuffleBytes(a.at[0], load(controls.toPlane[c][0])) |
-                           shuffleBytes(a.at[1], load(controls.toPlane[c][1])) |
-                           shuffleBytes(a.at[2], load(controls.toPlane[c][2]));
-    } else {
-        using C = TripleControls<Bytes>;
-        const V8u mixed[3] = {blendThree<C::units(0, 0), C::units(1, 0)>(a.at[0], a.at[1], a.at[2]),
-                              blendThree<C::units(0, 1), C::units(1, 1)>(a.at[0], a.at[1], a.at[2]),
-                              blendThree<C::units(0, 2), C::units(1, 2)>(a.at[0], a.at[1], a.at[2])};
-        for (int c = 0; c < 3; c++) planes.at[c] = shuffleBytes(mixed[c], load(controls.toPlaneAny[c]));
-    }
+    for (int c = 0; c < 3; c++) planes.at[c] = shuffleBytes(mixed[c], load(kTripleControls<Bytes>.toPlane[c]));
     return planes;
 }
 
 // Channels to pixels.
 template <int Bytes>
 inline Several<V8u, 3> interleave(const Several<V8u, 3>& a) {
-    constexpr auto& controls = kTripleControls<Bytes>;
-    if constexpr (Bytes == 1) {
-        Several<V8u, 3> pixels;
-        for (int k = 0; k < 3; k++)
-            pixels.at[k] = shuffleBytes(a.at[0], load(controls.toPixels[k][0])) |
-                           shuffleBytes(a.at[1], load(controls.toPixels[k][1])) |
-                           shuffleBytes(a.at[2], load(controls.toPixels[k][2]));
-        return pixels;
-    } else {
-        using C = TripleControls<Bytes>;
-        V8u spread[3];
-        for (int c = 0; c < 3; c++) spread[c] = shuffleBytes(a.at[c], load(controls.toPixelsAny[c]));
-        return {{blendThree<C::units(0, 0), C::units(0, 1)>(spread[0], spread[1], spread[2]),
-                 blendThree<C::units(1, 0), C::units(1, 1)>(spread[0], spread[1], spread[2]),
-                 blendThree<C::units(2, 0), C::units(2, 1)>(spread[0], spread[1], spread[2])}};
-    }
+    constexpr int L = 16 / Bytes;
+    V8u spread[3];
+    for (int c = 0; c < 3; c++) spread[c] = shuffleBytes(a.at[c], load(kTripleControls<Bytes>.toPixels[c]));
+    return {{chooseThirds<Bytes, third(0), third(1)>(spread[0], spread[1], spread[2]),
+             chooseThirds<Bytes, third(-L), third(1 - L)>(spread[0], spread[1], spread[2]),
+             chooseThirds<Bytes, third(-2 * L), third(1 - 2 * L)>(spread[0], spread[1], spread[2])}};
 }
 
 // The same for pixels of four samples. Samples of less than four bytes are first collected within a register.
