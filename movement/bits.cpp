@@ -67,9 +67,16 @@ struct Unpack {
         const ptrdiff_t spare = (first + len + kByteBits - 1) / kByteBits - 4;
         const ptrdiff_t readable = spare < 0 ? 0 : spare * kByteBits + L;
         const ptrdiff_t bulk = (len < readable ? len : readable) / L * L;
+        // Whole registers. Their bytes are counted: a division of each index would be half of the work.
         const auto plain = [=](ptrdiff_t i, ptrdiff_t n) {
-            writeRun(
-                dst + i, n, 0, [=](ptrdiff_t j) { return at(i + j); }, [] { return V{}; });
+            constexpr int kBytes = L / kByteBits;
+            const Tpx8u* p = bits + size_t(i) / kByteBits;
+            T* d = dst + i;
+            for (; n >= 4 * L; n -= 4 * L, d += 4 * L, p += 4 * kBytes) {
+                const V v[4] = {values(p), values(p + kBytes), values(p + 2 * kBytes), values(p + 3 * kBytes)};
+                for (int k = 0; k < 4; k++) store(d + k * L, v[k]);
+            }
+            for (; n > 0; n -= L, d += L, p += kBytes) store(d, values(p));
         };
         if constexpr (Stream)
             writeRunStreaming(
