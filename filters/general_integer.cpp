@@ -11,7 +11,7 @@ namespace {
 // ---- Pairs of source rows ---------------------------------------------------------------------------------
 
 // The least that is worked on at once.
-inline constexpr ptrdiff_t kBlock = 16;
+inline constexpr ptrdiff_t kBlock = kResultBlock;
 
 // Samples of two rows one behind the other, in lanes of 16 bits or, if sums fit, in bytes.
 [[gnu::always_inline]] inline void interleave(V8u a, V8u b, V8u* out) {
@@ -82,24 +82,22 @@ struct PairsInRing {
 
 // ---- Sums -------------------------------------------------------------------------------------------------
 
-// Of the upper row of results and then of the lower one: in 32 bits, or, of bytes, in 16 bits from the rules'
-// start on. They are unsigned, since they wrap around: those in 16 bits on their way to where they fit, others
-// past 32 bits.
-template <class Lane, int Registers>
+// Of an upper row of results and of the lower one: in 32 bits, or, of bytes, in 16 bits from the rules' start
+// on. They are unsigned, since they wrap around: those in 16 bits on their way to where they fit, others past
+// 32 bits.
+template <class Lane>
 struct TwoSums {
     static constexpr bool kBytes = sizeof(Lane) == 1;
-    static constexpr ptrdiff_t kSamples = Registers * kLanes<Lane> / 2;
-    static constexpr int kEights = int(2 * kSamples / 8);
 
-    using Sum = std::conditional_t<kBytes, V16u, V32u>;
+    using Sum = std::conditional_t<kBytes, Tpx16u, Tpx32u>;
     using Weights = std::conditional_t<kBytes, V8s, V16s>;
 
-    // Pixels have so many channels.
-    template <class Pairs>
-    [[gnu::always_inline]] static TwoSums at(const FilterBlock& b, Tpx32s start, const Pairs& source,
-                                             ptrdiff_t channels, ptrdiff_t i) {
-        Sum upper[Registers], lower[Registers];
-        for (int k = 0; k < Registers; k++) upper[k] = lower[k] = splat<Sum>(LaneOf<Sum>(kBytes ? start : 0));
+    // Sums for as many samples as so many registers of pairs hold. Pixels have so many channels.
+    template <int Registers, class Pairs>
+    [[gnu::always_inline]] static void make(const FilterBlock& b, Tpx32s start, const Pairs& source,
+                                            ptrdiff_t channels, ptrdiff_t i, Sum* toUpper, Sum* toLower) {
+        Vec<Sum> upper[Registers], lower[Registers];
+        for (int k = 0; k < Registers; k++) upper[k] = lower[k] = splat<Vec<Sum>>(Sum(kBytes ? start : 0));
         const Tpx32s* weights = rowPairTable(b);
         const ptrdiff_t pairs = rowPairsOf(b.kernelHeight), width = b.kernelWidth;
         for (ptrdiff_t pair = 0; pair < pairs; pair++) {
@@ -111,59 +109,17 @@ struct TwoSums {
                 const Weights forUpper = Weights(loadSplat(weights)),
                               forLower = Weights(loadSplat(weights + 1));
                 for (int k = 0; k < Registers; k++) {
-                    upper[k] += Sum(multiplyAddPairs(columns[k], forUpper));
-                    lower[k] += Sum(multiplyAddPairs(columns[k], forLower));
+                    upper[k] += Vec<Sum>(multiplyAddPairs(columns[k], forUpper));
+                    lower[k] += Vec<Sum>(multiplyAddPairs(columns[k], forLower));
                 }
             }
         }
-        TwoSums sums;
-        unroll<Registers>([&](auto k) {
-            sums.sums[k] = upper[k];
-            sums.sums[Registers + k] = lower[k];
-        });
-        return sums;
+        for (int k = 0; k < Registers; k++) {
+            store(toUpper + k * kLanes<Sum>, upper[k]);
+            store(toLower + k * kLanes<Sum>, lower[k]);
+        }
     }
-
-    Sum sums[2 * Registers];
 };
-
-// ---- Rows of results --------------------------------------------------------------------------------------
-
-[[gnu::always_inline]] inline void storeBlock(Tpx8u* dst, V16s first, V16s second) {
-    store(dst, narrow<Tpx8u>(Pair<V16s>{first, second}));
-}
-[[gnu::always_inline]] inline void storeBlock(Tpx16s* dst, V16s first, V16s second) {
-    store(dst, first);
-    store(dst + 8, second);
-}
-
-template <class Sums, class T, class Pairs>
-[[gnu::always_inline]] inline void resultsAt(const FilterBlock& b, const IntegerRules& rules,
-                                             const Pairs& source, ptrdiff_t channels, ResultRows<T> dst,
-                                             ptrdiff_t i) {
-    V16s results[Sums::kEights];
-    rules.apply(Sums::at(b, rules.start(), source, channels, i).sums, results);
-    constexpr int kBlocks = Sums::kSamples / kBlock;
-    for (int k = 0; k < kBlocks; k++)
-        storeBlock(dst.upper + i + k * kBlock, results[2 * k], results[2 * k + 1]);
-    if (dst.lower == nullptr) return;
-    for (int k = 0; k < kBlocks; k++)
-        storeBlock(dst.lower + i + k * kBlock, results[2 * (kBlocks + k)], results[2 * (kBlocks + k) + 1]);
-}
-
-// Fewer samples than a block, in sums for a block or for half of one.
-template <class Sums, class T, class Pairs>
-[[gnu::noinline]] void shortRows(const FilterBlock& b, const IntegerRules& rules, const Pairs& source,
-                                 ptrdiff_t channels, ResultRows<T> dst, ptrdiff_t len) {
-    V16s results[Sums::kEights] = {};
-    rules.apply(Sums::at(b, rules.start(), source, channels, 0).sums, results);
-    T block[kBlock];
-    storeBlock(block, results[0], results[Sums::kEights / 2 - 1]);
-    copyBlock(dst.upper, block, len * ptrdiff_t(sizeof(T)));
-    if (dst.lower == nullptr) return;
-    storeBlock(block, results[Sums::kEights / 2], results[Sums::kEights - 1]);
-    copyBlock(dst.lower, block, len * ptrdiff_t(sizeof(T)));
-}
 
 // ---- Regions ----------------------------------------------------------------------------------------------
 
@@ -189,6 +145,7 @@ class IntegerCorrelation {
 
  private:
     static constexpr ptrdiff_t kRoomBytes = 24576; // for the pairs of rows that two rows of results read
+    static constexpr ptrdiff_t kStretch = 512;     // of samples whose sums wait for their rule
 
     // Registers of lanes that a block takes.
     template <class Lane>
@@ -217,21 +174,39 @@ class IntegerCorrelation {
         }
     }
 
+    // Fewer samples than a block. Those of half a block have their results with those of the lower row.
     template <class Lane, int Registers, class Pairs>
-    void shortRows(const Pairs& pairs, ResultRows<T> dst) const {
-        tpx::shortRows<TwoSums<Lane, Registers>>(block_, rules_, pairs, channels_, dst, len_);
+    [[gnu::noinline]] void shortRows(const Pairs& pairs, ResultRows<T> dst) const {
+        using Sums = TwoSums<Lane>;
+        constexpr ptrdiff_t kSamples = Registers * kLanes<Lane> / 2, kBlocks = 2 * kSamples / kBlock;
+        typename Sums::Sum sums[2 * kSamples];
+        T results[2 * kSamples];
+        Sums::template make<Registers>(block_, rules_.start(), pairs, channels_, 0, sums, sums + kSamples);
+        rules_.make(sums, results, kBlocks * kBlock);
+        copyBlock(dst.upper, results, len_ * ptrdiff_t(sizeof(T)));
+        if (dst.lower != nullptr) copyBlock(dst.lower, results + kSamples, len_ * ptrdiff_t(sizeof(T)));
     }
 
-    // Large steps first; the last block may overlap the one before it.
+    // Sums of a stretch, then its results. Large steps first; the last block may overlap the one before it.
     template <class Lane, class Pairs>
     void longRows(const Pairs& pairs, ResultRows<T> dst, ptrdiff_t len) const {
-        using Large = TwoSums<Lane, 4>;
-        using Small = TwoSums<Lane, kBlockRegisters<Lane>>;
-        ptrdiff_t i = 0;
-        for (; i + Large::kSamples <= len; i += Large::kSamples)
-            resultsAt<Large>(block_, rules_, pairs, channels_, dst, i);
-        for (; i < len; i += kBlock)
-            resultsAt<Small>(block_, rules_, pairs, channels_, dst, i + kBlock <= len ? i : len - kBlock);
+        using Sums = TwoSums<Lane>;
+        constexpr ptrdiff_t kLarge = 4 * kLanes<Lane> / 2;
+        alignas(32) typename Sums::Sum upper[kStretch], lower[kStretch];
+        for (ptrdiff_t from = 0, n; from < len; from += n) {
+            n = len - from < kStretch ? len - from : kStretch;
+            if (n < kBlock) from = len - (n = kBlock);
+            const auto sums = [&]<int Registers>(ptrdiff_t i) __attribute__((always_inline)) {
+                Sums::template make<Registers>(block_, rules_.start(), pairs, channels_, from + i, upper + i,
+                                               lower + i);
+            };
+            ptrdiff_t i = 0;
+            for (; i + kLarge <= n; i += kLarge) sums.template operator()<4>(i);
+            for (; i < n; i += kBlock)
+                sums.template operator()<kBlockRegisters<Lane>>(i + kBlock <= n ? i : n - kBlock);
+            rules_.make(upper, dst.upper + from, n);
+            if (dst.lower != nullptr) rules_.make(lower, dst.lower + from, n);
+        }
     }
 
     // Pairs are interleaved once, into a ring, and the image is taken in bands of columns for which the ring is

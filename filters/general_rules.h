@@ -25,6 +25,9 @@ enum class IntegerRule {
 
 inline constexpr int64_t kWideForIntegers = 16, kWideForFloats = 8;
 
+// Results that are made at once, of sums that may lie behind the last one.
+inline constexpr ptrdiff_t kResultBlock = 16;
+
 class IntegerRules {
  public:
     IntegerRules(const FilterBlock& b, int64_t regionWidth)
@@ -67,27 +70,13 @@ class IntegerRules {
     // What sums in 16 bits begin with.
     Tpx32s start() const { return start_; }
 
-    // out[k] is made of eight sums, saturated to 16 bits.
-    template <int K>
-    [[gnu::always_inline]] void apply(const V32u (&sums)[2 * K], V16s (&out)[K]) const {
-        applyTo([&](auto k) { return Pair<V32s>{V32s(sums[2 * k]), V32s(sums[2 * k + 1])}; }, out);
-    }
-    template <int K>
-    [[gnu::always_inline]] void apply(const V16u (&sums)[K], V16s (&out)[K]) const {
-        if (stays16Bits_ && shift_ != 0) {
-            const RoundedShift<tpxRoundNearestEven, V16s, Headroom::Half> shifted(shift_);
-            unroll<K>([&](auto k) { out[k] = subSat(shifted(V16s(sums[k])), splat<V16s>(less_)); });
-        } else if (stays16Bits_) {
-            unroll<K>([&](auto k) { out[k] = subSat(V16s(sums[k]), splat<V16s>(less_)); });
-        } else {
-            const V32u start = splat<V32u>(Tpx32u(start_));
-            applyTo(
-                [&](auto k) {
-                    const Pair<V32u> wide = widen(sums[k]);
-                    return Pair<V32s>{V32s(wide.low - start), V32s(wide.high - start)};
-                },
-                out);
-        }
+    // Results of `len` sums, behind which a block's can be read.
+    template <class Sum, class T>
+    void make(const Sum* sums, T* dst, ptrdiff_t len) const {
+        if (len >= kResultBlock) return makeBlocks(sums, dst, len);
+        T block[kResultBlock];
+        makeBlocks(sums, block, kResultBlock);
+        copyBlock(dst, block, len * ptrdiff_t(sizeof(T)));
     }
 
     // The true quotient of whole numbers of at most 53 bits. Closer than 2^-31 to a tie or to an integer none
@@ -125,17 +114,68 @@ class IntegerRules {
         stays16Bits_ = true;
     }
 
-    // out[k] is made of the sums that sumsOf(k) tells. Past 32 bits sums wrap around, and with them what is
-    // added here.
-    template <int K, class SumsOf>
-    [[gnu::always_inline]] void applyTo(SumsOf sumsOf, V16s (&out)[K]) const {
-        const auto each = [&](auto rule) {
-            unroll<K>([&](auto k) { out[k] = narrow<Tpx16s>(rule(sumsOf(k))); });
+    // A block or more; the last one may overlap the one before it. eight(i) makes results of the sums from the
+    // i-th on, saturated to 16 bits.
+    template <class T, class Eight>
+    [[gnu::always_inline]] static void forBlocks(T* dst, ptrdiff_t len, Eight eight) {
+        for (ptrdiff_t i = 0; i < len; i += kResultBlock) {
+            const ptrdiff_t at = i + kResultBlock <= len ? i : len - kResultBlock;
+            const V16s first = eight(at), second = eight(at + 8);
+            if constexpr (sizeof(T) == 1) {
+                store(dst + at, narrow<T>(Pair<V16s>{first, second}));
+            } else {
+                store(dst + at, first);
+                store(dst + at + 8, second);
+            }
+        }
+    }
+
+    template <class T>
+    void makeBlocks(const Tpx32u* sums, T* dst, ptrdiff_t len) const {
+        makeOf(
+            [=](ptrdiff_t i) {
+                return Pair<V32s>{V32s(load(sums + i)), V32s(load(sums + i + 4))};
+            },
+            dst, len);
+    }
+    template <class T>
+    void makeBlocks(const Tpx16u* sums, T* dst, ptrdiff_t len) const {
+        const V16s less = splat<V16s>(less_);
+        if (stays16Bits_ && shift_ != 0) {
+            const RoundedShift<tpxRoundNearestEven, V16s, Headroom::Half> shifted(shift_);
+            return forBlocks(dst, len,
+                             [=](ptrdiff_t i) { return subSat(shifted(V16s(load(sums + i))), less); });
+        }
+        if (stays16Bits_)
+            return forBlocks(dst, len, [=](ptrdiff_t i) { return subSat(V16s(load(sums + i)), less); });
+        const V32u start = splat<V32u>(Tpx32u(start_));
+        makeOf(
+            [=](ptrdiff_t i) {
+                const Pair<V32u> wide = widen(load(sums + i));
+                return Pair<V32s>{V32s(wide.low - start), V32s(wide.high - start)};
+            },
+            dst, len);
+    }
+    // Whole numbers of at most 24 bits. A shift to nearest and a product round them once.
+    template <class T>
+    void makeBlocks(const Tpx32f* sums, T* dst, ptrdiff_t len) const {
+        if (rule_ == IntegerRule::Shift || rule_ == IntegerRule::Scale) {
+            const V32f inverse = splat<V32f>(inverse_);
+            return forBlocks(dst, len,
+                             [=](ptrdiff_t i) { return narrow<Tpx16s>(toInteger(load(sums + i) * inverse)); });
+        }
+        makeOf([=](ptrdiff_t i) { return toIntegerTruncated(load(sums + i)); }, dst, len);
+    }
+
+    // Of sums, eight of which sumsAt(i) makes. Past 32 bits they wrap around, and with them what is added here.
+    template <class T, class SumsAt>
+    [[gnu::always_inline]] void makeOf(SumsAt sumsAt, T* dst, ptrdiff_t len) const {
+        const auto each = [=](auto rule) __attribute__((always_inline)) {
+            forBlocks(dst, len, [=](ptrdiff_t i) { return narrow<Tpx16s>(rule(sumsAt(i))); });
         };
-        const auto eachWithOffset = [&](auto rule) {
-            if (offset_ == 0) return each(rule);
+        const auto eachWithOffset = [ =, this ](auto rule) __attribute__((always_inline)) {
             const V32u offset = splat<V32u>(Tpx32u(offset_));
-            each([&](Pair<V32s> x) {
+            each([=](Pair<V32s> x) {
                 const Pair<V32s> y = rule(x);
                 return Pair<V32s>{V32s(V32u(y.low) + offset), V32s(V32u(y.high) + offset)};
             });
@@ -143,9 +183,10 @@ class IntegerRules {
         // With 1 more where the quotient is odd, for ties to even.
         const auto shifted = [&](Tpx32u addend, Tpx32u oddMask) {
             const V32u add = splat<V32u>(addend), odd = splat<V32u>(oddMask);
-            eachWithOffset([&](Pair<V32s> x) {
-                const auto one = [&](V32s v) {
-                    return shiftRight(V32s(V32u(v) + add + (V32u(shiftRight(v, shift_)) & odd)), shift_);
+            const int shift = shift_;
+            eachWithOffset([=](Pair<V32s> x) {
+                const auto one = [=](V32s v) {
+                    return shiftRight(V32s(V32u(v) + add + (V32u(shiftRight(v, shift)) & odd)), shift);
                 };
                 return Pair<V32s>{one(x.low), one(x.high)};
             });
@@ -159,18 +200,19 @@ class IntegerRules {
             case IntegerRule::UpwardShift:
                 return shifted(half, 0);
             case IntegerRule::Scale:
-                return eachWithOffset(
-                    [&](Pair<V32s> x) { return toInteger(toFloat(x) * splat<V32f>(inverse_)); });
+                return eachWithOffset([inverse = splat<V32f>(inverse_)](Pair<V32s> x) {
+                    return toInteger(toFloat(x) * inverse);
+                });
             case IntegerRule::Whole:
                 return eachWithOffset([](Pair<V32s> x) { return x; });
             case IntegerRule::Divide:
-                return eachWithOffset([&](Pair<V32s> x) { return divided(x); });
+                return eachWithOffset([rules = *this](Pair<V32s> x) { return rules.divided(x); });
             case IntegerRule::Quotient:
-                return each([&](Pair<V32s> x) {
+                return each([rules = *this](Pair<V32s> x) {
                     Pair<V64f> sums = {toDouble(x.low), toDouble(x.high)};
-                    if (bytes_) // the offset is a float, with which the sum may leave 32 bits
-                        sums = widen(rounded<Rounding::TowardZero>(toFloat(x) + splat<V32f>(offsetF_)));
-                    return Pair<V32s>{quotient(sums.low), quotient(sums.high)};
+                    if (rules.bytes_) // the offset is a float, with which the sum may leave 32 bits
+                        sums = widen(rounded<Rounding::TowardZero>(toFloat(x) + splat<V32f>(rules.offsetF_)));
+                    return Pair<V32s>{rules.quotient(sums.low), rules.quotient(sums.high)};
                 });
         }
     }
