@@ -48,7 +48,10 @@ TpxStatus check(const Call<T>& call, bool only3x3) {
 
 template <Layout L, const auto& mask, class Rule, class T>
 void filterBy(const Call<T>& call) {
-    filterFixed<L>(call, SeparableStencil<L, mask, T, T, Rule>());
+    if constexpr (L == Layout::C1 && std::is_integral_v<T> && std::remove_cvref_t<decltype(mask)>::kSide == 3)
+        filterFixed<L>(call, EvenAndOdd<mask, T, T, Rule>());
+    else
+        filterFixed<L>(call, ColumnsFirst<L, mask, T, T, Rule>());
 }
 
 template <Layout L, class T>

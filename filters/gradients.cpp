@@ -56,7 +56,7 @@ TpxStatus gradient(const FixedMaskCall<S, D>& call) {
     if (call.mask == 33)
         filterFixed<Layout::C1>(call, Stencil<Layout::C1, mask3, S, D, ToGradient>());
     else
-        filterFixed<Layout::C1>(call, SeparableStencil<Layout::C1, mask5, S, D, ToGradient>());
+        filterFixed<Layout::C1>(call, ColumnsFirst<Layout::C1, mask5, S, D, ToGradient>());
     return tpxOk;
 }
 

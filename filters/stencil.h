@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Correlations with small masks that are known when the library is compiled.
 //
-// Sums of integers are exact: pairs of taps
-// are interleaved and multiplied by their weights with one instruction, 8-bit samples into 16-bit sums, 16-bit
-// samples into 32. Taps of weight 0 cost nothing.
+// Sums of integers are exact: pairs of taps are interleaved and multiplied by their weights with one
+// instruction, 8-bit samples into 16-bit sums, 16-bit samples into 32. Taps of weight 0 cost nothing.
 #pragma once
 
 #include "filters/border_model.h"
@@ -148,9 +147,10 @@ inline void storeSums(LaneOf<V>* to, Pair<V> sums) {
 }
 inline void storeSums(Tpx32f* to, V32f sums) { store(to, sums); }
 
-// The row's weights times the sums of columns. Taps at equal distances from the centre share a product.
-template <const auto& mask, int N, class Sum>
-[[gnu::always_inline]] inline Vec<Sum> rowSum(const Sum* columns) {
+// The row's weights times the sums of columns, of which at(k) are those under tap k. Taps at equal distances
+// from the centre share a product.
+template <const auto& mask, class Sum, class At>
+[[gnu::always_inline]] inline Vec<Sum> rowSum(At at) {
     constexpr int kSide = std::remove_cvref_t<decltype(mask)>::kSide, kCentre = kSide / 2;
     const auto times = [](auto x, auto weight) {
         if constexpr (weight == 1)
@@ -163,7 +163,7 @@ template <const auto& mask, int N, class Sum>
         constexpr int left = mask.row[k], right = mask.row[kSide - 1 - k];
         static_assert(left == right || left == -right);
         if constexpr (left != 0) {
-            const Vec<Sum> a = load(columns + k * N), b = load(columns + (kSide - 1 - k) * N);
+            const Vec<Sum> a = at(k), b = at(kSide - 1 - k);
             using Weight = std::integral_constant<int, (right < 0 ? -right : right)>;
             if constexpr (right == left)
                 sum = right < 0 ? sum - times(a + b, Weight{}) : sum + times(a + b, Weight{});
@@ -174,7 +174,7 @@ template <const auto& mask, int N, class Sum>
     if constexpr (mask.row[kCentre] != 0) {
         using Weight =
             std::integral_constant<int, (mask.row[kCentre] < 0 ? -mask.row[kCentre] : mask.row[kCentre])>;
-        const Vec<Sum> c = times(load(columns + kCentre * N), Weight{});
+        const Vec<Sum> c = times(at(kCentre), Weight{});
         sum = mask.row[kCentre] < 0 ? sum - c : sum + c;
     }
     return sum;
@@ -263,7 +263,7 @@ struct Stencil {
 
 // The same for a column times a row: the columns of a stretch are summed first.
 template <Layout L, const auto& mask, class S, class D, class Rule>
-struct SeparableStencil {
+struct ColumnsFirst {
     static constexpr int N = channelsOf(L), kSide = ColumnOf<mask>::kSide;
     using Rows = MaskedRows<L, kSide, S, D>;
     using Sum = SumOf<S>;
@@ -287,7 +287,7 @@ struct SeparableStencil {
     static auto sums(const S* const* rows, const Sum* columns, ptrdiff_t i) {
         const S* const centre = rows[kSide / 2] + i + kSide / 2 * N;
         const auto part = [&](ptrdiff_t k) {
-            const Vec<Sum> sum = rowSum<mask, N>(columns + k);
+            const Vec<Sum> sum = rowSum<mask, Sum>([=](int tap) { return load(columns + k + tap * N); });
             if constexpr (mask.centre == 0)
                 return sum;
             else if constexpr (std::is_same_v<S, Sum>)
@@ -299,6 +299,89 @@ struct SeparableStencil {
             return part(0);
         else
             return Pair<Vec<Sum>>{part(0), part(kLanes<Sum>)};
+    }
+};
+
+// The same for 3x3 integers of one channel. Columns of even number and of odd have their sums in registers of
+// their own, and a step along the row is a shift of lanes: nothing is stored but results. A weight beside 0
+// multiplies the samples of either kind in place.
+template <const auto& mask, class S, class D, class Rule>
+class EvenAndOdd {
+    using Rows = MaskedRows<Layout::C1, 3, S, D>;
+    using Sum = SumOf<S>;
+    static constexpr ptrdiff_t kBlock = Rows::kBlock;
+
+ public:
+    void operator()(const Region<S, D>& region) const {
+        const ptrdiff_t width = region.size.width;
+        if (width < kBlock)
+            return Rows::walk(
+                region, [](const S* const*, ptrdiff_t) {},
+                [](const S* const* rows, ptrdiff_t i) { return blockAt(rows, i); });
+        for (ptrdiff_t y = 0; y < region.size.height; y++) {
+            const S* rows[3];
+            for (int r = 0; r < 3; r++) rows[r] = region.src.from(-1, y + r - 1).data;
+            D* const dst = region.dst.row(y);
+            ptrdiff_t i = 0;
+            Halves here = columnsAt(rows, 0);
+            for (; i + 2 * kBlock <= width; i += kBlock) {
+                const Halves next = columnsAt(rows, i + kBlock);
+                const auto block = results(rows, i,
+                                           {{here.even, here.odd, lanesBehind<1>(here.even, next.even),
+                                             lanesBehind<1>(here.odd, next.odd)}});
+                store(dst + i, block.at[0]);
+                here = next;
+            }
+            for (; i < width; i += kBlock) {
+                const ptrdiff_t at = i + kBlock <= width ? i : width - kBlock;
+                store(dst + at, blockAt(rows, at).at[0]);
+            }
+        }
+    }
+
+ private:
+    struct Halves {
+        Vec<Sum> even, odd;
+    };
+
+    template <int weight>
+    static Halves products(Vec<S> x) {
+        if constexpr (sizeof(S) == 1)
+            return {multiplyAddPairs(x, V8s(splat<V16s>(Tpx16s(weight & 0xFF)))),
+                    multiplyAddPairs(x, V8s(splat<V16s>(Tpx16s(weight * 256))))};
+        else
+            return {multiplyAddPairs(x, V16s(splat<V32s>(weight & 0xFFFF))),
+                    multiplyAddPairs(x, V16s(splat<V32s>(weight * 65536)))};
+    }
+
+    [[gnu::always_inline]] static Halves columnsAt(const S* const* rows, ptrdiff_t i) {
+        Halves sums{};
+        unroll<3>([&](auto r) __attribute__((always_inline)) {
+            const Halves row = products<mask.column[r]>(load(rows[r] + i));
+            sums.even += row.even;
+            sums.odd += row.odd;
+        });
+        return sums;
+    }
+
+    // By itself: of the block behind it nothing but the first two columns may be there to be read.
+    [[gnu::always_inline]] static auto blockAt(const S* const* rows, ptrdiff_t i) {
+        const Halves first = columnsAt(rows, i), third = columnsAt(rows, i + 2);
+        return results(rows, i, {{first.even, first.odd, third.even, third.odd}});
+    }
+
+    // Sums of every second column from the first, the second, the third and the fourth on become results.
+    [[gnu::always_inline]] static auto results(const S* const* rows, ptrdiff_t i,
+                                               const Several<Vec<Sum>, 4>& columns) {
+        Pair<Vec<Sum>> sums = {rowSum<mask, Sum>([&](int tap) { return columns.at[tap]; }),
+                               rowSum<mask, Sum>([&](int tap) { return columns.at[tap + 1]; })};
+        const Halves centre = products<mask.centre>(load(rows[1] + i + 1));
+        sums.low += centre.even;
+        sums.high += centre.odd;
+        constexpr V8u kInTurn = sizeof(D) == 1 ? V8u{0, 8, 1, 9, 2, 10, 3, 11, 4, 12, 5, 13, 6, 14, 7, 15}
+                                               : V8u{0, 1, 8, 9, 2, 3, 10, 11, 4, 5, 12, 13, 6, 7, 14, 15};
+        const Several<Vec<D>, 1> byHalves = Rule()(sums);
+        return Several<Vec<D>, 1>{{Vec<D>(shuffleBytes(V8u(byHalves.at[0]), kInTurn))}};
     }
 };
 
