@@ -43,6 +43,9 @@ class VectorMedian {
 
     void operator()(const Region<T, T>& region) const {
         Row rows[K] = {};
+        ptrdiff_t offsets[K * K]; // in bytes, of a window's pixels from its first one
+        for (int i = 0; i < K * K; i++)
+            offsets[i] = i / K * region.src.step + i % K * channels_ * ptrdiff_t(sizeof(T));
         for (int64_t x = 0; x < region.size.width; x += kTile) {
             const int64_t left = region.size.width - x, tile = left < kTile ? left : kTile;
             const ImageView<const T> src = region.src.from((x - K / 2) * channels_, -(K / 2));
@@ -54,15 +57,24 @@ class VectorMedian {
                 if (y < kReach) continue;
                 const Row* window[K];
                 for (int r = 0; r < K; r++) window[r] = &rows[(y - kReach + r) % K];
-                choose(window, src.from(0, y - kReach), region.dst.from(x * channels_, y - kReach).data, tile);
+                Lane chosen[kTile];
+                choose(window, chosen, tile);
+                const T* const from = src.from(0, y - kReach).data;
+                T* const to = region.dst.from(x * channels_, y - kReach).data;
+                channels_ == 3 ? copyChosen<3>(chosen, offsets, from, to, tile)
+                               : copyChosen<4>(chosen, offsets, from, to, tile);
             }
         }
     }
 
  private:
     void take(const T* src, int64_t pixels, Row& row) const {
+        channels_ == 3 ? takeOf<3>(src, pixels, row) : takeOf<4>(src, pixels, row);
+    }
+    template <int N>
+    static void takeOf(const T* src, int64_t pixels, Row& row) {
         for (int64_t i = 0; i < pixels; i++)
-            for (int c = 0; c < 3; c++) row.colours[c][i] = Lane(peek(src + i * channels_ + c));
+            for (int c = 0; c < 3; c++) row.colours[c][i] = Lane(peek(src + i * N + c));
     }
 
     static void measure(const Row& upper, Row& lower, int above) {
@@ -89,8 +101,7 @@ class VectorMedian {
         return load(window[lower / K]->distances[numberOf(above, columns)] + x + at);
     }
 
-    void choose(const Row* const* window, ImageView<const T> src, T* dst, int64_t pixels) const {
-        Lane chosen[kTile];
+    static void choose(const Row* const* window, Lane* chosen, int64_t pixels) {
         for (int64_t x = 0; x < pixels; x += kLane) {
             V least = splat<V>(std::is_floating_point_v<Lane> ? Lane(__builtin_inf()) : kMax<Lane>);
             V first{};
@@ -105,11 +116,16 @@ class VectorMedian {
             });
             store(chosen + x, first);
         }
-        for (int64_t x = 0; x < pixels; x++) {
-            const int at = int(chosen[x]);
-            const T* const pixel = src.from((x + at % K) * channels_, at / K).data;
-            for (int c = 0; c < 3; c++) poke(dst + x * channels_ + c, peek(pixel + c));
-        }
+    }
+    // `src` are the windows' first pixels.
+    template <int N>
+    static void copyChosen(const Lane* chosen, const ptrdiff_t* offsets, const T* src, T* dst, int64_t pixels) {
+        struct Colour {
+            T samples[3];
+        };
+        for (int64_t x = 0; x < pixels; x++)
+            poke(reinterpret_cast<Colour*>(dst + x * N),
+                 peek(reinterpret_cast<const Colour*>(addBytes(src + x * N, offsets[int(chosen[x])]))));
     }
 
     int channels_;
