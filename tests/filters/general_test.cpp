@@ -438,8 +438,9 @@ TEST(General, SumsAtTheEndsOfTheirLanes) {
 
 // Kernels past any table on the stack, and as large as the region.
 template <class T>
-void expectLargeKernel(TpxiSize kernel, TpxiSize roi, int channels, bool floats, unsigned border) {
-    FilterSetup s{kernel, {}, floats, 3001, 0, 0, 0};
+void expectLargeKernel(TpxiSize kernel, TpxiSize roi, int channels, bool floats, unsigned border,
+                       int divisor = 3001) {
+    FilterSetup s{kernel, {}, floats, divisor, 0, 0, 0};
     std::mt19937 random(unsigned(kernel.width));
     for (int i = 0; i < kernel.width * kernel.height; i++)
         s.weights.push_back(floats ? double(float(int(random() % 100) - 20) * 0.001f) : int(random() % 7) - 2);
@@ -460,6 +461,15 @@ TEST(General, LargeKernels) {
         expectLargeKernel<Tpx16s>(kernel, {20, 75}, 1, false, tpxBorderConstant | tpxBorderInMemRight);
         expectLargeKernel<Tpx32f>(kernel, {33, 30}, 4, true, tpxBorderMirror | tpxBorderInMemLeft);
         expectLargeKernel<Tpx16u>(kernel, {5, 9}, 1, true, tpxBorderReplicate);
+    }
+}
+
+// Sums wait for their rule a stretch at a time, the last of which may be shorter than a register.
+TEST(General, RowsOfSeveralStretches) {
+    for (const int width : {512, 513, 525, 1061}) {
+        expectLargeKernel<Tpx8u>({3, 3}, {width, 3}, 1, false, tpxBorderInMemAll, 5);
+        expectLargeKernel<Tpx8u>({5, 2}, {width, 2}, 3, false, tpxBorderInMemAll, -4);
+        expectLargeKernel<Tpx16s>({3, 3}, {width, 3}, 1, false, tpxBorderInMemAll, 7);
     }
 }
 
