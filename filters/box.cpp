@@ -31,6 +31,11 @@ struct ByProduct {
 
     explicit ByProduct(int64_t samples) : reciprocal(splat<V32f>(1.0f / float(samples))) {}
 
+    // Of eight sums, samples of 16 bits.
+    template <class D>
+    Vec<D> ofSums(Pair<V32s> sums) const {
+        return narrow<D>(toInteger(toFloat(sums) * reciprocal));
+    }
     template <class D, class Sum, class At>
     [[gnu::always_inline]] Vec<D> means(At sumsAt, ptrdiff_t i) const {
         const auto eight = [&](ptrdiff_t at) __attribute__((always_inline)) {
@@ -113,29 +118,47 @@ struct BoxMemory {
     ptrdiff_t columnBytes;
 };
 
-// Means of 3x3 or 5x5 bytes of one channel, without sums of columns: a row's sums of neighbours are shared by
-// the output rows that see it, for a few rows at a time.
-template <int Side>
+// Means of 3x3 integers and of 5x5 bytes of one channel, without sums of columns: a row's sums of neighbours
+// are shared by the output rows that see it, for a few rows at a time.
+template <int Side, class S>
 struct RowOfSums {
-    V16s even, odd; // those centred on the bytes of even number, and of odd
+    using Sums = std::conditional_t<sizeof(S) == 1, V16s, V32s>;
+    // Unsigned samples of 16 bits are lower by so much in sums.
+    static constexpr int kLower = std::is_same_v<S, Tpx16u> ? 1 << 15 : 0;
+
+    Sums even, odd; // those centred on the samples of even number, and of odd
 
     RowOfSums() = default;
-    // Of 16 bytes, whose neighbours begin at p.
-    explicit RowOfSums(const Tpx8u* p) {
-        const V8u first = load(p), last = load(p + Side - 1);
-        even = addPairs(first) + V16s(V16u(last) & splat<V16u>(0xFF));
-        odd = V16s(V16u(first) >> 8) + addPairs(last);
+    // Of a register of samples, whose neighbours begin at p.
+    explicit RowOfSums(const S* p) {
+        const auto first = samplesAt(p), last = samplesAt(p + Side - 1);
+        even = addPairs(first) + evenOf(last);
+        odd = oddOf(first) + addPairs(last);
         for (int k = 2; k < Side - 1; k += 2) {
-            const V16s middle = addPairs(load(p + k));
+            const Sums middle = addPairs(samplesAt(p + k));
             even += middle;
             odd += middle;
         }
     }
+
+ private:
+    static auto samplesAt(const S* p) {
+        if constexpr (kLower)
+            return V16s(load(p) ^ splat<Vec<S>>(S(kLower)));
+        else
+            return load(p);
+    }
+    static V16s evenOf(V8u x) { return V16s(V16u(x) & splat<V16u>(0xFF)); }
+    static V16s oddOf(V8u x) { return V16s(V16u(x) >> 8); }
+    static V32s evenOf(V16s x) { return multiplyAddPairs(x, V16s(splat<V32s>(1))); }
+    static V32s oddOf(V16s x) { return V32s(x) >> 16; }
 };
 
-template <int Side, class Mean>
-void meansOfSquare(Region<Tpx8u, Tpx8u> region, Mean mean) {
-    constexpr ptrdiff_t kBlock = kLanes<Tpx8u>;
+template <int Side, class S, class Mean>
+void meansOfSquare(Region<S, S> region, Mean mean) {
+    constexpr ptrdiff_t kBlock = kLanes<S>;
+    using Row = RowOfSums<Side, S>;
+    using Sums = typename Row::Sums;
     // Rows that lie multiples of 2048 bytes apart share a set or two of the first-level cache, which does not
     // hold a line of many of them.
     const bool share = region.src.step % 4096 == 0 || region.dst.step % 4096 == 0;
@@ -145,22 +168,30 @@ void meansOfSquare(Region<Tpx8u, Tpx8u> region, Mean mean) {
     for (int64_t y = 0; y < region.size.height; y += band) {
         const int64_t left = region.size.height - y, rows = left < band ? left : band;
         const auto column = [&](ptrdiff_t x, auto put) __attribute__((always_inline)) {
-            const Tpx8u* from = src.from(x, ptrdiff_t(y)).data;
-            Tpx8u* to = region.dst.from(x, ptrdiff_t(y)).data;
-            RowOfSums<Side> ring[Side];
-            V16s even = V16s(mean.bias), odd = even; // of the rows above the lowest one
+            const S* from = src.from(x, ptrdiff_t(y)).data;
+            S* to = region.dst.from(x, ptrdiff_t(y)).data;
+            Row ring[Side];
+            Sums even; // of the rows above the lowest one
+            if constexpr (sizeof(S) == 1)
+                even = V16s(mean.bias);
+            else
+                even = splat<V32s>(Side * Side * Row::kLower);
+            Sums odd = even;
             for (int k = 0; k < Side - 1; k++, from = addBytes(from, src.step)) {
-                ring[k] = RowOfSums<Side>(from);
+                ring[k] = Row(from);
                 even += ring[k].even;
                 odd += ring[k].odd;
             }
             for (int64_t row = 0; row < rows; row += Side)
                 unroll<Side>([&](auto k) __attribute__((always_inline)) {
                     if (row + k >= rows) return;
-                    const RowOfSums<Side> below(from);
+                    const Row below(from);
                     even += below.even;
                     odd += below.odd;
-                    put(to, V8u(mean.ofBiased(V16u(even)) | mean.ofBiased(V16u(odd)) << 8));
+                    if constexpr (sizeof(S) == 1)
+                        put(to, V8u(mean.ofBiased(V16u(even)) | mean.ofBiased(V16u(odd)) << 8));
+                    else
+                        put(to, inTurn(mean.template ofSums<S>({even, odd})));
                     even -= ring[k].even;
                     odd -= ring[k].odd;
                     ring[(k + Side - 1) % Side] = below;
@@ -168,9 +199,9 @@ void meansOfSquare(Region<Tpx8u, Tpx8u> region, Mean mean) {
                     to = addBytes(to, region.dst.step);
                 });
         };
-        const auto whole = [](Tpx8u* to, V8u means) { store(to, means); };
+        const auto whole = [](S* to, Vec<S> means) { store(to, means); };
         if (width < kBlock) {
-            column(0, [&](Tpx8u* to, V8u means) { copyShort(to, &means, width); });
+            column(0, [&](S* to, Vec<S> means) { copyShort(to, &means, width * ptrdiff_t(sizeof(S))); });
             continue;
         }
         for (ptrdiff_t x = 0; x + kBlock <= width; x += kBlock) column(x, whole);
@@ -193,10 +224,15 @@ class BoxKernel {
           byRounding_(mask.width * mask.height) {}
 
     void operator()(const Region<S, S>& region) const {
-        if constexpr (L == Layout::C1 && sizeof(S) == 1) {
-            if (mask_.width == mask_.height && (region.size.width >= kBlock || region.slack >= kBlock)) {
-                if (mask_.width == 3) return meansOfSquare<3>(region, byRounding_);
-                if (mask_.width == 5) return meansOfSquare<5>(region, byShift_);
+        if constexpr (L == Layout::C1 && std::is_integral_v<S>) {
+            if (mask_.width == mask_.height &&
+                (region.size.width >= kBlock || region.slack >= ptrdiff_t(sizeof(Vec<S>)))) {
+                if constexpr (sizeof(S) == 1) {
+                    if (mask_.width == 3) return meansOfSquare<3>(region, byRounding_);
+                    if (mask_.width == 5) return meansOfSquare<5>(region, byShift_);
+                } else if (mask_.width == 3) { // five rows of wider sums do not fit the registers
+                    return meansOfSquare<3>(region, byProduct_);
+                }
             }
         }
         if constexpr (std::is_integral_v<S>) {

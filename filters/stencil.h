@@ -302,6 +302,14 @@ struct ColumnsFirst {
     }
 };
 
+// The lanes of even number and then those of odd become lanes in their order.
+template <class V>
+inline V inTurn(V halves) {
+    constexpr V8u kControl = sizeof(LaneOf<V>) == 1 ? V8u{0, 8, 1, 9, 2, 10, 3, 11, 4, 12, 5, 13, 6, 14, 7, 15}
+                                                    : V8u{0, 1, 8, 9, 2, 3, 10, 11, 4, 5, 12, 13, 6, 7, 14, 15};
+    return V(shuffleBytes(V8u(halves), kControl));
+}
+
 // The same for 3x3 integers of one channel. Columns of even number and of odd have their sums in registers of
 // their own, and a step along the row is a shift of lanes: nothing is stored but results. A weight beside 0
 // multiplies the samples of either kind in place.
@@ -378,10 +386,8 @@ class EvenAndOdd {
         const Halves centre = products<mask.centre>(load(rows[1] + i + 1));
         sums.low += centre.even;
         sums.high += centre.odd;
-        constexpr V8u kInTurn = sizeof(D) == 1 ? V8u{0, 8, 1, 9, 2, 10, 3, 11, 4, 12, 5, 13, 6, 14, 7, 15}
-                                               : V8u{0, 1, 8, 9, 2, 3, 10, 11, 4, 5, 12, 13, 6, 7, 14, 15};
         const Several<Vec<D>, 1> byHalves = Rule()(sums);
-        return Several<Vec<D>, 1>{{Vec<D>(shuffleBytes(V8u(byHalves.at[0]), kInTurn))}};
+        return Several<Vec<D>, 1>{{inTurn(byHalves.at[0])}};
     }
 };
 
