@@ -1,34 +1,30 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Counts the operations of inner loops: what the busiest unit of a core has to do for a sample.
+"""Counts the operations of jobs: what the busiest unit of a core has to do for a sample.
 
-For each job it looks where perf finds the time, takes those loops from the library's code, asks llvm-mca for the cycles
-of an iteration in which nothing waits, and divides them by the samples that an iteration goes forward. Jobs whose time
-is not in loops over samples are left out. Writes bench/operations.inc, which bounds.cpp reads; that a machine is busy
-does not matter.
+Callgrind tells how often each instruction of the library is executed in a call. They are thrown into one heap, whatever
+loop or pass they come from, and llvm-mca tells the cycles that the heap takes a core whose units never wait, of the faster of two kinds. Divided by
+the samples of the image that is the bound of the job. Writes bench/operations.inc, which bounds.cpp reads; that a
+machine is busy does not matter.
 
     tools/setup bench operations && bench/count_operations.py [REGEX]     after bench/run has built build/bench
 
-With a REGEX the counts of jobs that match are printed, and no file is written.
+With a REGEX, the counts of jobs that match are renewed, and the others stay.
 """
-import bisect
-import collections
-import itertools
+import glob
 import os
 import re
 import subprocess
 import sys
+import tempfile
 
 BUILD = "build/bench"
 BENCH = f"{BUILD}/bench/tpx_bench"
 LIBRARY = os.path.realpath(f"{BUILD}/libtpxie9.so")
 TABLE = "bench/operations.inc"
-MODEL = "znver3"  # whose units are counted
-SHARE = 0.7  # of a job's time in the library, that has to be in loops over samples
-LOOP_SHARE = 0.05  # of a loop that is counted
-LEAST_SAMPLES = 50  # of perf
-FASTEST = 4.5  # cycles of a nanosecond, and what MODEL may be wrong by: more than a job takes are miscounted
-MEMORY = r"(-?0x[0-9a-f]+)?\((%r\w+)?(?:,(%r\w+),?(\d)?)?\)"
+MODELS = "znver3", "icelake-server"  # whose units are counted; the faster of both is the bound
+BATCH = 10  # jobs between writes of the table
+HEAP = 20000  # instructions, which stand for all of a call
 
 
 def output(*command, **options):
@@ -36,136 +32,85 @@ def output(*command, **options):
 
 
 def disassemble():
-    """The instruction of each address, and backward jumps (from, to), the shortest first."""
-    code, jumps = {}, []
+    """The instruction of each address, as llvm-mca takes it: jumps and calls have no place to go to."""
+    code = {}
     for line in output("objdump", "-d", "--no-show-raw-insn", LIBRARY).splitlines():
-        found = re.match(r" +([0-9a-f]+):\t(.*)", line)
-        if not found:
-            continue
-        at, text = int(found[1], 16), re.sub(r" *(#.*)?$", "", found[2])
-        code[at] = text
-        jump = re.match(r"j\w+ +([0-9a-f]+) ", text + " ")
-        if jump and int(jump[1], 16) < at:
-            jumps.append((at, int(jump[1], 16)))
-    return dict(sorted(code.items())), sorted(jumps, key=lambda jump: jump[0] - jump[1])
+        if found := re.match(r" +([0-9a-f]+):\t(.*)", line):
+            text = re.sub(r" *[#<].*$", "", found[2])
+            code[int(found[1], 16)] = re.sub(r"^((?:bnd |notrack )?(?:j\w+|call)) +.*", r"\1 0", text)
+    return code
 
 
-def sampled(job):
-    """How often each address of the library was found, and nanoseconds of a sample."""
-    data = f"{BUILD}/perf.{os.getpid()}.data"
-    name = re.sub(r"([.()+])", r"\\\1", job)
-    table = output("perf", "record", "-q", "-F", "5000", "-o", data, BENCH, f"--benchmark_filter=^{name}/iterations")
-    function, size = job.rsplit("/", 1)
-    time = float(re.search(rf"^{re.escape(function)} +{size} +[\d.]+ \ws +([\d.]+)", table, re.M)[1])
-    base, found = 0, collections.Counter()
-    for line in output("perf", "script", "-i", data, "-F", "ip,sym,symoff,dso", "--show-mmap-events").splitlines():
-        mapped = re.search(r"\[0x([0-9a-f]+)\(0x[0-9a-f]+\) @ (0x[0-9a-f]+|0) .*r-xp \S*libtpxie9", line)
-        at = re.match(r" *([0-9a-f]+) .*libtpxie9", line)
-        if mapped:
-            base = int(mapped[1], 16) - int(mapped[2], 16)
-        elif at and "LUT_Init" not in line:  # all jobs on tables make them before any job is run
-            found[int(at[1], 16) - base] += 1
-    os.remove(data)
-    return found, time
+def executed(path):
+    """The job and its samples of a file of callgrind's, and how often the library's instructions were executed."""
+    job, samples, counts, ours, call = None, 0, {}, False, False
+    with open(path, encoding="utf-8") as file:
+        for line in file:
+            if found := re.match(r"desc: Trigger: Client Request: (.*) = (\d+)$", line):
+                job, samples = found[1], int(found[2])
+            elif line.startswith("ob="):
+                ours = "libtpxie9" in line
+            elif line.startswith("calls="):
+                call = True  # the next line has the costs of what was called
+            elif line.startswith("0x"):
+                if ours and not call:
+                    at, count = line.split()[:2]
+                    counts[int(at, 16)] = counts.get(int(at, 16), 0) + int(count)
+                call = False
+    return job, samples, counts
 
 
-def loops_of(found, jumps):
-    """The innermost loops that have some of the time, as (share, last, first)."""
-    total = sum(found.values())
-    if total < LEAST_SAMPLES:
-        return []
-
-    places = sorted(found)
-    sums = [0, *itertools.accumulate(found[at] for at in places)]
-
-    def share(jump):
-        return (sums[bisect.bisect_right(places, jump[0])] - sums[bisect.bisect_left(places, jump[1])]) / total
-
-    loops = []
-    for jump in jumps:
-        if share(jump) >= LOOP_SHARE and not any(jump[1] <= inner[1] <= jump[0] for inner in loops):
-            loops.append(jump)
-    return [(share(jump), *jump) for jump in loops]
+def cycles_of(counts, code):
+    """Of all that was executed, from a heap of fewer instructions in the same proportions."""
+    total = sum(counts.values())
+    heap, due = [], 0.0
+    for at in sorted(counts):
+        due += counts[at] * HEAP / total
+        heap += [code[at]] * int(due)
+        due -= int(due)
+    # A repeated store is a single instruction, but counted as often as it stores.
+    text = "\n".join(line for line in heap if not line.startswith(("nop", "endbr", "data16", "rep ")))
+    least = min(float(re.search(r"Block RThroughput: +([\d.]+)", output(
+        "llvm-mca", f"-mcpu={model}", "-iterations=1", "--instruction-info=0", "--resource-pressure=0",
+        input=text))[1]) for model in MODELS)
+    return least * total / HEAP
 
 
-def number(text):
-    """As objdump writes it: with a sign, or as 64 bits."""
-    value = int(text, 16)
-    return value - (1 << 64) if value >= 1 << 63 else value
-
-
-def steps_of(lines):
-    """By how much an iteration changes each register."""
-    steps = collections.defaultdict(int)
-    for line in lines:
-        if found := re.match(r"(add|sub) +\$(-?0x[0-9a-f]+),(%r\w+)$", line):
-            steps[found[3]] += number(found[2]) * (1 if found[1] == "add" else -1)
-        elif found := re.match(r"(inc|dec) +(%r\w+)$", line):
-            steps[found[2]] += 1 if found[1] == "inc" else -1
-        elif (found := re.match(r"lea +(-?0x[0-9a-f]+)\((%r\w+)\),(%r\w+)$", line)) and found[2] == found[3]:
-            steps[found[3]] += number(found[1])
-    return steps
-
-
-def samples_of(lines, job):
-    """Samples that an iteration goes forward: of the source or of the result, whichever is narrower there."""
-    types = re.search(r"_(\d\w*?)_", job)[1]
-    bits = [int(text) for text in re.findall(r"(\d+)[usf]", types)]
-    steps = steps_of(lines)
-
-    def least(pattern):
-        moved = (abs(steps[found[2]] + steps[found[3]] * int(found[4] or 1))
-                 for line in lines if "%rsp" not in line and (found := re.match(pattern, line)))
-        return min((step for step in moved if step), default=0)
-
-    loads, stores = least(rf"v\w+ +(?:\$\w+,)?{MEMORY},"), least(rf"v?mov\w* +.*,{MEMORY}$")
-    if stores and (not loads or stores <= loads):
-        return stores * 8 / bits[-1]
-    return loads * 8 / bits[0]
-
-
-def cycles_of(lines):
-    text = "\n".join(re.sub(r"^(j\w+) +.*", r"\1 0", line) for line in lines if not line.startswith("nop"))
-    found = re.search(r"Block RThroughput: +([\d.]+)", output("llvm-mca", f"-mcpu={MODEL}", input=text))
-    return float(found[1])
-
-
-def count(job, code, jumps):
-    """Cycles of a sample and what they come from, or None and why there are none."""
-    found, time = sampled(job)
-    cycles, instructions, share = 0, 0, 0
-    for part, last, first in loops_of(found, jumps):
-        lines = [code[at] for at in range(first, last + 1) if at in code]
-        samples = samples_of(lines, job)
-        if samples and not any("call" in line for line in lines):
-            cycles += cycles_of(lines) / samples
-            instructions += len(lines)
-            share += part
-    if share < SHARE:
-        return None, "not in loops over samples"
-    if cycles > time * FASTEST:
-        return None, f"{cycles:.4f} cycles are more than the time"
-    return cycles, f"{instructions} instructions, {share:.2f} of the time, {cycles / time:.2f} cycles/ns"
+def count(jobs, code):
+    """Cycles of a sample, by job."""
+    cycles = {}
+    with tempfile.TemporaryDirectory() as folder:
+        names = "|".join(re.sub(r"([.()+])", r"\\\1", job) for job in jobs)
+        output("valgrind", "-q", "--tool=callgrind", "--dump-instr=yes", "--dump-line=no", "--compress-strings=no",
+               "--compress-pos=no", "--instr-atstart=no", f"--callgrind-out-file={folder}/out",
+               BENCH, f"--benchmark_filter=^({names})/iterations")
+        for path in glob.glob(f"{folder}/out*"):
+            job, samples, counts = executed(path)
+            if job and counts:
+                cycles[job] = cycles_of(counts, code) / samples
+    return cycles
 
 
 def main():
-    wanted = sys.argv[1] if len(sys.argv) > 1 else ""
-    code, jumps = disassemble()
-    table = []
+    wanted = sys.argv[1] if len(sys.argv) > 1 else "."
+    table = {}
+    with open(TABLE, encoding="utf-8") as file:
+        known = dict(re.findall(r'^\{"(.*)", ([\d.]+)\},$', file.read(), re.M))
+    code = disassemble()
     for line in output(BENCH, "--benchmark_list_tests").splitlines():
         job = re.sub(r"/iterations.*", "", line)
         function, size = job.rsplit("/", 1)
-        # An inner loop does not know its image's size. Passes of resizes go over other samples than the results.
-        if size != "640x480" or not re.search(wanted, function):
-            continue
-        cycles, why = count(job, code, jumps)
-        print(f"{job}: {cycles:.4f} cycles, {why}" if cycles else f"{job}: {why}", flush=True)
-        if cycles:
-            table.append(f'{{"{function}", {cycles:.4f}}},')
-    if not wanted:
+        # What a sample needs depends little on the image, but on both sizes of a resize.
+        if re.match(r"640x480|1920x1080 to ", size):
+            table[job if " to " in size else function] = job
+    jobs = [job for job in table.values() if re.search(wanted, job)]
+    for start in range(0, len(jobs), BATCH):
+        for job, cycles in count(jobs[start:start + BATCH], code).items():
+            print(f"{job}: {cycles:.4f} cycles", flush=True)
+            known[next(key for key in table if table[key] == job)] = f"{cycles:.4f}"
         with open(TABLE, "w", encoding="utf-8") as out:
             out.write("// SPDX-License-Identifier: Apache-2.0\n// Written by bench/count_operations.py.\n")
-            out.write("\n".join(table) + "\n")
+            out.writelines(f'{{"{key}", {known[key]}}},\n' for key in table if key in known)
 
 
 if __name__ == "__main__":

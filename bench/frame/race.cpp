@@ -4,6 +4,11 @@
 #include "clock.h"
 
 #include <benchmark/benchmark.h>
+#if __has_include(<valgrind/callgrind.h>)
+#include <valgrind/callgrind.h>
+#else
+#define RUNNING_ON_VALGRIND 0
+#endif
 
 #include <algorithm>
 #include <chrono>
@@ -60,6 +65,20 @@ Row race(Job job, const std::vector<Contender>& contenders) {
     return row;
 }
 
+std::string nameOf(const Job& job) { return job.function + "/" + job.size; }
+
+// For count_operations.py: callgrind counts a call of the library's function, with the job's name and its
+// samples.
+void count([[maybe_unused]] const Job& job, [[maybe_unused]] const Contender& ours) {
+#ifdef CALLGRIND_START_INSTRUMENTATION
+    CALLGRIND_START_INSTRUMENTATION;
+    ours.run();
+    CALLGRIND_STOP_INSTRUMENTATION;
+    const std::string label = nameOf(job) + " = " + std::to_string(static_cast<long>(job.samples));
+    CALLGRIND_DUMP_STATS_AT(label.c_str());
+#endif
+}
+
 } // namespace
 
 const Time* Row::find(const std::string& name) const {
@@ -69,11 +88,16 @@ const Time* Row::find(const std::string& name) const {
 }
 
 void addJob(Job job, std::function<std::vector<Contender>()> prepare) {
-    const std::string name = job.function + "/" + job.size;
+    const std::string name = nameOf(job);
     if (registered.empty() || registered.back() != job.function) registered.push_back(job.function);
     benchmark::RegisterBenchmark(name.c_str(),
                                  [job = std::move(job), prepare = std::move(prepare)](benchmark::State& state) {
                                      for (auto _ : state) try {
+                                             if (RUNNING_ON_VALGRIND) {
+                                                 count(job, prepare().front());
+                                                 state.SetIterationTime(1);
+                                                 continue;
+                                             }
                                              const Row row = race(job, prepare());
                                              state.SetIterationTime(row.ours().best);
                                              for (const Time& other : row.times)
