@@ -45,13 +45,15 @@ template <Steps K, Layout L, class S, class D, class Rule>
 inline TpxStatus convert(ImageView<const S> src, ImageView<D> dst, TpxiSizeL roi, Rule rule) {
     if (const TpxStatus status = checkConvert<K>(src, dst, roi)) return status;
     const Extent samples = samplesOf(roi, channelsOf(L));
+    constexpr bool kWidens = sizeof(D) > sizeof(S); // so that it is mostly stores
     if constexpr (L == Layout::AC4)
         walkJoined(
-            samples, [&](ptrdiff_t len, D* d, const S* s) { convertKeepingAlpha(s, d, len, rule); }, dst, src);
+            samples, [&](ptrdiff_t len, D* d, const S* s) { convertKeepingAlpha<kWidens>(s, d, len, rule); },
+            dst, src);
     else
         walkStreaming(
             convertStreams(src, dst, samples), samples,
-            [&](ptrdiff_t len, D* d, const S* s) { convertRun(s, d, len, rule); },
+            [&](ptrdiff_t len, D* d, const S* s) { convertRun<kWidens>(s, d, len, rule); },
             [&](ptrdiff_t len, D* d, const S* s) { convertRunStreaming(s, d, len, rule); }, dst, src);
     return tpxOk;
 }

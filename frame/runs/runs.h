@@ -206,10 +206,6 @@ inline void padRun(T (&padded)[N], const T* src, ptrdiff_t len) {
     for (ptrdiff_t i = 0; i < N; i++) __builtin_memcpy(padded + i, src + (i < len ? i : len - 1), sizeof(T));
 }
 
-// Results wider than their samples are mostly stores.
-template <class S, class D>
-inline constexpr bool kWidens = sizeof(D) > sizeof(S);
-
 // dst[i...] = rule(src + i), where both have samples of their own types: rule(p) makes a register of results
 // from as many samples at p. It is copied: what a caller's rule holds would be loaded, or made, anew after
 // every store.
@@ -219,17 +215,17 @@ inline Vec<D> convertShort(const S* src, ptrdiff_t len, Rule&& rule) {
     padRun(padded, src, len);
     return rule(padded);
 }
-template <class S, class D, class Rule>
+template <bool IsLight = false, class S, class D, class Rule>
 inline void convertRun(const S* src, D* dst, ptrdiff_t len, Rule rule) {
-    writeRun<kWidens<S, D>>(
+    writeRun<IsLight>(
         dst, len, samplesToBoundary(dst), [&](ptrdiff_t i) { return rule(src + i); },
         [&] { return convertShort<D>(src, len, rule); });
 }
 
 // The same on pixels of four samples, whose fourth is left as it was; the length is in samples.
-template <class S, class D, class Rule>
+template <bool IsLight = false, class S, class D, class Rule>
 inline void convertKeepingAlpha(const S* src, D* dst, ptrdiff_t len, Rule rule) {
-    writeRun<kWidens<S, D>>(
+    writeRun<IsLight>(
         dst, len, 0, [&](ptrdiff_t i) { return keepAlpha<D>(load(dst + i), rule(src + i)); },
         [&] { return keepAlpha<D>(loadShort(dst, len), convertShort<D>(src, len, rule)); });
 }
