@@ -55,7 +55,8 @@ struct RegisterArray {
     RegisterArray() = default;
     RegisterArray(const RegisterArray& from) { *this = from; }
     RegisterArray& operator=(const RegisterArray& from) {
-        for (int k = 0; k < N; k++) at[k] = from.at[k];
+        if (this != &from)
+            for (int k = 0; k < N; k++) at[k] = from.at[k];
         return *this;
     }
     V& operator[](int k) { return at[k]; }
