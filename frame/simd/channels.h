@@ -79,8 +79,9 @@ inline V8u chooseThirds(V8u a, V8u b, V8u c) {
             for (int u = 0; u < 8; u++) mask |= (2 * u / Bytes % 3 == wanted) << u;
             return mask;
         };
-        const __m128i ac = _mm_blend_epi16(__m128i(c), __m128i(a), units(A));
-        return V8u(_mm_blend_epi16(ac, __m128i(b), units(B)));
+        constexpr int ofA = units(A), ofB = units(B);
+        const __m128i ac = _mm_blend_epi16(__m128i(c), __m128i(a), ofA);
+        return V8u(_mm_blend_epi16(ac, __m128i(b), ofB));
     }
 }
 
