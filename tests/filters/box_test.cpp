@@ -210,13 +210,15 @@ TEST(Box, FloatsInPlaceAreThoseOutOfPlace) {
     };
     const TpxiSize tall = {60, 700}, wide = {17000, 3}; // rows that are longer than the bands of others
     for (const Form<Tpx32f>& form : forms<Tpx32f>())
-        for (const auto& [size, mask] : {Case{tall, {7, 9}},
-                                         {tall, {3, 6}},
-                                         {tall, {16, 14}},
-                                         {tall, {21, 40}},
-                                         {wide, {1, 1}},
-                                         {wide, {3, 1}},
-                                         {wide, {1, 2}}}) {
+        for (const Case& c : {Case{tall, {7, 9}},
+                              {tall, {3, 6}},
+                              {tall, {16, 14}},
+                              {tall, {21, 40}},
+                              {wide, {1, 1}},
+                              {wide, {3, 1}},
+                              {wide, {1, 2}}}) {
+            const TpxiSize size = c.size;
+            const FilterMask mask = c.mask;
             FilterSource<Tpx32f> src(size.width, size.height, form.channels, mask, tpxBorderMirror, {}, 1);
             src.image().fill([](int x, int y, int k) {
                 return float((x * 7919 + y * 104729 + k * 31) % 10007) * (y % 50 == 0 ? 1e5f : 0.1f);
