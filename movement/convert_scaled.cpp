@@ -85,7 +85,9 @@ requires(std::is_signed_v<D>) struct Truncate<D, V16s> {
     explicit Truncate(int n)
         : factor(splat<V16s>(n > 15 ? 0 : Tpx16s(1 << (15 - n)))),
           lessHalf(splat<V16s>(n > 15 ? 0 : Tpx16s(-(1 << (n - 1))))) {}
-    V16s operator()(V16s x) const { return multiplyRounded(x + (lessHalf ^ V16s(x < V16s{})), factor); }
+    V16s operator()(V16s x) const { // where the factor is 0 the sum may wrap
+        return multiplyRounded(V16s(V16u(x) + V16u(lessHalf ^ V16s(x < V16s{}))), factor);
+    }
 };
 
 // Shifted left by k > 0.
