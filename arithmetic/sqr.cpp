@@ -67,7 +67,7 @@ struct Sqr {
                 // No sample above 15 stays below saturation: the 16 results that there are make a table.
                 Table16<Tpx8u> table;
                 table.bytes = growing(V8u{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15});
-                return call.map([table](V8u x) { return lookupOrMax(table, x); });
+                return call.map(Light{[table](V8u x) { return lookupOrMax(table, x); }});
             } else {
                 if (n == 0) return call.map([](Vec<T> x) { return squareSaturated(x); });
                 return call.map(growing);
