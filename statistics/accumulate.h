@@ -10,6 +10,7 @@
 //   kTwice               whether a sample may be taken twice
 //   kFiller              fills up the step of a run that is shorter: a sample that changes nothing
 //   kSteps               how many steps they have room for, before any lane can overflow
+//   kShort               whether they are so few operations that an iteration takes two
 // Those of sums also have
 //   Total                what they are carried to: exact sums of channels, or registers of doubles
 //   kPeriod              of those, as many as hold whole pixels
@@ -207,8 +208,13 @@ template <class Lanes, class... Src>
     ptrdiff_t i = 0;
     for (ptrdiff_t steps = len / kStep; steps > 0;) {
         const ptrdiff_t some = steps < carried.room ? steps : carried.room;
-        for (const ptrdiff_t end = i + some * kStep; i < end; i += kStep)
-            lanes.take(loadStep<Lanes>(src + i)...);
+        const ptrdiff_t end = i + some * kStep;
+        if constexpr (Lanes::kShort) {
+#pragma GCC unroll 2
+            for (; i < end; i += kStep) lanes.take(loadStep<Lanes>(src + i)...);
+        } else {
+            for (; i < end; i += kStep) lanes.take(loadStep<Lanes>(src + i)...);
+        }
         steps -= some;
         carried.spend(lanes, some);
     }

@@ -79,7 +79,7 @@ struct ExtremeLanes {
     using Register = Vec<T>;
     static constexpr int kChannels = C;
     static constexpr int kRegisters = N;
-    static constexpr bool kTwice = true;
+    static constexpr bool kTwice = true, kShort = true;
     static constexpr T kFiller = Side::template kStart<T>;
     static constexpr ptrdiff_t kSteps = kEndless;
 
@@ -135,6 +135,7 @@ struct LeastAndMostLanes {
     using MostLanes = ExtremeLanes<T, C, Most, LeastLanes::kRegisters>;
     static constexpr int kRegisters = LeastLanes::kRegisters;
     static constexpr ptrdiff_t kSteps = LeastLanes::kSteps;
+    static constexpr bool kShort = true;
 
     LeastLanes least;
     MostLanes most;

@@ -20,6 +20,7 @@ struct SumsOf {
     using Register = Vec<T>;
     using Total = Sum;
     static constexpr int kRegisters = N, kChannels = C;
+    static constexpr bool kShort = false;
     static constexpr bool kTwice = false;
     static constexpr T kFiller = 0;
 };
