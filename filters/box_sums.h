@@ -125,11 +125,16 @@ struct WindowTile {
     // Whether the neighbours of a tile have room.
     static bool canSum(int64_t count, int N) { return (count - 1) * N <= kReach; }
 
+    // The entries themselves, in powers.
     template <class From>
-    void sum(const From* from, ptrdiff_t length, int64_t count, int N) {
+    void convert(const From* from, ptrdiff_t length, int64_t count, int N) {
         const ptrdiff_t all = length + ptrdiff_t(count - 1) * N;
         convertRun(from, powers, all, [](const From* p) { return sumsFrom<Sum>(p); });
         store(powers + all, Vec<Sum>{}); // registers are whole
+    }
+    template <class From>
+    void sum(const From* from, ptrdiff_t length, int64_t count, int N) {
+        convert(from, length, count, N);
         sumPadded(powers, length, count, N);
     }
     // Of entries behind which a register's bytes can be read.

@@ -33,6 +33,24 @@ constexpr bool sumFits(int64_t samples) {
 
 // ---- Rows -------------------------------------------------------------------------------------------------
 
+// Windows of so few samples are added one by one, which takes fewer passes over a tile.
+constexpr int kFewSamples = 8;
+
+template <int N>
+void sumFew(const Tpx32s* from, Tpx32f* to, ptrdiff_t length, int count) {
+    const auto sumsAt = [=](ptrdiff_t i) {
+        const Tpx32s* p = from + i;
+        Pair<V32s> sums{load(p), load(p + 4)};
+        for (int k = 1; k < count; k++) {
+            p += N;
+            sums.low += load(p);
+            sums.high += load(p + 4);
+        }
+        return toFloat(sums);
+    };
+    writeRun(to, length, samplesToBoundary(to), sumsAt, [&] { return sumsAt(0); }); // from has room behind
+}
+
 template <int N, class S>
 TpxStatus sumRows(const SumCall<S>& call) {
     if (const TpxStatus status = checkSum(call); status != tpxOk) return status;
@@ -50,8 +68,13 @@ TpxStatus sumRows(const SumCall<S>& call) {
         constexpr ptrdiff_t kTile = WindowTile<Tpx32s>::kLength;
         for (ptrdiff_t x = 0; x < length; x += kTile) {
             const ptrdiff_t part = length - x < kTile ? length - x : kTile;
-            tile.sum(from + x, part, call.mask, N);
-            convertRun(tile.sums, to + x, part, [](const Tpx32s* p) { return loadAs<Tpx32f>(p); });
+            if (call.mask <= kFewSamples) {
+                tile.convert(from + x, part, call.mask, N);
+                sumFew<N>(tile.powers, to + x, part, call.mask);
+            } else {
+                tile.sum(from + x, part, call.mask, N);
+                convertRun(tile.sums, to + x, part, [](const Tpx32s* p) { return loadAs<Tpx32f>(p); });
+            }
         }
     }
     return tpxOk;
