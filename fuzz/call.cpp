@@ -52,6 +52,21 @@ void require(bool kept, const Export& e, const char* promise) {
     std::abort();
 }
 
+bool sameSamples(const uint8_t* a, const uint8_t* b, size_t bytes, const std::string& type) {
+    const auto areSame = [&](auto x, auto y) {
+        for (size_t i = 0; i < bytes; i += sizeof x) {
+            std::memcpy(&x, a + i, sizeof x);
+            std::memcpy(&y, b + i, sizeof y);
+            const bool areNaN = x != x && y != y;
+            if (!areNaN && std::memcmp(a + i, b + i, sizeof x) != 0) return false;
+        }
+        return true;
+    };
+    return type == "32f"   ? areSame(0.0f, 0.0f)
+           : type == "64f" ? areSame(0.0, 0.0)
+                           : std::memcmp(a, b, bytes) == 0;
+}
+
 void fill(Bytes& bytes, uint8_t* to, size_t count, const std::string& type) {
     const std::vector<uint8_t>& pool = samplesOf(bytes.once(2) ? "" : type);
     const size_t sample = type.empty() ? 1 : sampleBytes(type);

@@ -27,6 +27,8 @@ void run(Bytes& bytes);
 
 // Ends the program if the library broke a promise.
 void require(bool kept, const Export& e, const char* promise);
+// Whether these bytes are the same samples. NaN is NaN: which of several comes out depends on their order.
+bool sameSamples(const uint8_t* a, const uint8_t* b, size_t bytes, const std::string& type);
 
 // The largest plan, and the largest image that is worked on.
 constexpr size_t kMaxPlan = 4 << 20, kMaxImage = 1 << 20;

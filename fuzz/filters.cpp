@@ -96,10 +96,10 @@ class Filter {
         mask_ = {side(), side()};
         if (e_.operation.starts_with("FilterMedian") && !bytes_.once(8)) mask_.width |= 1, mask_.height |= 1;
         if (e_.param("mask")) {
-            const bool isFive = bytes_.once(2);
-            mask_ = {isFive ? 5 : 3, isFive ? 5 : 3};
-            maskWord_ = isFive ? 55 : 33;
+            maskWord_ = bytes_.once(2) ? 55 : 33;
             spoil(maskWord_);
+            const bool isFive = maskWord_ == 55;
+            mask_ = {isFive ? 5 : 3, isFive ? 5 : 3};
         }
         if (e_.param("weight")) mask_ = {3, 3};
         if (e_.param("anchor")) anchor_ = {bytes_.below(mask_.width), bytes_.below(mask_.height)};
@@ -115,8 +115,9 @@ class Filter {
             (isRow ? anchor_.y : anchor_.x) = 0;
         }
         // What is refused needs no memory around it.
-        isRefused_ = mask_.width < 1 || mask_.height < 1 || anchor_.x < 0 || anchor_.y < 0 ||
-                     anchor_.x >= mask_.width || anchor_.y >= mask_.height;
+        const bool isOutside =
+            anchor_.x < 0 || anchor_.y < 0 || anchor_.x >= mask_.width || anchor_.y >= mask_.height;
+        isRefused_ = mask_.width < 1 || mask_.height < 1 || (isOutside && e_.operation != "FilterBox");
     }
 
     // The work buffer, and of the general filter the block too; null if there is none to be had.

@@ -209,9 +209,9 @@ class Resize {
         const uint8_t* const first = src.data() + from.y * src.step() + from.x * pixelBytes();
         require(process(call, t, first, src.step(), dst, border) == tpxOk, call, "a tile succeeds");
         for (int64_t y = 0; y < t.height; y++)
-            require(std::memcmp(dst.data() + y * dst.step(),
+            require(sameSamples(dst.data() + y * dst.step(),
                                 all.data() + (t.y + y) * all.step() + t.x * pixelBytes(),
-                                size_t(dst.rowBytes())) == 0,
+                                size_t(dst.rowBytes()), type_),
                     call, "tiles have the pixels of one call");
     }
 

@@ -170,7 +170,7 @@ class Warp {
         if (process(call, t, first, src.step(), dst) < 0 || process(call, whole, first, src.step(), all) < 0)
             return;
         rows([&](const uint8_t* tile, const uint8_t* whole, size_t n) {
-            require(std::memcmp(tile, whole, n) == 0, call, "tiles have the pixels of one call");
+            require(sameSamples(tile, whole, n, type_), call, "tiles have the pixels of one call");
         });
     }
 
