@@ -25,8 +25,8 @@ set label 2 subtitle tc rgb '#555555' at screen 0.012, screen 1 - 46 / height
 set label 3 '■ zimg' tc rgb '#2f7040' at screen 0.235, screen 1 - 86 / height
 set label 4 '■ libyuv' tc rgb '#e6842a' at screen 0.29, screen 1 - 86 / height
 set label 5 '■ libyuv, other ways' tc rgb '#e0b080' at screen 0.35, screen 1 - 86 / height
-set label 6 '■ OpenCV' tc rgb '#a63d40' at screen 0.45, screen 1 - 86 / height
-set label 8 '■ FFTW' tc rgb '#7b4ea7' at screen 0.505, screen 1 - 86 / height
+set label 6 '■ OpenCV' tc rgb '#a63d40' at screen 0.465, screen 1 - 86 / height
+set label 8 '■ FFTW' tc rgb '#7b4ea7' at screen 0.525, screen 1 - 86 / height
 set style fill solid 1.0 noborder
 set border 0
 set tics scale 0
