@@ -4,6 +4,7 @@
 #include "frame/entry/entry.h"
 #include "frame/images/pointwise.h"
 #include "geometry/resize/super_bytes.h"
+#include "geometry/resize/super_halves.h"
 #include "geometry/resize/super_rows.h"
 #include "geometry/resize/super_turned.h"
 
@@ -31,6 +32,12 @@ TpxStatus resizeSuper(const TileCall<T>& call) {
             Extent{tile.width * N * ptrdiff_t(sizeof(T)), tile.height}, [](V8u bytes) { return bytes; },
             bytesOf(tile.dst), bytesOf(call.src));
         return doneTile(call);
+    }
+    if constexpr (N == 1) {
+        if (halvesBoth(tile.plan)) {
+            averageHalves(tile);
+            return doneTile(call);
+        }
     }
     if constexpr (std::is_same_v<T, Tpx8u>)
         if (averageInIntegers<N>(tile)) return doneTile(call);
